@@ -1,0 +1,3 @@
+#include "QVRNameUtility.h"
+
+int HALVERN_WORKS_UXM2_INTERNAL_QVRNameUtility() { return 1; }

@@ -1,0 +1,33 @@
+# What every target of this project is built with.
+
+set(CMAKE_CXX_STANDARD 20)
+set(CMAKE_CXX_STANDARD_REQUIRED ON)
+set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_CXX_VISIBILITY_PRESET hidden)
+set(CMAKE_VISIBILITY_INLINES_HIDDEN ON)
+set(CMAKE_POSITION_INDEPENDENT_CODE ON)
+set(CMAKE_RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/bin)
+set(CMAKE_LIBRARY_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/lib)
+
+set(QVR_SANITIZERS "" CACHE STRING "Sanitizers to build with, such as address,undefined")
+
+add_compile_options(-Wall -Wextra -Wpedantic -Wconversion -Wshadow -Werror)
+
+if(QVR_SANITIZERS)
+  add_compile_options(-fsanitize=${QVR_SANITIZERS} -fno-sanitize-recover=all -fno-omit-frame-pointer)
+  add_link_options(-fsanitize=${QVR_SANITIZERS})
+endif()
+
+# A shared library of this project: nothing left undefined, so that a layer which reaches
+# for what it may not see fails at link. Clang's sanitizer runtime lives in the program, so
+# that check is left to the other builds there.
+function(qvr_shared_library name)
+  add_library(${name} SHARED ${ARGN})
+  if(NOT QVR_SANITIZERS)
+    target_link_options(${name} PRIVATE -Wl,-z,defs)
+  endif()
+  # Symbols that the loader keeps unique for the life of the process would pin the library.
+  if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
+    target_compile_options(${name} PRIVATE -fno-gnu-unique)
+  endif()
+endfunction()

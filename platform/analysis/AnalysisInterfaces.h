@@ -1,0 +1,23 @@
+#pragma once
+
+// Every interface of an analysis document.
+#include "analysis/QVRIPropagatingFeature.h"
+#include "analysis/QVRISamAnalysisConnectionDesign.h"
+#include "analysis/QVRISamGroupExt.h"
+#include "analysis/QVRIStep.h"
+#include "analysis/ZFXIAlias.h"
+#include "analysis/ZFXILinkableObject.h"
+#include "analysis/ZFXIMSHMeshManager.h"
+#include "analysis/ZFXIMSHMeshPart.h"
+#include "analysis/ZFXIMaterialFeature.h"
+#include "analysis/ZFXISamAnalysisCase.h"
+#include "analysis/ZFXISamAnalysisConnector.h"
+#include "analysis/ZFXISamAnalysisEntity.h"
+#include "analysis/ZFXISamAnalysisModel.h"
+#include "analysis/ZFXISamAnalysisScan.h"
+#include "analysis/ZFXISamAnalysisSet.h"
+#include "analysis/ZFXISamAnalysisSupport.h"
+#include "analysis/ZFXISamExplicit.h"
+#include "analysis/ZFXISpecAttrAccess.h"
+#include "analysis/ZFXISpecAttribute.h"
+#include "analysis/ZFXISpecObject.h"

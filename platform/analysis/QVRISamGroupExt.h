@@ -1,0 +1,10 @@
+#pragma once
+
+#include "object-model/ZFXInterfaces.h"
+
+/// A group: its display name is the group name.
+class ZFX_PLATFORM_EXPORT QVRISamGroupExt : public ZFXBaseUnknown {
+    ZFX_DECLARE_INTERFACE(QVRISamGroupExt)
+};
+
+using QVRISamGroupExt_var = ZFXHandle<QVRISamGroupExt>;

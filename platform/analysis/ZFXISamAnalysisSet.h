@@ -1,0 +1,14 @@
+#pragma once
+
+#include "analysis/ZFXISpecObject.h"
+#include "object-model/ZFXInterfaces.h"
+
+/// An analysis set: a container of member features of one kind.
+class ZFX_PLATFORM_EXPORT ZFXISamAnalysisSet : public ZFXBaseUnknown {
+    ZFX_DECLARE_INTERFACE(ZFXISamAnalysisSet)
+
+    /// The member features, in order; CLSID_ZFXBaseUnknown takes them all, `flag` is 0. [appends]
+    virtual HRESULT ListMembers(ZFXListValZFXISpecObject_var& members, const IID& filter, int flag) = 0;
+};
+
+using ZFXISamAnalysisSet_var = ZFXHandle<ZFXISamAnalysisSet>;

@@ -1,0 +1,14 @@
+#pragma once
+
+#include "analysis/ZFXAnalysisExplicitChild.h"
+#include "object-model/ZFXInterfaces.h"
+
+/// An object with explicit data for the solver.
+class ZFX_PLATFORM_EXPORT ZFXISamExplicit : public ZFXBaseUnknown {
+    ZFX_DECLARE_INTERFACE(ZFXISamExplicit)
+
+    /// Fills in the explicit child; `flag` is 1.
+    virtual HRESULT GetExplicitChild(ZFXAnalysisExplicitChild& child, int flag) = 0;
+};
+
+using ZFXISamExplicit_var = ZFXHandle<ZFXISamExplicit>;

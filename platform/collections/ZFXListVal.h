@@ -1,0 +1,61 @@
+#pragma once
+
+#include "collections/ZFXCollec.h"
+#include "text/ZFXUnicodeString.h"
+
+#include <algorithm>
+#include <cstddef>
+#include <vector>
+
+/// An ordered list of values, counted from 1 to Size(). Duplicates are kept; order is insertion order. A copy
+/// holds the same elements (handles are copied, the objects behind them are not).
+template <class Element>
+class ZFXListVal {
+public:
+    int Size() const noexcept { return static_cast<int>(m_elements.size()); }
+
+    /// The element at index i. Outside 1 to Size() an empty element is given, so that no index is undefined.
+    const Element& operator[](int i) const {
+        static const Element kNone{};
+        return Holds(i) ? m_elements[Slot(i)] : kNone;
+    }
+    Element& operator[](int i) {
+        if (Holds(i))
+            return m_elements[Slot(i)];
+        m_outside = Element{};
+        return m_outside;
+    }
+
+    void Append(const Element& x) { m_elements.push_back(x); }
+    void Append(Element&& x) { m_elements.push_back(std::move(x)); }
+
+    /// The index of the first element equal to x at or after index `from`; 0 when there is none.
+    int Locate(const Element& x, int from = 1) const {
+        const auto start = m_elements.begin() + std::clamp(from - 1, 0, Size());
+        const auto found = std::find(start, m_elements.end(), x);
+        return found == m_elements.end() ? 0 : static_cast<int>(found - m_elements.begin()) + 1;
+    }
+    /// How many elements equal x.
+    int NbOccur(const Element& x) const {
+        return static_cast<int>(std::count(m_elements.begin(), m_elements.end(), x));
+    }
+    /// Removes the element at index i; the later ones move up. Outside 1 to Size() nothing happens.
+    void RemovePosition(int i) {
+        if (Holds(i))
+            m_elements.erase(m_elements.begin() + (i - 1));
+    }
+    void RemoveAll(ZFXCollec::MemoryHandling /*storage goes as well*/ = ZFXCollec::ReleaseAllocation) {
+        std::vector<Element>().swap(m_elements);
+    }
+    /// Makes room for n elements at once.
+    void Reserve(int n) { m_elements.reserve(static_cast<std::size_t>(std::max(n, 0))); }
+
+private:
+    bool Holds(int i) const noexcept { return i >= 1 && i <= Size(); }
+    static std::size_t Slot(int i) noexcept { return static_cast<std::size_t>(i - 1); }
+
+    std::vector<Element> m_elements;
+    Element m_outside{};
+};
+
+using ZFXListValZFXUnicodeString = ZFXListVal<ZFXUnicodeString>;

@@ -1,0 +1,73 @@
+#include "errors/MessageCatalog.h"
+
+#include <dlfcn.h>
+
+#include <filesystem>
+#include <fstream>
+#include <map>
+#include <mutex>
+
+namespace MessageCatalog {
+namespace {
+
+using Texts = std::map<std::string, ZFXUnicodeString, std::less<>>;
+
+std::string FolderBesideThisLibrary() {
+    Dl_info info{};
+    if (dladdr(reinterpret_cast<const void*>(&Find), &info) == 0 || info.dli_fname == nullptr)
+        return "msgcatalog";
+    return (std::filesystem::path(info.dli_fname).parent_path() / "msgcatalog").string();
+}
+
+std::string_view Trim(std::string_view text) noexcept {
+    const auto first = text.find_first_not_of(" \t\r");
+    return first == std::string_view::npos ? std::string_view()
+                                           : text.substr(first, text.find_last_not_of(" \t\r") - first + 1);
+}
+
+Texts Read(const std::string& file) {
+    Texts texts;
+    std::ifstream in(file, std::ios::binary);
+    for (std::string line; std::getline(in, line);) {
+        const std::string_view row = Trim(line);
+        const auto equals = row.find('=');
+        if (row.empty() || row.front() == '#' || equals == std::string_view::npos)
+            continue;
+        texts.insert_or_assign(std::string(Trim(row.substr(0, equals))),
+                               ZFXUnicodeString(std::string(Trim(row.substr(equals + 1))).c_str()));
+    }
+    return texts;
+}
+
+/// Messages are asked for by any thread that got a refusal.
+struct Catalogs {
+    std::mutex guard;
+    std::string folder = FolderBesideThisLibrary();
+    std::map<std::string, Texts> known;
+};
+
+Catalogs& State() {
+    static auto* const state = new Catalogs; // refusals may be read until the process ends
+    return *state;
+}
+
+} // namespace
+
+std::optional<ZFXUnicodeString> Find(const std::string& catalog, std::string_view key) {
+    Catalogs& state = State();
+    const std::lock_guard lock(state.guard);
+    auto known = state.known.find(catalog);
+    if (known == state.known.end())
+        known = state.known.emplace(catalog, Read(state.folder + "/" + catalog + ".catalog")).first;
+    const auto text = known->second.find(key);
+    return text == known->second.end() ? std::nullopt : std::optional(text->second);
+}
+
+void SetFolder(const std::string& folder) {
+    Catalogs& state = State();
+    const std::lock_guard lock(state.guard);
+    state.folder = folder;
+    state.known.clear();
+}
+
+} // namespace MessageCatalog

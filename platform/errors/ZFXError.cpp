@@ -1,0 +1,220 @@
+#include "errors/ZFXError.h"
+
+#include "errors/MessageCatalog.h"
+#include "object-model/ZFXMetaClass.h"
+
+#include <array>
+#include <cstdarg>
+#include <functional>
+#include <iostream>
+#include <optional>
+
+namespace {
+
+/// The last errors of one thread, the oldest overwritten first.
+class Registry {
+public:
+    Registry() = default;
+    Registry(const Registry&) = delete;
+    Registry& operator=(const Registry&) = delete;
+    ~Registry() {
+        for (ZFXError* error : m_errors)
+            Free(error);
+    }
+
+    HRESULT NextCode() noexcept {
+        // Failure bit and customer bit: apart from every code that a system defines, E_FAIL among them.
+        m_number = m_number % 0x0FFFFFFFU + 1;
+        return static_cast<HRESULT>(0xA0000000U | m_number);
+    }
+    void Keep(ZFXError* error) {
+        ZFXError*& place = m_errors[m_next];
+        m_next = (m_next + 1) % m_errors.size();
+        Free(place);
+        place = error;
+    }
+    ZFXError* Find(HRESULT code) const noexcept {
+        for (ZFXError* error : m_errors)
+            if (error != nullptr && error->RegisteredCode() == code)
+                return error;
+        return nullptr;
+    }
+
+private:
+    static void Free(ZFXError* error) {
+        if (error != nullptr)
+            error->Release();
+    }
+
+    std::array<ZFXError*, ZFXError::kRegistered> m_errors{};
+    std::size_t m_next = 0;
+    std::uint32_t m_number = 0;
+};
+
+Registry& ThisThreadsErrors() {
+    thread_local Registry registry;
+    return registry;
+}
+
+const char* OrEmpty(const char* text) noexcept { return text == nullptr ? "" : text; }
+
+std::vector<ZFXUnicodeString> Collect(int count, ZFXUnicodeString* first, va_list rest) {
+    std::vector<ZFXUnicodeString> parameters;
+    for (int i = 0; i < count; ++i) {
+        const ZFXUnicodeString* parameter = i == 0 ? first : va_arg(rest, ZFXUnicodeString*);
+        parameters.push_back(parameter == nullptr ? ZFXUnicodeString() : *parameter);
+    }
+    return parameters;
+}
+
+constexpr ZFXErrorTable kErrorTable{"ZFXError", nullptr};
+constexpr ZFXErrorTable kInputErrorTable{"ZFXInputError", &kErrorTable};
+
+} // namespace
+
+ZFXError::ZFXError(const char* msgId, const char* catalog)
+    : m_msgId(OrEmpty(msgId)), m_catalog(OrEmpty(catalog)) {}
+
+ZFXError::~ZFXError() = default;
+
+HRESULT ZFXError::GetReturn(int type, ZFXError* error, ZFXBaseUnknown* /*object*/, const char* sourceFile,
+                            int sourceLine) {
+    if (error == nullptr)
+        return type == ZFXErrorTypeSuccess ? S_OK : E_FAIL;
+    Registry& registry = ThisThreadsErrors();
+    error->SetSourceFileName(sourceFile);
+    error->SetSourceLineNumber(sourceLine);
+    error->m_registeredCode = registry.NextCode();
+    registry.Keep(error);
+    return error->m_registeredCode;
+}
+
+ZFXError* ZFXError::ZFXGetLastError(HRESULT code, ZFXBaseUnknown* /*object*/) {
+    return ThisThreadsErrors().Find(code);
+}
+
+int ZFXError::GetId() const { return m_registeredCode; }
+const char* ZFXError::GetMsgId() const { return m_msgId.c_str(); }
+const char* ZFXError::GetMsgCatalog() const { return m_catalog.c_str(); }
+const char* ZFXError::GetSourceFileName() const { return m_sourceFile.c_str(); }
+void ZFXError::SetSourceFileName(const char* file) { m_sourceFile = OrEmpty(file); }
+int ZFXError::GetSourceLineNumber() const { return m_sourceLine; }
+void ZFXError::SetSourceLineNumber(int line) { m_sourceLine = line; }
+
+const char* ZFXError::GetMessageText() {
+    m_messageText = GetNLSMessage();
+    return m_messageText.ConvertToChar();
+}
+
+ZFXUnicodeString ZFXError::Text(Section section) const {
+    static constexpr const char* kKeys[] = {".Request", ".Diagnostic", ".Advice"};
+    ZFXUnicodeString text =
+        MessageCatalog::Find(m_catalog, m_msgId + kKeys[section]).value_or(ZFXUnicodeString());
+    const std::vector<ZFXUnicodeString>& parameters = m_parameters[section];
+    for (std::size_t i = 0; i < parameters.size() && i < 9; ++i)
+        text.ReplaceAll(ZFXUnicodeString(("/P" + std::to_string(i + 1)).c_str()), parameters[i]);
+    return text;
+}
+
+ZFXUnicodeString ZFXError::GetNLSMessage() {
+    ZFXUnicodeString message;
+    for (const ZFXUnicodeString& text : {GetNLSRequest(), GetNLSDiagnostic(), GetNLSAdvice()}) {
+        if (text.IsNull())
+            continue;
+        if (!message.IsNull())
+            message.Append(" ");
+        message.Append(text);
+    }
+    return message.IsNull() ? ZFXUnicodeString(m_msgId.c_str()) : message;
+}
+
+ZFXUnicodeString ZFXError::GetNLSRequest() { return Text(Request); }
+ZFXUnicodeString ZFXError::GetNLSDiagnostic() { return Text(Diagnostic); }
+ZFXUnicodeString ZFXError::GetNLSAdvice() { return Text(Advice); }
+ZFXUnicodeString ZFXError::GetNLSSource() {
+    return ZFXUnicodeString((m_sourceFile + ":" + std::to_string(m_sourceLine)).c_str());
+}
+ZFXUnicodeString ZFXError::GetNLSHelpFile() { return {}; }
+int ZFXError::GetNLSHelpContext() { return 0; }
+
+void ZFXError::Display() { std::cerr << GetMessageText() << std::endl; }
+
+void ZFXError::PrintHistory(std::ostream& out) const {
+    out << IsA() << " " << m_catalog << "." << m_msgId << " raised at " << m_sourceFile << ":" << m_sourceLine
+        << std::endl;
+}
+
+void ZFXError::Throw(const char* sourceFile, int sourceLine) {
+    SetSourceFileName(sourceFile);
+    SetSourceLineNumber(sourceLine);
+    throw std::ref(*this);
+}
+
+void ZFXError::SetNLSParameters(int count, ZFXUnicodeString* first, ...) {
+    va_list rest;
+    va_start(rest, first);
+    m_parameters[Request] = m_parameters[Diagnostic] = m_parameters[Advice] = Collect(count, first, rest);
+    va_end(rest);
+}
+
+void ZFXError::SetNLSRequestParams(int count, ZFXUnicodeString* first, ...) {
+    va_list rest;
+    va_start(rest, first);
+    m_parameters[Request] = Collect(count, first, rest);
+    va_end(rest);
+}
+
+void ZFXError::SetNLSDiagnosticParams(int count, ZFXUnicodeString* first, ...) {
+    va_list rest;
+    va_start(rest, first);
+    m_parameters[Diagnostic] = Collect(count, first, rest);
+    va_end(rest);
+}
+
+void ZFXError::SetNLSAdviceParams(int count, ZFXUnicodeString* first, ...) {
+    va_list rest;
+    va_start(rest, first);
+    m_parameters[Advice] = Collect(count, first, rest);
+    va_end(rest);
+}
+
+void ZFXError::SetSourceContext(const ZFXUnicodeString& context) { m_sourceContext = context; }
+ZFXUnicodeString ZFXError::GetSourceContext() const { return m_sourceContext; }
+HRESULT ZFXError::GetReturnCode() const { return m_returnCode; }
+void ZFXError::SetReturnCode(HRESULT code) { m_returnCode = code; }
+int ZFXError::GetInformationOnErrorType() const { return m_type; }
+void ZFXError::SetInformationOnErrorType(ZFXErrorType type) { m_type = type; }
+
+void ZFXError::CopyContentOf(const ZFXError& other) {
+    m_sourceFile = other.m_sourceFile;
+    m_sourceLine = other.m_sourceLine;
+    m_sourceContext = other.m_sourceContext;
+    for (int section = 0; section < SectionCount; ++section)
+        m_parameters[section] = other.m_parameters[section];
+    m_returnCode = other.m_returnCode;
+    m_type = other.m_type;
+}
+
+ZFXInputError::ZFXInputError(const char* msgId, const char* catalog) : ZFXError(msgId, catalog) {}
+
+ZFXInputError::~ZFXInputError() = default;
+
+ZFXMetaClass* ZFXInputError::MetaObject() {
+    static ZFXMetaClass* const metaObject = fct_RetrieveMetaObject(
+        "ZFXInputError", ENUMTypeOfClass::Implementation,
+        fct_RetrieveMetaObject("ZFXError", ENUMTypeOfClass::Implementation, ZFXBaseUnknown::MetaObject(),
+                               nullptr, "ZFXPlatform", 0),
+        nullptr, "ZFXPlatform", 0);
+    return metaObject;
+}
+
+ZFXMetaClass* ZFXInputError::GetMetaObject() const { return MetaObject(); }
+
+ZFXError* ZFXInputError::CloneSelf() const {
+    auto* clone = new ZFXInputError(GetMsgId(), GetMsgCatalog());
+    if (clone != nullptr)
+        clone->CopyContentOf(*this);
+    return clone;
+}
+
+const ZFXErrorTable* ZFXInputError::GetErrorTable() const { return &kInputErrorTable; }

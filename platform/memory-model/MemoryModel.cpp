@@ -1,0 +1,196 @@
+#include "memory-model/MemoryModel.h"
+
+#include "memory-model/MemorySession.h"
+
+#include <algorithm>
+#include <string_view>
+
+namespace {
+
+MemoryObject* FirstChildOf(const MemoryObject* object, MemoryKind kind) {
+    if (object != nullptr)
+        for (MemoryObject* child : object->ExtrasOrNone().children)
+            if (child->kind == kind)
+                return child;
+    return nullptr;
+}
+
+} // namespace
+
+MemoryFeature MemoryFeature::Add(MemoryKind kind, const ZFXUnicodeString& lateType,
+                                 const ZFXUnicodeString& alias) {
+    if (m_object == nullptr || m_object->document == nullptr)
+        return {};
+    return MemoryFeature(m_object->document->Make(kind, lateType, alias, m_object));
+}
+
+MemoryFeature MemoryFeature::Step(const ZFXUnicodeString& lateType, const ZFXUnicodeString& alias) {
+    MemoryFeature history = m_object != nullptr && m_object->kind == MemoryKind::Case ? History() : *this;
+    return history.Add(MemoryKind::Step, lateType, alias);
+}
+
+MemoryFeature MemoryFeature::Set(const ZFXUnicodeString& lateType) {
+    return Add(MemoryKind::Set, lateType, {});
+}
+
+MemoryFeature MemoryFeature::Feature(const ZFXUnicodeString& lateType, const ZFXUnicodeString& alias) {
+    return Add(MemoryKind::Feature, lateType, alias);
+}
+
+MemoryFeature MemoryFeature::Job(const ZFXUnicodeString& alias) {
+    MemoryFeature container(FirstChildOf(m_object, MemoryKind::JobContainer));
+    if (!container)
+        container = Add(MemoryKind::JobContainer, MemoryLateType::kJobContainer, {});
+    return container.Feature("QVRJobLT", alias);
+}
+
+MemoryFeature MemoryFeature::History() const {
+    return MemoryFeature(FirstChildOf(m_object, MemoryKind::History));
+}
+
+/// Runs a change on the object, if there is one, and gives the sentence back.
+#define MEMORY_SENTENCE(change)                                                                              \
+    do {                                                                                                     \
+        if (m_object != nullptr)                                                                             \
+            change;                                                                                          \
+        return *this;                                                                                        \
+    } while (false)
+
+MemoryFeature& MemoryFeature::Alias(const ZFXUnicodeString& alias) {
+    MEMORY_SENTENCE(m_object->alias = alias);
+}
+MemoryFeature& MemoryFeature::Unnamed() { MEMORY_SENTENCE(m_object->alias = ""); }
+MemoryFeature& MemoryFeature::Attribute(const char* name, const ZFXUnicodeString& value) {
+    if (std::string_view(name) == "Alias")
+        return Alias(value);
+    MEMORY_SENTENCE(m_object->Extras().attributes.insert_or_assign(name, value));
+}
+MemoryFeature& MemoryFeature::WithoutAttribute(const char* name) {
+    if (m_object != nullptr && std::string_view(name) == "Alias")
+        m_object->aliasKey = false;
+    MEMORY_SENTENCE(m_object->Extras().attributes.erase(name));
+}
+MemoryFeature& MemoryFeature::With(const IID& interfaceId) { MEMORY_SENTENCE(m_object->Offer(interfaceId)); }
+MemoryFeature& MemoryFeature::Without(const IID& interfaceId) {
+    MEMORY_SENTENCE(m_object->Withhold(interfaceId));
+}
+MemoryFeature& MemoryFeature::Father(MemoryFeature father) {
+    MEMORY_SENTENCE(m_object->father = father.m_object);
+}
+MemoryFeature& MemoryFeature::Propagated(bool propagated) {
+    MEMORY_SENTENCE(m_object->propagated = propagated);
+}
+MemoryFeature& MemoryFeature::Property(bool property) {
+    MEMORY_SENTENCE(m_object->Extras().property = property);
+}
+MemoryFeature& MemoryFeature::Amplitude(bool amplitude) {
+    MEMORY_SENTENCE(m_object->Extras().amplitude = amplitude);
+}
+MemoryFeature& MemoryFeature::SolverCase(bool solver) {
+    MEMORY_SENTENCE(m_object->Extras().solverCase = solver);
+}
+MemoryFeature& MemoryFeature::Tag(int tag) { MEMORY_SENTENCE(m_object->Extras().tag = tag); }
+MemoryFeature& MemoryFeature::MaterialName(const ZFXUnicodeString& name) {
+    MEMORY_SENTENCE(m_object->Extras().materialName = name);
+}
+MemoryFeature& MemoryFeature::Hold(MemoryFeature member) {
+    if (member.m_object == nullptr || m_object == nullptr)
+        return *this;
+    member.m_object->holdingSets.push_back(m_object);
+    member.m_object->Offer(IID_ZFXISamAnalysisEntity);
+    MEMORY_SENTENCE(m_object->Extras().members.push_back(member.m_object));
+}
+MemoryFeature& MemoryFeature::PointedAtBy(MemoryFeature owner) {
+    if (owner.m_object == nullptr)
+        return *this;
+    MEMORY_SENTENCE(m_object->AddPointing(owner.m_object));
+}
+MemoryFeature& MemoryFeature::Connect(MemoryFeature connector) {
+    MEMORY_SENTENCE(m_object->Extras().connectors.push_back(connector.m_object));
+}
+MemoryFeature& MemoryFeature::LeadTo(MemoryFeature group) {
+    MEMORY_SENTENCE(m_object->Extras().group = group.m_object);
+}
+MemoryFeature& MemoryFeature::Master(MemoryFeature connector) {
+    MEMORY_SENTENCE(m_object->Extras().master.push_back(connector.m_object));
+}
+MemoryFeature& MemoryFeature::Slave(MemoryFeature connector) {
+    MEMORY_SENTENCE(m_object->Extras().slave.push_back(connector.m_object));
+}
+MemoryFeature& MemoryFeature::Answer(MemoryRequest request, MemoryAnswer answer) {
+    MEMORY_SENTENCE(m_object->document->session.faults.Add(request, m_object, MemoryFaults::kAlways, answer));
+}
+#undef MEMORY_SENTENCE
+
+ZFXUnicodeString MemoryFeature::StoredAlias() const {
+    return m_object == nullptr ? ZFXUnicodeString() : m_object->alias;
+}
+ZFXUnicodeString MemoryFeature::LateType() const {
+    return m_object == nullptr ? ZFXUnicodeString() : m_object->lateType->name;
+}
+long MemoryFeature::References() const { return m_object == nullptr ? 0 : m_object->References(); }
+ZFXBaseUnknown* MemoryFeature::Object() const { return m_object; }
+
+MemoryFeature MemoryDocument::Model() const { return MemoryFeature(m_document->model); }
+
+MemoryFeature MemoryDocument::Case(const ZFXUnicodeString& alias) {
+    MemoryFeature made = Model().Add(MemoryKind::Case, "QVRAnalysisCaseLT", alias);
+    made.Add(MemoryKind::History, MemoryLateType::kHistory, {});
+    if (m_document->currentCase == nullptr)
+        MakeCurrent(made);
+    return made;
+}
+
+MemoryFeature MemoryDocument::PropertySet() {
+    for (MemoryObject* child : m_document->model->ExtrasOrNone().children)
+        if (child->lateType->name == MemoryLateType::kPropertySet)
+            return MemoryFeature(child);
+    return Model().Set(MemoryLateType::kPropertySet);
+}
+
+MemoryFeature MemoryDocument::MeshManager() { return MemoryFeature(m_document->meshManager); }
+
+MemoryFeature MemoryDocument::MeshPart(const ZFXUnicodeString& alias, int tag) {
+    return MeshManager().Add(MemoryKind::MeshPart, "MSHPartOctree3D", alias).Tag(tag);
+}
+
+void MemoryDocument::MakeCurrent(MemoryFeature analysisCase) {
+    m_document->currentCase = analysisCase.m_object;
+}
+
+ZFXDocument* MemoryDocument::Document() const { return m_document; }
+
+MemoryModel::MemoryModel() : m_session(std::make_unique<MemorySession>()) {}
+MemoryModel::~MemoryModel() = default;
+
+MemoryDocument MemoryModel::NewDocument() {
+    auto* document = new MemoryDocumentObject(*m_session);
+    m_session->documents.push_back(document);
+    if (m_session->documents.size() == 1)
+        m_session->current = document;
+    return MemoryDocument(document);
+}
+
+void MemoryModel::MakeCurrent(MemoryDocument document) { m_session->current = document.m_document; }
+void MemoryModel::CloseCurrent() { m_session->current = nullptr; }
+long MemoryModel::Requests() const noexcept { return m_session->faults.Requests(); }
+
+void MemoryModel::AnswerOnce(MemoryRequest request, long n, MemoryAnswer answer) {
+    m_session->faults.Add(request, nullptr, std::max(n, 1L), answer);
+}
+
+void MemoryModel::AnswerAlways(MemoryRequest request, MemoryAnswer answer) {
+    m_session->faults.Add(request, nullptr, MemoryFaults::kAlways, answer);
+}
+
+void MemoryModel::Heal() { m_session->faults.Clear(); }
+long MemoryModel::LiveObjects() noexcept { return MemoryObject::live; }
+
+long MemoryModel::References() const {
+    long references = 0;
+    for (MemoryDocumentObject* document : m_session->documents)
+        references += document->References();
+    for (const auto& [name, key] : m_session->keys)
+        references += key->References();
+    return references;
+}

@@ -1,0 +1,247 @@
+#pragma once
+
+#include "memory-model/MemoryModel.h"
+#include "object-model/ZFXMetaClass.h"
+
+#include <bitset>
+#include <map>
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+/// A late type: its name and the meta class that knows what extends it. One for each name, never destroyed.
+struct MemoryLateType {
+    ZFXUnicodeString name;
+    ZFXMetaClass* metaClass;
+
+    static const MemoryLateType& Of(const ZFXUnicodeString& name);
+
+    static constexpr const char* kHistory = "QVROruSimHistLT";
+    static constexpr const char* kPropertySet = "QVRTarnisPropertySetLT";
+    static constexpr const char* kJobContainer = "QVRJobContainerLT";
+};
+
+/// The key of one attribute name.
+class MemoryAttrKey final : public ZFXISpecAttrKey {
+public:
+    explicit MemoryAttrKey(std::string keyName) : name(std::move(keyName)) {}
+    const std::string name;
+    long References() { return static_cast<long>(Count()) - 1; }
+};
+
+/// An attribute of its owner that points at the object which lists it.
+class MemoryPointingAttribute final : public ZFXISpecAttribute {
+public:
+    explicit MemoryPointingAttribute(MemoryObject* owner) : m_owner(owner) {}
+
+    using ZFXISpecAttribute::QueryInterface;
+    HRESULT QueryInterface(const IID& iid, void** face) override;
+    ZFXBaseUnknown* GetOwner() override;
+
+    void ForgetOwner() noexcept { m_owner = nullptr; }
+    long References() { return static_cast<long>(Count()) - 1; }
+
+private:
+    MemoryObject* m_owner;
+};
+
+/// Requests counted, and the answers that some of them were told to give.
+class MemoryFaults {
+public:
+    MemoryAnswer Ask(MemoryRequest request, const MemoryObject* object) {
+        ++m_requests;
+        return m_rules.empty() ? kSuccess : AskRules(request, object);
+    }
+    long Requests() const noexcept { return m_requests; }
+    void Add(MemoryRequest request, const MemoryObject* object, long n, MemoryAnswer answer) {
+        m_rules.push_back({request, object, n, answer});
+    }
+    void Clear() { m_rules.clear(); }
+
+    static constexpr MemoryAnswer kSuccess{S_OK, true};
+    static constexpr long kAlways = 0;
+
+private:
+    struct Rule {
+        MemoryRequest request;
+        const MemoryObject* object; // null: any
+        long countdown;             // of such requests; kAlways: every one
+        MemoryAnswer answer;
+    };
+    MemoryAnswer AskRules(MemoryRequest request, const MemoryObject* object);
+
+    std::vector<Rule> m_rules;
+    long m_requests = 0;
+};
+
+/// One face of an object: an interface that forwards its root operations. Counted with the object.
+template <class Interface>
+class MemoryFace : public Interface {
+public:
+    using Interface::QueryInterface;
+    HRESULT QueryInterface(const IID& iid, void** face) final;
+    ULONG AddRef() final;
+    ULONG Release() final;
+
+protected:
+    MemoryObject& Object() const noexcept;
+};
+
+#define MEMORY_FACE(name, operations)                                                                        \
+    class Memory##name final : public MemoryFace<name> {                                                     \
+    public:                                                                                                  \
+        operations                                                                                           \
+    };
+
+MEMORY_FACE(ZFXIAlias, void SetAlias(const ZFXUnicodeString& alias) override;
+            ZFXUnicodeString GetAlias() override;)
+MEMORY_FACE(ZFXISpecObject, ZFXUnicodeString GetLateType() override; ZFXBaseUnknown * GetFather() override;
+            ZFXListValZFXISpecAttribute_var * ListPointingAttributes(const char* interfaceName,
+                                                                     const ZFXUnicodeString& type,
+                                                                     const ZFXUnicodeString& name) override;)
+MEMORY_FACE(ZFXISpecAttrAccess, ZFXISpecAttrKey* GetAttrKey(const char* name) override;
+            void SetString(ZFXISpecAttrKey* key, const ZFXUnicodeString& value, int index) override;
+            ZFXUnicodeString GetString(ZFXISpecAttrKey * key, int index) override;)
+MEMORY_FACE(ZFXILinkableObject, ZFXDocument* GetOwningDocument() override;)
+MEMORY_FACE(ZFXISamAnalysisModel, HRESULT ListAnalysisCases(ZFXListValZFXBaseUnknown_var& cases) override;)
+MEMORY_FACE(ZFXISamAnalysisCase, )
+MEMORY_FACE(ZFXISamAnalysisSet,
+            HRESULT ListMembers(ZFXListValZFXISpecObject_var& members, const IID& filter, int flag) override;)
+MEMORY_FACE(ZFXISamAnalysisScan,
+            HRESULT FindObjectsOfType(const ZFXUnicodeString& lateType, ZFXListValZFXBaseUnknown_var& found,
+                                      int mode) override;
+            HRESULT ListChildren(ZFXListValZFXBaseUnknown_var & children, int mode) override;)
+MEMORY_FACE(ZFXISamAnalysisEntity, HRESULT GetParentSets(ZFXListValZFXBaseUnknown_var*& sets) override;)
+MEMORY_FACE(ZFXISamAnalysisSupport,
+            HRESULT ListConnectors(ZFXListValZFXBaseUnknown_var& connectors) override;)
+MEMORY_FACE(ZFXISamAnalysisConnector, HRESULT GetGroup(ZFXBaseUnknown*& group) override;)
+MEMORY_FACE(ZFXISamExplicit, HRESULT GetExplicitChild(ZFXAnalysisExplicitChild& child, int flag) override;)
+MEMORY_FACE(ZFXExplicitData, HRESULT ReadTag(int& tag) override;)
+MEMORY_FACE(ZFXIMSHMeshManager, )
+MEMORY_FACE(ZFXIMSHMeshPart, )
+MEMORY_FACE(ZFXIMaterialFeature, ZFXUnicodeString GetMaterialFeatureName() override;)
+MEMORY_FACE(QVRIStep, )
+MEMORY_FACE(QVRIPropagatingFeature, int IsPropagated() override;)
+MEMORY_FACE(QVRISamGroupExt, )
+MEMORY_FACE(QVRISamAnalysisConnectionDesign,
+            HRESULT GetMasterAndSlaveConnectors(ZFXListValZFXBaseUnknown_var& master,
+                                                ZFXListValZFXBaseUnknown_var& slave) override;)
+#undef MEMORY_FACE
+
+using MemoryObjects = std::vector<MemoryObject*>;
+
+/// The faces that few objects have. A document holds many more plain features than anything else.
+struct MemoryRareFaces {
+    MemoryZFXISamAnalysisModel model;
+    MemoryZFXISamAnalysisCase analysisCase;
+    MemoryZFXISamAnalysisSet set;
+    MemoryZFXISamAnalysisScan scan;
+    MemoryZFXISamAnalysisSupport support;
+    MemoryZFXISamAnalysisConnector connector;
+    MemoryZFXISamExplicit explicitObject;
+    MemoryZFXExplicitData explicitData;
+    MemoryZFXIMSHMeshManager meshManager;
+    MemoryZFXIMSHMeshPart meshPart;
+    MemoryZFXIMaterialFeature material;
+    MemoryQVRIStep step;
+    MemoryQVRISamGroupExt group;
+    MemoryQVRISamAnalysisConnectionDesign design;
+};
+
+/// What few objects hold.
+struct MemoryExtras {
+    MemoryObjects children;
+    MemoryObjects members;
+    MemoryObjects connectors;
+    MemoryObjects master;
+    MemoryObjects slave;
+    MemoryObject* group = nullptr;
+    ZFXListValZFXISpecAttribute_var pointing;
+    std::map<std::string, ZFXUnicodeString> attributes; // beside "Alias"
+    std::optional<int> tag;
+    ZFXUnicodeString materialName;
+    std::optional<bool> property;
+    std::optional<bool> amplitude;
+    bool solverCase = true;
+    MemoryRareFaces faces;
+};
+
+/// An object of a document: the implementation behind all its faces.
+class MemoryObject final : public ZFXBaseUnknown {
+public:
+    MemoryObject(MemoryDocumentObject* document, MemoryKind kind, const MemoryLateType& lateType);
+    ~MemoryObject() override;
+
+    using ZFXBaseUnknown::QueryInterface;
+    HRESULT QueryInterface(const IID& iid, void** face) override;
+
+    MemoryExtras& Extras();
+    /// What it has of the extras, or a shared empty one.
+    const MemoryExtras& ExtrasOrNone() const;
+    MemoryAnswer Ask(MemoryRequest request);
+    void Offer(const IID& iid);
+    void Withhold(const IID& iid);
+    bool IsOffered(ZFXInterfaceNumber number) const {
+        return m_offered.test(static_cast<std::size_t>(number));
+    }
+    /// The object as a feature, or null when it does not offer that. No request. [new reference]
+    ZFXISpecObject* Spec();
+    /// The nearest object at or above this one in the tree that offers the interface, or null.
+    MemoryObject* NearestOffering(ZFXInterfaceNumber number);
+    /// An attribute of `owner` points at this object from now on.
+    void AddPointing(MemoryObject* owner);
+    /// Those that others hold, on the object or on an attribute that points at it.
+    long References();
+    /// The document goes: nothing of it is reached from here any more.
+    void Detach();
+
+    MemoryDocumentObject* document;
+    const MemoryLateType* lateType;
+    MemoryObject* parent = nullptr; // in the tree
+    MemoryObject* father = nullptr; // what GetFather answers
+    MemoryObjects holdingSets;
+    ZFXUnicodeString alias;
+    MemoryKind kind;
+    bool aliasKey = true;
+    bool propagated = false;
+
+    static long live;
+
+private:
+    using Interfaces = std::bitset<32>;
+    ZFXBaseUnknown* Face(ZFXInterfaceNumber number);
+    template <class Visit>
+    void ForEachPointing(Visit visit) const {
+        const ZFXListValZFXISpecAttribute_var& pointing = ExtrasOrNone().pointing;
+        for (int i = 1; i <= pointing.Size(); ++i)
+            visit(static_cast<MemoryPointingAttribute&>(*pointing[i].Get()));
+    }
+
+    Interfaces m_offered;
+    Interfaces m_withheld;
+    std::unique_ptr<MemoryExtras> m_extras;
+    MemoryZFXISpecObject m_spec;
+    MemoryZFXIAlias m_aliasFace;
+    MemoryZFXISpecAttrAccess m_attributes;
+    MemoryZFXILinkableObject m_linkable;
+    MemoryZFXISamAnalysisEntity m_entity;
+    MemoryQVRIPropagatingFeature m_propagating;
+};
+
+template <class Interface>
+MemoryObject& MemoryFace<Interface>::Object() const noexcept {
+    return static_cast<MemoryObject&>(*this->Implementation());
+}
+template <class Interface>
+HRESULT MemoryFace<Interface>::QueryInterface(const IID& iid, void** face) {
+    return Object().QueryInterface(iid, face);
+}
+template <class Interface>
+ULONG MemoryFace<Interface>::AddRef() {
+    return Object().AddRef();
+}
+template <class Interface>
+ULONG MemoryFace<Interface>::Release() {
+    return Object().Release();
+}

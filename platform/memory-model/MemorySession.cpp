@@ -1,0 +1,232 @@
+#include "memory-model/MemorySession.h"
+
+#include <algorithm>
+#include <initializer_list>
+
+namespace {
+
+/// The interfaces that an object of each kind offers beside those that all of them do.
+struct KindRow {
+    MemoryKind kind;
+    std::initializer_list<IID> offers;
+};
+
+const KindRow kKinds[] = {
+    {MemoryKind::Feature, {}},
+    {MemoryKind::Model, {IID_ZFXISamAnalysisModel, IID_ZFXISamAnalysisScan}},
+    {MemoryKind::Case, {IID_ZFXISamAnalysisCase, IID_ZFXISamAnalysisScan}},
+    {MemoryKind::History, {IID_ZFXISamAnalysisScan}},
+    {MemoryKind::Step, {IID_QVRIStep, IID_ZFXISamAnalysisScan}},
+    {MemoryKind::Set, {IID_ZFXISamAnalysisSet, IID_ZFXISamAnalysisScan}},
+    {MemoryKind::JobContainer, {IID_ZFXISamAnalysisSet, IID_ZFXISamAnalysisScan}},
+    {MemoryKind::MeshManager, {IID_ZFXIMSHMeshManager, IID_ZFXISamAnalysisSet, IID_ZFXISamAnalysisScan}},
+    {MemoryKind::MeshPart, {IID_ZFXIMSHMeshPart, IID_ZFXISamExplicit}},
+    {MemoryKind::Material, {IID_ZFXIMaterialFeature}},
+    {MemoryKind::Group, {IID_QVRISamGroupExt}},
+    {MemoryKind::Support, {IID_ZFXISamAnalysisSupport}},
+    {MemoryKind::Connector, {IID_ZFXISamAnalysisConnector}},
+    {MemoryKind::ConnectionDesign, {IID_QVRISamAnalysisConnectionDesign}},
+};
+
+bool IsSet(const MemoryObject& object) { return object.IsOffered(ZFXInterfaceNumber::ZFXISamAnalysisSet); }
+
+bool IsAmplitude(const MemoryObject& object) {
+    const ZFXUnicodeString& type = object.lateType->name;
+    return object.ExtrasOrNone().amplitude.value_or(type == "QVRTabularAmplitudeLT" ||
+                                                    type == "QVRSmoothStepAmplitudeLT");
+}
+
+/// A property lies in a property set, unless the document says otherwise.
+bool IsProperty(const MemoryObject& object) {
+    const bool inPropertySet = !object.holdingSets.empty() &&
+                               object.holdingSets.front()->lateType->name == MemoryLateType::kPropertySet;
+    return object.ExtrasOrNone().property.value_or(inPropertySet && !IsAmplitude(object));
+}
+
+} // namespace
+
+MemoryDocumentObject::MemoryDocumentObject(MemorySession& owner) : session(owner) {
+    model = Make(MemoryKind::Model, "QVRAnalysisModelLT", "Analysis Model", nullptr);
+    meshManager = Make(MemoryKind::MeshManager, "MSHMeshManager", "Mesh Manager", model);
+}
+
+MemoryDocumentObject::~MemoryDocumentObject() {
+    for (MemoryObject* object : objects)
+        object->Detach();
+    for (MemoryObject* object : objects)
+        object->Release();
+}
+
+MemoryObject* MemoryDocumentObject::Make(MemoryKind kind, const ZFXUnicodeString& lateType,
+                                         const ZFXUnicodeString& alias, MemoryObject* parent) {
+    auto* object = new MemoryObject(this, kind, MemoryLateType::Of(lateType));
+    objects.push_back(object);
+    object->alias = alias;
+    object->parent = parent;
+    object->father = kind == MemoryKind::JobContainer ? model : parent;
+    for (const IID& iid : {IID_ZFXISpecObject, IID_ZFXIAlias, IID_ZFXISpecAttrAccess, IID_ZFXILinkableObject})
+        object->Offer(iid);
+    for (const IID& iid : kKinds[static_cast<std::size_t>(kind)].offers)
+        object->Offer(iid);
+    if (parent == nullptr)
+        return object;
+    parent->Extras().children.push_back(object);
+    if (IsSet(*parent) && !IsSet(*object)) {
+        object->Offer(IID_ZFXISamAnalysisEntity);
+        parent->Extras().members.push_back(object);
+        object->holdingSets.push_back(parent);
+        if (kind == MemoryKind::Feature && parent->parent != nullptr &&
+            parent->NearestOffering(ZFXInterfaceNumber::QVRIStep) != nullptr)
+            object->Offer(IID_QVRIPropagatingFeature);
+    }
+    if (parent->kind == MemoryKind::History)
+        object->AddPointing(parent);
+    return object;
+}
+
+long MemoryDocumentObject::References() {
+    long references = static_cast<long>(Count()) - 1;
+    for (MemoryObject* object : objects)
+        references += object->References();
+    return references;
+}
+
+MemorySession::MemorySession() { Install(this); }
+
+MemorySession::~MemorySession() {
+    if (Installed() == this)
+        Install(nullptr);
+    for (MemoryDocumentObject* document : documents)
+        document->Release();
+    for (const auto& [name, key] : keys)
+        key->Release();
+}
+
+MemoryAttrKey* MemorySession::KeyOf(const std::string& name) {
+    MemoryAttrKey*& key = keys[name];
+    if (key == nullptr)
+        key = new MemoryAttrKey(name);
+    key->AddRef();
+    return key;
+}
+
+MemoryObject* MemorySession::Find(const ZFXBaseUnknown* face) const {
+    auto* object = face == nullptr ? nullptr : dynamic_cast<MemoryObject*>(face->GetImpl());
+    return object != nullptr && object->document != nullptr && &object->document->session == this ? object
+                                                                                                  : nullptr;
+}
+
+MemoryDocumentObject* MemorySession::DocumentOr(const ZFXDocument* document) const {
+    if (document == nullptr)
+        return current;
+    for (MemoryDocumentObject* known : documents)
+        if (known == document)
+            return known;
+    return nullptr;
+}
+
+HRESULT MemorySession::GetAllAnalysisCases(ZFXListValZFXBaseUnknown_var& cases, ZFXDocument* document) {
+    const MemoryAnswer answer = faults.Ask(MemoryRequest::GetAllAnalysisCases, nullptr);
+    const MemoryDocumentObject* asked = DocumentOr(document);
+    if (!answer.filled)
+        return answer.code;
+    if (asked == nullptr)
+        return E_FAIL;
+    for (MemoryObject* child : asked->model->ExtrasOrNone().children)
+        if (child->kind == MemoryKind::Case)
+            cases.Append(ZFXBaseUnknown_var(child));
+    return answer.code;
+}
+
+HRESULT MemorySession::GetJobs(const ZFXListValZFXBaseUnknown_var& cases,
+                               ZFXListValZFXISpecObject_var& jobs) {
+    const MemoryAnswer answer = faults.Ask(MemoryRequest::GetJobs, nullptr);
+    if (!answer.filled)
+        return answer.code;
+    for (int i = 1; i <= cases.Size(); ++i) {
+        const MemoryObject* analysisCase = Find(cases[i]);
+        if (analysisCase == nullptr)
+            continue;
+        for (MemoryObject* child : analysisCase->ExtrasOrNone().children)
+            if (child->kind == MemoryKind::JobContainer)
+                for (MemoryObject* job : child->ExtrasOrNone().members)
+                    jobs.Append(ZFXISpecObject_var::TakeOver(job->Spec()));
+    }
+    return answer.code;
+}
+
+HRESULT MemorySession::GetAnalysisModel(ZFXISamAnalysisModel_var& model, const ZFXDocument* document) {
+    const MemoryAnswer answer = faults.Ask(MemoryRequest::GetAnalysisModel, nullptr);
+    const MemoryDocumentObject* asked = DocumentOr(document);
+    if (!answer.filled)
+        return answer.code;
+    if (asked == nullptr)
+        return E_FAIL;
+    model = ZFXISamAnalysisModel_var(asked->model);
+    return answer.code;
+}
+
+HRESULT MemorySession::GetMeshManager(ZFXIMSHMeshManager_var& manager, const ZFXDocument* document) {
+    const MemoryAnswer answer = faults.Ask(MemoryRequest::GetMeshManager, nullptr);
+    const MemoryDocumentObject* asked = DocumentOr(document);
+    if (!answer.filled)
+        return answer.code;
+    if (asked == nullptr)
+        return E_FAIL;
+    manager = ZFXIMSHMeshManager_var(asked->meshManager);
+    return answer.code;
+}
+
+unsigned char MemorySession::IsTarnisAnalysisCase(ZFXISamAnalysisCase_var& analysisCase) {
+    const MemoryObject* object = Find(analysisCase);
+    const bool answered = faults.Ask(MemoryRequest::IsTarnisAnalysisCase, object).filled;
+    return answered && object != nullptr && object->ExtrasOrNone().solverCase ? 1 : 0;
+}
+
+HRESULT MemorySession::GetParentStep(const ZFXISpecObject_var& feature, ZFXISpecObject_var& step) {
+    MemoryObject* object = Find(feature);
+    const MemoryAnswer answer = faults.Ask(MemoryRequest::GetParentStep, object);
+    if (!answer.filled)
+        return answer.code;
+    if (object == nullptr)
+        return E_FAIL;
+    if (MemoryObject* found = object->NearestOffering(ZFXInterfaceNumber::QVRIStep))
+        step = ZFXISpecObject_var::TakeOver(found->Spec());
+    return answer.code;
+}
+
+HRESULT MemorySession::GetParentCaseFromObject(const ZFXISpecObject_var& feature,
+                                               ZFXISpecObject_var& parent) {
+    MemoryObject* object = Find(feature);
+    const MemoryAnswer answer = faults.Ask(MemoryRequest::GetParentCaseFromObject, object);
+    if (!answer.filled)
+        return answer.code;
+    MemoryObject* found =
+        object == nullptr ? nullptr : object->NearestOffering(ZFXInterfaceNumber::ZFXISamAnalysisCase);
+    if (found == nullptr)
+        return E_FAIL;
+    parent = ZFXISpecObject_var::TakeOver(found->Spec());
+    return answer.code;
+}
+
+unsigned char MemorySession::IsObjectAProperty(ZFXISpecObject_var& feature) {
+    const MemoryObject* object = Find(feature);
+    const bool answered = faults.Ask(MemoryRequest::IsObjectAProperty, object).filled;
+    return answered && object != nullptr && IsProperty(*object) ? 1 : 0;
+}
+
+unsigned char MemorySession::IsObjectAnAmplitude(ZFXISpecObject_var& feature) {
+    const MemoryObject* object = Find(feature);
+    const bool answered = faults.Ask(MemoryRequest::IsObjectAnAmplitude, object).filled;
+    return answered && object != nullptr && IsAmplitude(*object) ? 1 : 0;
+}
+
+HRESULT MemorySession::GetCurrentAnalysisCaseSP(ZFXISamAnalysisCase_var& analysisCase,
+                                                ZFXDocument* document) {
+    const MemoryAnswer answer = faults.Ask(MemoryRequest::GetCurrentAnalysisCaseSP, nullptr);
+    const MemoryDocumentObject* asked = DocumentOr(document);
+    if (answer.filled)
+        analysisCase =
+            asked == nullptr ? ZFXISamAnalysisCase_var() : ZFXISamAnalysisCase_var(asked->currentCase);
+    return answer.code;
+}

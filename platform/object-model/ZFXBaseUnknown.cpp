@@ -1,0 +1,106 @@
+#include "object-model/ZFXBaseUnknown.h"
+
+#include "object-model/ZFXInterfaces.h"
+#include "object-model/ZFXMetaClass.h"
+
+#include <atomic>
+#include <cstdlib>
+
+namespace {
+std::atomic<long> liveAllocations{0};
+}
+
+void* ZFXBaseUnknown::operator new(std::size_t size) noexcept {
+    void* memory = std::malloc(size);
+    if (memory != nullptr)
+        liveAllocations.fetch_add(1, std::memory_order_relaxed);
+    return memory;
+}
+
+void ZFXBaseUnknown::operator delete(void* memory) noexcept {
+    if (memory != nullptr)
+        liveAllocations.fetch_sub(1, std::memory_order_relaxed);
+    std::free(memory);
+}
+
+long ZFXBaseUnknown::LiveAllocations() noexcept { return liveAllocations.load(std::memory_order_relaxed); }
+
+HRESULT ZFXBaseUnknown::QueryInterface(const IID& iid, void** face) {
+    if (face == nullptr)
+        return E_POINTER;
+    *face = nullptr;
+    if (m_implementation != nullptr)
+        return m_implementation->QueryInterface(iid, face);
+    if (iid != IID_ZFXBaseUnknown)
+        return E_NOINTERFACE;
+    AddRef();
+    *face = this;
+    return S_OK;
+}
+
+HRESULT ZFXBaseUnknown::QueryInterface(const char* interfaceName, void** face) {
+    if (face == nullptr)
+        return E_POINTER;
+    *face = nullptr;
+    const IID* iid = ZFXFindInterface(interfaceName);
+    return iid == nullptr ? E_NOINTERFACE : QueryInterface(*iid, face);
+}
+
+ULONG ZFXBaseUnknown::AddRef() { return ++m_count; }
+
+ULONG ZFXBaseUnknown::Release() {
+    const ULONG left = --m_count;
+    if (left == 0)
+        delete this;
+    return left;
+}
+
+HRESULT ZFXBaseUnknown::GetTypeInfoCount(unsigned int* count) {
+    if (count == nullptr)
+        return E_POINTER;
+    *count = 0;
+    return S_OK;
+}
+
+HRESULT ZFXBaseUnknown::GetTypeInfo(unsigned int, unsigned long, void**) { return E_NOTIMPL; }
+
+HRESULT ZFXBaseUnknown::GetIDsOfNames(const IID&, char16_t**, unsigned int, unsigned long, long*) {
+    return E_NOTIMPL;
+}
+
+HRESULT ZFXBaseUnknown::Invoke(long, const IID&, unsigned long, unsigned short, void*, void*, void*,
+                               unsigned int*) {
+    return E_NOTIMPL;
+}
+
+ZFXBaseUnknown::~ZFXBaseUnknown() = default;
+
+ZFXMetaClass* ZFXBaseUnknown::MetaObject() {
+    static ZFXMetaClass* const metaObject = fct_RetrieveMetaObject(
+        "ZFXBaseUnknown", ENUMTypeOfClass::Implementation, ZFXnull::MetaObject(), nullptr, "ZFXPlatform", 0);
+    return metaObject;
+}
+
+ZFXMetaClass* ZFXnull::MetaObject() {
+    static ZFXMetaClass* const metaObject = fct_RetrieveMetaObject("ZFXnull", ENUMTypeOfClass::Implementation,
+                                                                   nullptr, nullptr, "ZFXPlatform", 0);
+    return metaObject;
+}
+
+ZFXMetaClass* ZFXBaseUnknown::GetMetaObject() const { return MetaObject(); }
+const char* ZFXBaseUnknown::IsA() const { return GetMetaObject()->IsA(); }
+int ZFXBaseUnknown::IsAKindOf(const char* name) const { return GetMetaObject()->IsAKindOf(name); }
+
+ZFXBaseUnknown* ZFXBaseUnknown::GetImpl() const {
+    return m_implementation != nullptr ? m_implementation->GetImpl() : const_cast<ZFXBaseUnknown*>(this);
+}
+
+ZFXBaseUnknown* ZFXBaseUnknown::SetImpl(ZFXBaseUnknown* implementation) {
+    ZFXBaseUnknown* before = m_implementation;
+    m_implementation = implementation;
+    return before;
+}
+
+int ZFXBaseUnknown::IsNull() const { return 0; }
+int ZFXBaseUnknown::IsEqual(const ZFXBaseUnknown* other) const { return ZFXSameObject(this, other); }
+void ZFXBaseUnknown::ChangeComponentState(ZFXComponentState, ZFXBaseUnknown*) {}

@@ -1,0 +1,96 @@
+#pragma once
+
+#include "collections/ZFXListVal.h"
+#include "object-model/ZFXBaseUnknown.h"
+
+#include <concepts>
+#include <cstddef>
+#include <type_traits>
+#include <utility>
+
+/// Holds one reference on an object, as one of its interfaces, or nothing.
+///
+/// Making a handle from a handle or pointer of another type is the interface cast: the handle takes its own
+/// reference, or stays empty when the object does not offer the interface or there is no object. To the same
+/// type or to a base of it no question is asked, the reference is taken. `->` needs a handle that is not
+/// empty.
+template <class Interface>
+class ZFXHandle {
+    template <class Other>
+    static constexpr bool kIsFace = std::derived_from<Other, Interface>;
+
+public:
+    ZFXHandle() noexcept = default;
+    ZFXHandle(std::nullptr_t) noexcept {}
+    /// From a borrowed pointer. The pointer keeps its own reference.
+    template <std::derived_from<ZFXBaseUnknown> Other>
+    ZFXHandle(Other* object) {
+        Cast(object);
+    }
+    template <class Other>
+    ZFXHandle(const ZFXHandle<Other>& other) {
+        Cast(other.Get());
+    }
+    ZFXHandle(const ZFXHandle& other) : m_face(other.m_face) {
+        if (m_face != nullptr)
+            m_face->AddRef();
+    }
+    ZFXHandle(ZFXHandle&& other) noexcept : m_face(std::exchange(other.m_face, nullptr)) {}
+    ~ZFXHandle() {
+        if (m_face != nullptr)
+            m_face->Release();
+    }
+
+    ZFXHandle& operator=(const ZFXHandle& other) {
+        ZFXHandle(other).Swap(*this); // the new reference first: both may be the last on one object
+        return *this;
+    }
+    ZFXHandle& operator=(ZFXHandle&& other) noexcept {
+        ZFXHandle(std::move(other)).Swap(*this);
+        return *this;
+    }
+
+    /// Takes over the reference that a platform operation handed back.
+    static ZFXHandle TakeOver(Interface* object) noexcept {
+        ZFXHandle handle;
+        handle.m_face = object;
+        return handle;
+    }
+
+    operator Interface*() const noexcept { return m_face; }
+    Interface* operator->() const noexcept { return m_face; }
+    Interface* Get() const noexcept { return m_face; }
+
+    void Swap(ZFXHandle& other) noexcept { std::swap(m_face, other.m_face); }
+
+    /// Whether both designate the same object; two empty ones are equal.
+    template <class Other>
+    friend bool operator==(const ZFXHandle& a, const ZFXHandle<Other>& b) {
+        return ZFXSameObject(a.Get(), b.Get());
+    }
+    template <std::derived_from<ZFXBaseUnknown> Other>
+    friend bool operator==(const ZFXHandle& a, const Other* b) {
+        return ZFXSameObject(a.Get(), b);
+    }
+    friend bool operator==(const ZFXHandle& a, std::nullptr_t) noexcept { return a.m_face == nullptr; }
+
+private:
+    template <class Other>
+    void Cast(Other* object) {
+        if (object == nullptr)
+            return;
+        if constexpr (kIsFace<Other>) {
+            m_face = object;
+            m_face->AddRef();
+        } else {
+            void* face = nullptr;
+            if (!Failed(object->QueryInterface(Interface::ClassId(), &face)))
+                m_face = static_cast<Interface*>(face);
+        }
+    }
+
+    Interface* m_face = nullptr;
+};
+
+using ZFXBaseUnknown_var = ZFXHandle<ZFXBaseUnknown>;
+using ZFXListValZFXBaseUnknown_var = ZFXListVal<ZFXBaseUnknown_var>;

@@ -1,0 +1,96 @@
+#include "object-model/ZFXMetaClass.h"
+
+#include <algorithm>
+#include <cstring>
+#include <map>
+#include <memory>
+#include <string_view>
+
+namespace {
+
+/// An identifier made from the class's name: the same in every process.
+GUID IdOfName(std::string_view name) noexcept {
+    GUID id{0xCBF29CE484222325U, 0x84222325CBF29CE4U};
+    for (const char c : name) {
+        id.high = (id.high ^ static_cast<unsigned char>(c)) * 0x100000001B3U;
+        id.low = (id.low + static_cast<unsigned char>(c)) * 0x9E3779B97F4A7C15U;
+    }
+    return id;
+}
+
+/// Never destroyed: modules and objects may outlive this library's own end.
+std::map<std::string, std::unique_ptr<ZFXMetaClass>, std::less<>>& Registry() {
+    static auto* const registry = new std::map<std::string, std::unique_ptr<ZFXMetaClass>, std::less<>>;
+    return *registry;
+}
+
+} // namespace
+
+ZFXMetaClass::ZFXMetaClass(const IID* classId, const char* name, ZFXMetaClass* base,
+                           ZFXMetaClass* implementation, int kind)
+    : m_name(name == nullptr ? "" : name),
+      m_classId(classId != nullptr ? *classId : IdOfName(m_name)),
+      m_base(base),
+      m_implementation(implementation),
+      m_kind(static_cast<ENUMTypeOfClass>(kind)) {}
+
+ZFXMetaClass::~ZFXMetaClass() = default;
+
+int ZFXMetaClass::IsAKindOf(const char* name) const noexcept {
+    for (const ZFXMetaClass* c = this; c != nullptr && name != nullptr; c = c->m_base)
+        if (c->m_name == name)
+            return 1;
+    return 0;
+}
+
+void ZFXMetaClass::SetExtensionOf(ZFXMetaClass* extended) {
+    if (extended != nullptr && IsExtensionOf(extended) == 0)
+        extended->m_extensions.push_back(this);
+}
+
+int ZFXMetaClass::IsExtensionOf(const ZFXMetaClass* extended) const noexcept {
+    return extended != nullptr && std::find(extended->m_extensions.begin(), extended->m_extensions.end(),
+                                            this) != extended->m_extensions.end();
+}
+
+ZFXAdaptorFactory ZFXMetaClass::FindAdaptorFactory(const IID& iid) const noexcept {
+    for (const ZFXMetaClass* extension : m_extensions)
+        for (const Adaptor& adaptor : extension->m_adaptors)
+            if (adaptor.iid == iid)
+                return adaptor.factory;
+    return nullptr;
+}
+
+void ZFXMetaClass::SetAdaptorFactory(const IID& iid, ZFXAdaptorFactory factory) {
+    for (Adaptor& adaptor : m_adaptors) {
+        if (adaptor.iid == iid) {
+            adaptor.factory = factory;
+            return;
+        }
+    }
+    m_adaptors.push_back({iid, factory});
+}
+
+void ZFXMetaClass::RemoveAdaptorFactory(const IID& iid, ZFXAdaptorFactory factory) {
+    std::erase_if(m_adaptors, [&](const Adaptor& a) { return a.iid == iid && a.factory == factory; });
+}
+
+ZFXMetaClass* fct_RetrieveMetaObject(const char* name, ENUMTypeOfClass kind, ZFXMetaClass* base,
+                                     const char* firstExtended, const char* /*framework*/, int /*level*/) {
+    if (name == nullptr)
+        return nullptr;
+    std::unique_ptr<ZFXMetaClass>& metaClass = Registry()[name];
+    if (metaClass == nullptr)
+        metaClass = std::make_unique<ZFXMetaClass>(nullptr, name, base, nullptr, static_cast<int>(kind));
+    metaClass->SetExtensionOf(fct_FindMetaObject(firstExtended));
+    return metaClass.get();
+}
+
+ZFXMetaClass* fct_FindMetaObject(const char* name) {
+    if (name == nullptr)
+        return nullptr;
+    const auto known = Registry().find(std::string_view(name));
+    return known != Registry().end()
+               ? known->second.get()
+               : fct_RetrieveMetaObject(name, ENUMTypeOfClass::Implementation, nullptr, nullptr, nullptr, 0);
+}

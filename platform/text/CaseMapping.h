@@ -1,0 +1,11 @@
+#pragma once
+
+/// Unicode simple case mappings of a UTF-16 text, unit by unit or pair by pair. None changes a length.
+namespace CaseMapping {
+
+/// Whether two texts of one length are equal once their letters are folded.
+bool EqualFolded(const char16_t* left, const char16_t* right, int length) noexcept;
+void ToUpper(char16_t* units, int length) noexcept;
+void ToLower(char16_t* units, int length) noexcept;
+
+} // namespace CaseMapping

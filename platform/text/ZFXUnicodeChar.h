@@ -1,0 +1,42 @@
+#pragma once
+
+#include "base/ZFXPlatformExport.h"
+
+/// One character of a name: a value that holds one UTF-16 code unit.
+class ZFX_PLATFORM_EXPORT ZFXUnicodeChar {
+public:
+    /// U+0000.
+    constexpr ZFXUnicodeChar() noexcept = default;
+    /// The character of an ASCII byte; any other byte is no character of its own and gives U+FFFD.
+    constexpr ZFXUnicodeChar(char c) noexcept : m_unit(UnitOf(c)) {}
+
+    static constexpr ZFXUnicodeChar FromUnit(char16_t unit) noexcept {
+        ZFXUnicodeChar result;
+        result.m_unit = unit;
+        return result;
+    }
+
+    ZFXUnicodeChar& operator=(char c) noexcept {
+        m_unit = UnitOf(c);
+        return *this;
+    }
+    /// The first code unit of a zero-terminated UTF-8 text; U+0000 for a null or empty one.
+    ZFXUnicodeChar& operator=(const char* text) noexcept;
+
+    constexpr int operator==(const ZFXUnicodeChar& other) const noexcept { return m_unit == other.m_unit; }
+    constexpr int operator!=(const ZFXUnicodeChar& other) const noexcept { return m_unit != other.m_unit; }
+
+    /// Nonzero for '0' to '9' and nothing else.
+    constexpr int IsDigit() const noexcept { return m_unit >= u'0' && m_unit <= u'9'; }
+    /// Nonzero for the characters of the Unicode property White_Space.
+    int IsSpace() const noexcept;
+    constexpr unsigned short ConvertToUC2Bytes() const noexcept { return m_unit; }
+
+private:
+    static constexpr char16_t UnitOf(char c) noexcept {
+        const auto byte = static_cast<unsigned char>(c);
+        return byte < 0x80 ? static_cast<char16_t>(byte) : u'\uFFFD';
+    }
+
+    char16_t m_unit = 0;
+};
