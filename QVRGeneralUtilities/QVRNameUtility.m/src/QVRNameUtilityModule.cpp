@@ -1,3 +1,17 @@
 #include "QVRNameUtility.h"
 
+#include "QVRNameUtil.h"
+#include "internal/Vocabulary.h"
+
+namespace Vocabulary {
+#define WORD(identifier, text) const ZFXUnicodeString identifier(text);
+#include "internal/Vocabulary.def"
+#undef WORD
+} // namespace Vocabulary
+
 int HALVERN_WORKS_UXM2_INTERNAL_QVRNameUtility() { return 1; }
+
+QVRNameUtil::QVRNameUtil() = default;
+QVRNameUtil::QVRNameUtil(const QVRNameUtil& other) = default;
+QVRNameUtil& QVRNameUtil::operator=(const QVRNameUtil& other) = default;
+QVRNameUtil::~QVRNameUtil() = default;

@@ -1,0 +1,50 @@
+#include "QVRGenI18NUtils.h"
+
+#include "locale/ZFXLocale.h"
+
+#include <algorithm>
+#include <iostream>
+
+namespace {
+
+/// English of the United States, the United Kingdom, Australia, Canada, New Zealand, Ireland, South Africa,
+/// Jamaica, the Caribbean, Belize, Trinidad and Tobago, Zimbabwe, the Philippines: these and no other.
+constexpr int kEnglishLocaleIds[] = {0x0409, 0x0809, 0x0C09, 0x1009, 0x1409, 0x1809, 0x1C09,
+                                     0x2009, 0x2409, 0x2809, 0x2C09, 0x3009, 0x3409};
+
+void Report(const char* which, unsigned char english) {
+    std::cout << "The initial " << which << " locale is " << (english != 0 ? "" : "NOT ") << "English."
+              << std::endl;
+}
+
+} // namespace
+
+unsigned char QVRGenI18NUtils::IsLCIDInEnglishIDs(int lcid) {
+    return std::ranges::find(kEnglishLocaleIds, lcid) != std::end(kEnglishLocaleIds) ? 1 : 0;
+}
+
+unsigned char QVRGenI18NUtils::IsEnglishUserLocale() {
+    return IsLCIDInEnglishIDs(static_cast<int>(GetUserDefaultLCID()));
+}
+
+unsigned char QVRGenI18NUtils::IsEnglishInputLocale() {
+    return IsLCIDInEnglishIDs(static_cast<int>(GetKeyboardLayout(0) & 0xFFFFU));
+}
+
+unsigned char QVRGenI18NUtils::IsEnglishMode() {
+    if (m_localesChecked != 0)
+        return m_englishMode;
+    m_initialUserLocaleEnglish = IsEnglishUserLocale();
+    m_initialInputLocaleEnglish = IsEnglishInputLocale();
+    m_englishMode = m_initialUserLocaleEnglish & m_initialInputLocaleEnglish;
+    m_localesChecked = 1;
+    Report("user", m_initialUserLocaleEnglish);
+    Report("input", m_initialInputLocaleEnglish);
+    return m_englishMode;
+}
+
+void QVRGenI18NUtils::GetInitialLocales() { IsEnglishMode(); }
+
+unsigned char QVRGenI18NUtils::IsInitialUserLocaleEnglish() { return m_initialUserLocaleEnglish; }
+
+unsigned char QVRGenI18NUtils::IsInitialInputLocaleEnglish() { return m_initialInputLocaleEnglish; }

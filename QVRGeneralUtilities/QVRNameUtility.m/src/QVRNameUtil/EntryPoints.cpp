@@ -1,0 +1,61 @@
+#include "QVRNameUtil.h"
+
+#include "analysis/QVRIPropagatingFeature.h"
+#include "analysis/QVRIStep.h"
+#include "analysis/WorkbenchUtilities.h"
+#include "analysis/ZFXIAlias.h"
+#include "internal/LegalLength.h"
+#include "internal/Refusal.h"
+
+HRESULT QVRNameUtil::IsNameUnique(ZFXISpecObject_var& feature, const ZFXUnicodeString& name) {
+    if (QVRIStep_var(feature) != nullptr)
+        return IsUniqueNameForStep(feature, name);
+    if (QVRIPropagatingFeature_var(feature) != nullptr)
+        return IsUniqueNameForPropagatingObject(feature, name);
+    return IsUniqueNameForObject(feature, name);
+}
+
+HRESULT QVRNameUtil::CheckName(ZFXISpecObject_var& feature, const ZFXUnicodeString& name,
+                               unsigned char checkStartAndEnd) {
+    const ZFXIAlias_var alias(feature);
+    if (alias == nullptr)
+        return InputErrorReturn(MessageId::ZFXIAliasERR_01);
+    HRESULT code = IsNameUnique(feature, name);
+    if (Failed(code))
+        return code;
+    ZFXUnicodeString tested = name.IsNull() != 0 ? alias->GetAlias() : name;
+    code = IsNameValid(tested, checkStartAndEnd);
+    if (Failed(code))
+        return code;
+    ZFXUnicodeString offending;
+    return DoesNameContainDoubleByteChar(tested, offending);
+}
+
+HRESULT QVRNameUtil::CheckFileName(ZFXISpecObject_var& feature, const ZFXUnicodeString& fileName) {
+    const ZFXIAlias_var alias(feature);
+    if (alias == nullptr)
+        return InputErrorReturn(MessageId::ZFXIAliasERR_01);
+    const HRESULT code = IsNameUnique(feature, "");
+    if (Failed(code))
+        return code;
+    ZFXUnicodeString tested = fileName.IsNull() != 0 ? alias->GetAlias() : fileName;
+    return IsFileNameValid(tested);
+}
+
+void QVRNameUtil::GetUniqueName(ZFXUnicodeString& name, ZFXISpecObject_var& feature,
+                                ZFXISamAnalysisCase_var& analysisCase) {
+    if (feature == nullptr)
+        return;
+    ZFXISamAnalysisCase_var scopeCase(analysisCase);
+    if (scopeCase == nullptr &&
+        (Failed(QVRStepUtils::GetCurrentAnalysisCaseSP(scopeCase, nullptr)) || scopeCase == nullptr))
+        return;
+    // Whatever goes wrong below leaves the name; there is nobody to hand a code to.
+    if (QVRIStep_var(feature) != nullptr)
+        static_cast<void>(GetUniqueNameForStep(name, scopeCase));
+    else if (QVRAnalysisEntityUtils::IsObjectAProperty(feature) != 0 ||
+             QVRAnalysisEntityUtils::IsObjectAnAmplitude(feature) != 0)
+        static_cast<void>(GetUniqueNameForProperty(name, scopeCase));
+    else
+        static_cast<void>(GetUniqueNameForPropagatingObject(name, feature, scopeCase));
+}

@@ -1,0 +1,45 @@
+#include "QVRNameUtil.h"
+
+#include "internal/CharacterClasses.h"
+#include "internal/LegalLength.h"
+#include "internal/Refusal.h"
+
+HRESULT QVRNameUtil::IsNameValid(ZFXUnicodeString& name, unsigned char checkStartAndEnd) {
+    HRESULT code = NameCheckUserLength(name);
+    if (Failed(code))
+        return code;
+    if (checkStartAndEnd != 0)
+        code = NameCheckStartAndEnd(name);
+    return Failed(code) ? code : NameCheckIllegalCharacter(name, 0);
+}
+
+HRESULT QVRNameUtil::IsFileNameValid(ZFXUnicodeString& name) { return NameCheckIllegalCharacter(name, 1); }
+
+HRESULT QVRNameUtil::CheckForIllegalCharacters(const ZFXUnicodeString& name) {
+    return CharacterClasses::Holds(name, CharacterClasses::kIllegal) ? E_FAIL : S_OK;
+}
+
+HRESULT QVRNameUtil::NameCheckUserLength(ZFXUnicodeString& name) {
+    const int length = name.GetLengthInChar();
+    if (length < 1)
+        return InputErrorReturn(MessageId::NameLengthERR_02);
+    if (length > kMaxNameLength)
+        return InputErrorReturn(MessageId::NameLengthERR_01);
+    return S_OK;
+}
+
+HRESULT QVRNameUtil::NameCheckStartAndEnd(ZFXUnicodeString& name) {
+    // The first byte of the narrow form is a digit exactly when the first unit is: no other character has
+    // such bytes.
+    return name[0].IsDigit() != 0 ? InputErrorReturn(MessageId::LeadingDigitERR_01) : S_OK;
+}
+
+HRESULT QVRNameUtil::NameCheckIllegalCharacter(ZFXUnicodeString& name, unsigned char isFileName) {
+    using namespace CharacterClasses;
+    const Rules reserved = isFileName != 0 ? kReserved : kReserved | kReservedInNames;
+    if (Holds(name, reserved))
+        return InputErrorReturn(MessageId::IllegalCharERR_01, {.returnCode = kNameRefused});
+    if (isFileName != 0 && Holds(name, kIllegalInFileNames))
+        return InputErrorReturn(MessageId::IllegalCharERR_02, {.returnCode = kNameRefused});
+    return S_OK;
+}

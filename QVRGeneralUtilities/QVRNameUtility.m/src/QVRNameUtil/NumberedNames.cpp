@@ -1,0 +1,46 @@
+#include "QVRNameUtil.h"
+
+#include "QVRGenI18NUtils.h"
+#include "analysis/ZFXIAlias.h"
+#include "internal/Names.h"
+#include "internal/Navigation.h"
+#include "internal/Numbering.h"
+
+HRESULT QVRNameUtil::GetNextUniqueName(ZFXUnicodeString& name, const ZFXListValZFXBaseUnknown_var& scope) {
+    const int number = Numbering::NextNumber(
+        scope.Size(), [&](int i) { return Numbering::NumberAfter(name, NameOf(scope[i])); });
+    name = Numbering::Numbered(name, number);
+    return S_OK;
+}
+
+HRESULT QVRNameUtil::GetNextUniqueName(ZFXUnicodeString& name, const ZFXISamAnalysisSet_var& set) {
+    ZFXListValZFXBaseUnknown_var scope;
+    if (set == nullptr || Failed(Navigation::AppendMembers(set, scope)))
+        return E_FAIL;
+    return GetNextUniqueName(name, scope);
+}
+
+HRESULT QVRNameUtil::GenerateUniqueName(const ZFXISpecObject& feature, ZFXUnicodeString& name) {
+    // The platform's operations are not constant; these two only read.
+    const ZFXISpecObject_var object(const_cast<ZFXISpecObject*>(&feature));
+    const ZFXIAlias_var alias(object);
+    if (alias == nullptr)
+        return E_FAIL;
+    const ZFXUnicodeString current = alias->GetAlias();
+    ZFXUnicodeString offending;
+    if (!Failed(DoesNameContainDoubleByteChar(current, offending))) {
+        name = current;
+        return S_OK;
+    }
+    const ZFXUnicodeString lateType = object->GetLateType();
+    if (lateType.SearchSubString("SAM", 0, ZFXUnicodeString::SearchForward) != 0) {
+        name = current;
+        return S_OK;
+    }
+    QVRGenI18NUtils* handedOut = QVRGenI18NUtils::Instance();
+    int count = 0;
+    const bool again = handedOut->FindNameAndNextID(lateType, count) != 0;
+    name = again ? Numbering::Numbered(lateType + "-", count) : lateType;
+    handedOut->PushNameToList(lateType);
+    return S_OK;
+}

@@ -1,0 +1,62 @@
+#include "QVRNameUtil.h"
+
+#include "analysis/WorkbenchUtilities.h"
+#include "analysis/ZFXILinkableObject.h"
+#include "internal/Navigation.h"
+#include "internal/Platform.h"
+#include "internal/Refusal.h"
+
+HRESULT QVRNameUtil::GetAllPropagatingObjects(ZFXISamAnalysisCase_var& analysisCase,
+                                              ZFXListValZFXBaseUnknown_var& objects,
+                                              ZFXISpecObject_var& object) {
+    const auto [outcome, history] = Navigation::SimulationHistoryOf(analysisCase);
+    if (outcome == Navigation::HistoryOutcome::NotFound)
+        return InputErrorReturn(MessageId::AnalysisCaseERR_03);
+    if (outcome != Navigation::HistoryOutcome::Found)
+        return InputErrorReturn(MessageId::ObjectParentERR_01);
+    ZFXListValZFXBaseUnknown_var steps;
+    HRESULT code = history->ListChildren(steps, kScanMode);
+    if (Failed(code))
+        return code;
+    const ZFXBaseUnknown* self = ZFXIdentityOf(object);
+    for (int s = 1; s <= steps.Size(); ++s) {
+        ZFXISpecObject_var step(steps[s]);
+        ZFXListValZFXBaseUnknown_var inStep;
+        code = GetObjectsInStep(step, inStep, object);
+        if (Failed(code))
+            continue; // this step gives nothing; the code of the last one is the answer
+        for (int i = 1; i <= inStep.Size(); ++i)
+            if (ZFXIdentityOf(inStep[i]) != self)
+                objects.Append(inStep[i]);
+    }
+    return code;
+}
+
+HRESULT QVRNameUtil::GetUniqueNameForPropagatingObject(ZFXUnicodeString& name, ZFXISpecObject_var& object,
+                                                       ZFXISamAnalysisCase_var& analysisCase) {
+    ZFXListValZFXBaseUnknown_var scope;
+    const HRESULT code = GetAllPropagatingObjects(analysisCase, scope, object);
+    return Failed(code) ? code : GetNextUniqueName(name, scope);
+}
+
+HRESULT QVRNameUtil::IsUniqueNameForPropagatingObject(ZFXISpecObject_var& object,
+                                                      const ZFXUnicodeString& name) {
+    ZFXISpecObject_var parent;
+    HRESULT code = QVRAnalysisEntityUtils::GetParentCaseFromObject(object, parent);
+    ZFXISamAnalysisCase_var analysisCase;
+    if (!Failed(code)) {
+        analysisCase = parent;
+    } else {
+        // Outside every case the current case of the document is the scope; without one every name is free.
+        const ZFXILinkableObject_var linkable(object);
+        ZFXDocument* document = linkable == nullptr ? nullptr : linkable->GetOwningDocument();
+        if (document == nullptr)
+            return code;
+        code = QVRStepUtils::GetCurrentAnalysisCaseSP(analysisCase, document);
+        if (Failed(code) || analysisCase == nullptr)
+            return code;
+    }
+    ZFXListValZFXBaseUnknown_var scope;
+    code = GetAllPropagatingObjects(analysisCase, scope, object);
+    return Failed(code) ? code : IsNameUniqueInSet(object, scope, name);
+}

@@ -1,0 +1,81 @@
+#include "QVRNameUtil.h"
+
+#include "analysis/WorkbenchUtilities.h"
+#include "analysis/ZFXILinkableObject.h"
+#include "errors/ZFXError.h"
+#include "internal/Navigation.h"
+#include "internal/Platform.h"
+#include "internal/Refusal.h"
+#include "internal/Vocabulary.h"
+
+HRESULT QVRNameUtil::GetUniqueNameForStep(ZFXUnicodeString& name, ZFXISamAnalysisCase_var& analysisCase) {
+    if (analysisCase == nullptr)
+        return InputErrorReturn(MessageId::AnalysisCaseERR_01);
+    if (QVRAnalysisDocUtils::IsTarnisAnalysisCase(analysisCase) == 0)
+        return InputErrorReturn(MessageId::AnalysisCaseERR_02);
+    const auto [outcome, history] = Navigation::SimulationHistoryOf(analysisCase);
+    if (outcome != Navigation::HistoryOutcome::Found)
+        return InputErrorReturn(MessageId::AnalysisCaseERR_03);
+    ZFXListValZFXBaseUnknown_var steps;
+    const HRESULT code = history->ListChildren(steps, kScanMode);
+    if (Failed(code))
+        return code;
+    steps.RemovePosition(1); // the history's first child takes no part in the numbering
+    return GetNextUniqueName(name, steps);
+}
+
+HRESULT QVRNameUtil::IsUniqueNameForStep(ZFXISpecObject_var& step, const ZFXUnicodeString& name) {
+    const ZFXBaseUnknown_var above = Navigation::SimulationHistoryAbove(step);
+    if (above == nullptr)
+        return InputErrorReturn(MessageId::StepParentERR_01);
+    const ZFXISamAnalysisScan_var history(above);
+    ZFXListValZFXBaseUnknown_var steps;
+    if (history == nullptr || Failed(history->ListChildren(steps, kScanMode)))
+        return InputErrorReturn(MessageId::StepParentERR_02);
+    const HRESULT code = IsNameUniqueInSet(step, steps, name);
+    if (!Failed(code))
+        return code;
+    const ZFXError* error = ZFXError::ZFXGetLastError(code, nullptr);
+    if (error == nullptr)
+        return 1;
+    if (error->GetReturnCode() == kNameRefused)
+        return InputErrorReturn(MessageId::DuplicateNameERR_01);
+    return InputErrorReturn(std::string(error->GetMsgId()));
+}
+
+HRESULT QVRNameUtil::GetUniqueNameForProperty(ZFXUnicodeString& name, ZFXISamAnalysisCase_var& analysisCase) {
+    const ZFXILinkableObject_var linkable(analysisCase);
+    if (linkable == nullptr)
+        return InputErrorReturn(MessageId::AnalysisCaseERR_01);
+    const ZFXDocument* document = linkable->GetOwningDocument();
+    if (document == nullptr)
+        return InputErrorReturn(MessageId::DocumentERR_01);
+    ZFXISamAnalysisModel_var model;
+    if (Failed(QVRAnalysisDocUtils::GetAnalysisModel(model, document)))
+        return InputErrorReturn(MessageId::ErrorAnalysisModelErr_0004);
+    const ZFXISamAnalysisScan_var scan(model);
+    ZFXListValZFXBaseUnknown_var found;
+    if (scan != nullptr)
+        scan->FindObjectsOfType(Vocabulary::QVRTarnisPropertySetLT, found,
+                                kScanMode); // the list counts, not the code
+    const ZFXISamAnalysisSet_var propertySet(found[1]);
+    ZFXListValZFXBaseUnknown_var properties;
+    if (propertySet == nullptr || Failed(Navigation::AppendMembers(propertySet, properties)))
+        return InputErrorReturn(MessageId::PropertySetERR_01);
+    return GetNextUniqueName(name, properties);
+}
+
+HRESULT QVRNameUtil::IsUniqueNameForObject(ZFXISpecObject_var& object, const ZFXUnicodeString& name) {
+    using Navigation::HolderOutcome;
+    const Navigation::HolderAnswer answer = Navigation::HoldingSetOf(object);
+    if (answer.outcome == HolderOutcome::EmptyList)
+        return S_OK; // in no set, so beside nothing
+    if (answer.outcome != HolderOutcome::Found)
+        return answer.code;
+    const ZFXISamAnalysisSet_var set(answer.holder);
+    if (set == nullptr)
+        return E_FAIL;
+    ZFXListValZFXBaseUnknown_var scope;
+    const HRESULT code = Navigation::AppendMembers(set, scope);
+    return Failed(code) ? code : IsNameUniqueInSet(object, scope, name);
+}

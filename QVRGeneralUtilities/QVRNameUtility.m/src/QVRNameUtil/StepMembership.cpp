@@ -1,0 +1,64 @@
+#include "QVRNameUtil.h"
+
+#include "analysis/QVRIPropagatingFeature.h"
+#include "analysis/WorkbenchUtilities.h"
+#include "analysis/ZFXIAlias.h"
+#include "internal/Navigation.h"
+#include "internal/Platform.h"
+#include "internal/Vocabulary.h"
+
+namespace {
+
+/// Whether a member only came into its step from an earlier one. An initial temperature never counts as such.
+bool IsPropagated(const ZFXISpecObject_var& member) {
+    const QVRIPropagatingFeature_var propagating(member);
+    return propagating != nullptr &&
+           member->GetLateType().Compare(Vocabulary::QVRInitialTemperatureLT) != 2 &&
+           propagating->IsPropagated() != 0;
+}
+
+} // namespace
+
+HRESULT QVRNameUtil::GetParentStepName(const ZFXISpecObject_var& object, ZFXUnicodeString& stepName) {
+    if (object == nullptr)
+        return E_FAIL;
+    stepName = "";
+    ZFXISpecObject_var step;
+    const HRESULT code = QVRAnalysisEntityUtils::GetParentStep(object, step);
+    if (Failed(code) || step == nullptr)
+        return code;
+    const ZFXIAlias_var alias(step);
+    if (alias == nullptr)
+        return E_FAIL;
+    stepName = alias->GetAlias();
+    return code;
+}
+
+HRESULT QVRNameUtil::GetObjectsInStep(ZFXISpecObject_var& step, ZFXListValZFXBaseUnknown_var& objects,
+                                      const ZFXISpecObject_var& object) {
+    const Navigation::HolderAnswer answer = Navigation::HoldingSetOf(object);
+    const ZFXISpecObject_var holder(answer.holder);
+    if (holder == nullptr)
+        return E_FAIL;
+    const ZFXUnicodeString setType = holder->GetLateType();
+    const ZFXISamAnalysisScan_var scan(step);
+    if (scan == nullptr)
+        return E_FAIL;
+    ZFXListValZFXBaseUnknown_var found;
+    HRESULT code = scan->FindObjectsOfType(setType, found, kScanMode);
+    if (Failed(code))
+        return code;
+    for (int i = 1; i <= found.Size(); ++i) {
+        const ZFXISamAnalysisSet_var set(found[i]);
+        if (set == nullptr)
+            continue;
+        ZFXListValZFXISpecObject_var members;
+        set->ListMembers(members, CLSID_ZFXBaseUnknown,
+                         kMemberFlag); // what the list holds counts, not the code
+        for (int m = 1; m <= members.Size(); ++m)
+            if (!IsPropagated(members[m]))
+                objects.Append(members[m]);
+        code = S_OK;
+    }
+    return code;
+}

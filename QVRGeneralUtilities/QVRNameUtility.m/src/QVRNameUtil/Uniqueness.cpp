@@ -1,0 +1,65 @@
+#include "QVRNameUtil.h"
+
+#include "analysis/ZFXIAlias.h"
+#include "analysis/ZFXISamAnalysisModel.h"
+#include "internal/Names.h"
+#include "internal/Navigation.h"
+#include "internal/Ownership.h"
+#include "internal/Platform.h"
+#include "internal/Refusal.h"
+#include "internal/Vocabulary.h"
+
+HRESULT QVRNameUtil::IsNameUniqueInSet(const ZFXISpecObject_var& feature,
+                                       const ZFXListValZFXBaseUnknown_var& scope,
+                                       const ZFXUnicodeString& name) {
+    const ZFXIAlias_var ownAlias(feature);
+    if (ownAlias == nullptr && name.IsNull() != 0)
+        return InputErrorReturn(MessageId::ZFXIAliasERR_01);
+    const ZFXUnicodeString candidate = name.IsNull() != 0 ? ownAlias->GetAlias() : name;
+    const ZFXBaseUnknown* self = ZFXIdentityOf(feature);
+    for (int i = 1; i <= scope.Size(); ++i) {
+        if (ZFXIdentityOf(scope[i]) == self)
+            continue;
+        const ZFXIAlias_var alias(scope[i]);
+        if (alias == nullptr)
+            return InputErrorReturn(MessageId::ZFXIAliasERR_01);
+        if (NamesClash(candidate, alias->GetAlias()))
+            return InputErrorReturn(MessageId::DuplicateNameERR_02, {.returnCode = kNameRefused});
+    }
+    return S_OK;
+}
+
+HRESULT QVRNameUtil::IsNameUniqueAcrossCases(ZFXISpecObject_var& feature, const ZFXUnicodeString& name) {
+    using Navigation::HolderOutcome;
+    const Navigation::HolderAnswer answer = Navigation::HoldingSetOf(feature);
+    if (answer.outcome == HolderOutcome::EmptyList)
+        return E_FAIL;
+    if (answer.outcome != HolderOutcome::Found)
+        return answer.code;
+    const ZFXISpecObject_var holder(answer.holder);
+    const ZFXISamAnalysisModel_var model(holder == nullptr ? ZFXBaseUnknown_var()
+                                                           : TakeOver(holder->GetFather()));
+    if (model == nullptr)
+        return E_FAIL;
+    ZFXListValZFXBaseUnknown_var cases;
+    model->ListAnalysisCases(cases); // the list counts, not the code
+    for (int i = 1; i <= cases.Size(); ++i) {
+        const ZFXISamAnalysisScan_var scan(cases[i]);
+        if (scan == nullptr)
+            return E_FAIL;
+        ZFXListValZFXBaseUnknown_var containers;
+        scan->FindObjectsOfType(Vocabulary::QVRJobContainerLT, containers, kScanMode); // as above
+        if (containers.Size() == 0)
+            continue;
+        const ZFXISamAnalysisSet_var container(containers[1]);
+        if (container == nullptr)
+            return E_FAIL;
+        ZFXListValZFXBaseUnknown_var jobs;
+        HRESULT code = Navigation::AppendMembers(container, jobs);
+        if (!Failed(code))
+            code = IsNameUniqueInSet(feature, jobs, name);
+        if (Failed(code))
+            return code;
+    }
+    return S_OK;
+}

@@ -1,0 +1,64 @@
+#include "internal/Navigation.h"
+
+#include "analysis/ZFXISamAnalysisEntity.h"
+#include "internal/Ownership.h"
+#include "internal/Platform.h"
+#include "internal/Vocabulary.h"
+
+namespace Navigation {
+
+HistoryAnswer SimulationHistoryOf(const ZFXISamAnalysisCase_var& analysisCase) {
+    const ZFXISamAnalysisScan_var scan(analysisCase);
+    if (scan == nullptr)
+        return {HistoryOutcome::CaseNotSearchable, {}};
+    ZFXListValZFXBaseUnknown_var found;
+    const HRESULT code = scan->FindObjectsOfType(Vocabulary::QVROruSimHistLT, found, kScanMode);
+    if (Failed(code) || found.Size() == 0)
+        return {HistoryOutcome::NotFound, {}};
+    const ZFXISamAnalysisScan_var history(found[1]);
+    if (history == nullptr)
+        return {HistoryOutcome::HistoryNotSearchable, {}};
+    return {HistoryOutcome::Found, history};
+}
+
+ZFXBaseUnknown_var SimulationHistoryAbove(const ZFXISpecObject_var& step) {
+    const ZFXListValZFXISpecAttribute_var* attributes =
+        step->ListPointingAttributes("ZFXISpecObject", "", "");
+    if (attributes == nullptr)
+        return {};
+    for (int i = 1; i <= attributes->Size(); ++i) {
+        const ZFXISpecAttribute_var& attribute = (*attributes)[i];
+        const ZFXISpecObject_var owner(attribute == nullptr ? ZFXBaseUnknown_var()
+                                                            : TakeOver(attribute->GetOwner()));
+        if (owner != nullptr && owner->GetLateType() == Vocabulary::QVROruSimHistLT)
+            return owner;
+    }
+    return {};
+}
+
+HolderAnswer HoldingSetOf(const ZFXISpecObject_var& feature) {
+    const ZFXISamAnalysisEntity_var entity(feature);
+    if (entity == nullptr)
+        return {HolderOutcome::NoEntity, S_OK, {}};
+    ZFXListValZFXBaseUnknown_var* raw = nullptr;
+    const HRESULT code = entity->GetParentSets(raw);
+    const OwnedList sets(raw);
+    if (Failed(code))
+        return {HolderOutcome::RequestFailed, code, {}};
+    if (sets == nullptr)
+        return {HolderOutcome::NoList, code, {}};
+    if (sets->Size() == 0)
+        return {HolderOutcome::EmptyList, code, {}};
+    return {HolderOutcome::Found, code, (*sets)[1]};
+}
+
+HRESULT AppendMembers(const ZFXISamAnalysisSet_var& set, ZFXListValZFXBaseUnknown_var& scope) {
+    ZFXListValZFXISpecObject_var members;
+    const HRESULT code = set->ListMembers(members, CLSID_ZFXBaseUnknown, kMemberFlag);
+    scope.Reserve(scope.Size() + members.Size());
+    for (int i = 1; i <= members.Size(); ++i)
+        scope.Append(members[i]);
+    return code;
+}
+
+} // namespace Navigation

@@ -1,0 +1,28 @@
+#pragma once
+
+#include "QVRNameUtilityExport.h"
+
+#include "object-model/ZFXBaseUnknown.h"
+#include "text/ZFXUnicodeString.h"
+
+/// The alias of a feature, kept in its string attribute "Alias" and guarded: a new one is stored only when it
+/// passes the name rules. An object of this class is an extension of one feature; the feature interfaces that
+/// it is asked for are the feature's. It holds no state of its own.
+class QVR_NAME_UTILITY_EXPORT QVRBaseFeatureAlias : public ZFXBaseUnknown {
+public:
+    QVRBaseFeatureAlias();
+    ~QVRBaseFeatureAlias() override;
+
+    /// The stored alias; empty when it was never set or cannot be read.
+    ZFXUnicodeString GetAlias();
+    /// Trims blanks, then underscores, at both ends, stores the rest and checks it on the feature: a job by
+    /// QVRNameUtil::IsNameUniqueAcrossCases alone, any other feature by QVRNameUtil::CheckName (a leading
+    /// digit is legal for "QVRShellSectionEnhLT"). After a refusal the former alias is back as it was, and
+    /// when the refusal registered an error, "NAME ERROR: " and its message are written as one line on
+    /// standard output. Without ZFXISpecAttrAccess or an "Alias" attribute nothing is stored.
+    void SetAlias(const ZFXUnicodeString& alias);
+
+private:
+    /// Stores a value without any check.
+    void SetAttribute(const ZFXUnicodeString& value);
+};

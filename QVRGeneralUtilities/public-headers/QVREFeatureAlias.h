@@ -1,0 +1,34 @@
+#pragma once
+
+#include "QVRBaseFeatureAlias.h"
+
+#include "object-model/ZFXMetaClass.h"
+
+/// What the object model knows as the alias extension of 29 late types: asked for ZFXIAlias, a feature of one
+/// of them gives an adaptor that forwards to an object of this class. The declarations and the dictionary
+/// entry are made when the module is loaded.
+class QVR_NAME_UTILITY_EXPORT QVREFeatureAlias : public QVRBaseFeatureAlias {
+public:
+    QVREFeatureAlias();
+    ~QVREFeatureAlias() override;
+
+    void SetAlias(const ZFXUnicodeString& alias);
+    ZFXUnicodeString GetAlias();
+
+    /// The meta class, made and declared an extension of the late types by the first call. [borrowed]
+    static ZFXMetaClass* MetaObject();
+    ZFXMetaClass* GetMetaObject() const override;
+    static const GUID& ClassId();
+    static const char* ClassName();
+    const char* IsA() const override;
+    int IsAKindOf(const char* name) const override;
+    /// A new object, or null when there is no memory. [new reference]
+    static ZFXBaseUnknown* CreateItself();
+
+    static ZFXMetaClass* meta_object;
+};
+
+/// Makes the adaptor that offers ZFXIAlias on `object`; null when there is no memory. `context` is handed on.
+/// [new reference]
+extern "C" QVR_NAME_UTILITY_EXPORT ZFXBaseUnknown* CreateTIEZFXIAliasQVREFeatureAlias(ZFXBaseUnknown* object,
+                                                                                      void* context);
