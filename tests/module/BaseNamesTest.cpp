@@ -1,0 +1,43 @@
+#include "QVRNameUtil.h"
+
+#include "support/DocumentTest.h"
+
+namespace {
+
+class BaseNamesTest : public DocumentTest {};
+
+TEST_F(BaseNamesTest, FollowTheExactLateType) {
+    struct Row {
+        const char* lateType;
+        const char* baseName;
+    };
+    const Row rows[] = {
+        {"QVRPressure", "Pressure-"},
+        {"QVRConcentratedForce", "Point Load-"},
+        {"QVRConcHeatFlux", "Point Heat Flux-"},
+        {"QVRNewFieldOutputLT", "Field Output Request-"},
+        {"QVRMassScalingLT", "Mass Scaling-"},
+        {"QVRContactConnectionEnhancementStdLT", "Contact Pair-"},
+        {"QVRContactConnectionEnhancementExplicitLT", "Contact Pair-"},
+        {"QVRGeneralContactLT", "General Contact-"},
+        {"QVRSubmodelBCLT", "Submodel BC-"},
+        {"QVRInitialTemperatureLT", "Initial Temperature-"},
+        // No row: what the caller passed stays.
+        {"QVRPressureLT", "before"},
+        {"QVRPRESSURE", "before"},
+        {"QVRFieldOutputLT", "before"},
+        {"", "before"},
+    };
+    for (const Row& row : rows) {
+        ZFXISpecObject_var feature(document.Model().Feature(row.lateType, "x"));
+        ZFXUnicodeString baseName("before");
+        EXPECT_EQ(QVRNameUtil::CreateBaseName(feature, baseName), S_OK);
+        EXPECT_EQ(Text(baseName), row.baseName) << row.lateType;
+    }
+    ZFXISpecObject_var nothing;
+    ZFXUnicodeString baseName("before");
+    EXPECT_EQ(QVRNameUtil::CreateBaseName(nothing, baseName), E_FAIL);
+    EXPECT_EQ(Text(baseName), "before");
+}
+
+} // namespace

@@ -1,0 +1,147 @@
+#include "QVREFeatureAlias.h"
+
+#include "support/DocumentTest.h"
+
+namespace {
+
+class FeatureAliasTest : public DocumentTest {
+protected:
+    MemoryFeature analysisCase = document.Case("Static");
+    MemoryFeature step = analysisCase.Step("QVRStaticLPStepLT", "Step-1");
+    MemoryFeature other = analysisCase.Step("QVRStaticLPStepLT", "step");
+
+    /// Renames as a host does; what stands in the alias afterwards, and what the console said.
+    std::string Rename(MemoryFeature feature, const ZFXUnicodeString& name) {
+        const std::string console = Console([&] { ZFXIAlias_var(feature)->SetAlias(name); });
+        return Text(feature.StoredAlias()) + "|" + console.substr(0, console.find(':'));
+    }
+};
+
+TEST_F(FeatureAliasTest, AStepIsRenamedUnderTheRules) {
+    const std::string console = Console([&] { ZFXIAlias_var(step)->SetAlias(" Step_ "); });
+    EXPECT_EQ(
+        console,
+        "NAME ERROR: Another step of this analysis case already has the name; capital and small letters "
+        "count as the same. Choose a name that no step of the case has.\n");
+    EXPECT_EQ(Text(ZFXIAlias_var(step)->GetAlias()), "Step-1");
+    EXPECT_EQ(Rename(step, "  _ _Lo ad__ "), " _Lo ad|"); // blanks first, then underscores, each once
+    EXPECT_EQ(Rename(step, "Tr\xC3\xA4ger"), "Träger|");
+    for (const char* refused : {"", " __ ", "1st", "a.b", "日本"})
+        EXPECT_EQ(Rename(step, refused), "Träger|NAME ERROR") << refused;
+    EXPECT_EQ(Rename(step, "TRÄGER"), "TRÄGER|"); // its own name in other letters
+}
+
+TEST_F(FeatureAliasTest, JobsAndShellSectionsHaveRulesOfTheirOwn) {
+    MemoryFeature job = analysisCase.Job("Job-1");
+    document.Case("Second").Job("Job-2");
+    EXPECT_EQ(Rename(job, "JOB-2"), "Job-1|NAME ERROR");
+    EXPECT_EQ(Rename(job, "1.日 \"\\"), "1.日 \"\\|"); // nothing else is asked of a job
+    EXPECT_EQ(Rename(job, ""), "|");
+    MemoryFeature section = document.PropertySet().Feature("QVRShellSectionEnhLT", "Section");
+    EXPECT_EQ(Rename(section, "1st section"), "1st section|");
+    EXPECT_EQ(Rename(section, "1.st"), "1st section|NAME ERROR");
+    MemoryFeature layup = document.PropertySet().Feature("QVRLayupLT", "Layup");
+    EXPECT_EQ(Rename(layup, "1st layup"), "Layup|NAME ERROR");
+    analysisCase.Answer(MemoryRequest::FindObjectsOfType, kFailsFilled);
+    job.Father(MemoryFeature());
+    model.AnswerAlways(MemoryRequest::GetParentSets, kFails);
+    EXPECT_EQ(Rename(job, "x"), "|"); // refused without a registered error: silently
+}
+
+TEST_F(FeatureAliasTest, OnlyTheListedTypesAreGuarded) {
+    MemoryFeature load = step.Set("QVRLoadContainerLT").Feature("QVRPressure", "a");
+    EXPECT_EQ(Rename(load, " 1.日_"), " 1.日_|");
+    int guarded = 0;
+    for (const char* lateType : {"QVRDisplayGrpLT",
+                                 "QVRExplicitDynamicStepLT",
+                                 "QVRGeneralStaticStepLT",
+                                 "QVRHeatTransferStepLT",
+                                 "QVRRiksStepLT",
+                                 "QVRStaticLPStepLT",
+                                 "QVRFrequencyStepLT",
+                                 "QVRJobLT",
+                                 "QVRShellSectionEnhLT",
+                                 "QVRLayupLT",
+                                 "QVRMatOrientLT",
+                                 "QVRRigidBodyConstraintLT",
+                                 "QVRRigidCouplingLT",
+                                 "QVRSmoothCouplingLT",
+                                 "QVRARSurfLT",
+                                 "QVRARSurfMeshPartLT",
+                                 "QVRTiedContactLT",
+                                 "QVRSurfaceToSurfaceContactLT",
+                                 "QVRInteractionLT",
+                                 "QVRInteractionPropertyLT",
+                                 "QVRThermalConnBehaviorLT",
+                                 "QVRSpringLT",
+                                 "QVRSpringMeshPartLT",
+                                 "QVRDamperLT",
+                                 "QVRDamperMeshPartLT",
+                                 "QVRTabularAmplitudeLT",
+                                 "QVRSmoothStepAmplitudeLT",
+                                 "QVRSubmodelPropertyLT",
+                                 "QVRLocalElemAsgnLT",
+                                 "QVRPressure",
+                                 "QVRMassScalingLT",
+                                 "QVRInteractionPropertyl"}) {
+        const ZFXIAlias_var alias(document.Model().Feature(lateType, "a"));
+        guarded +=
+            alias->GetMetaObject()->GetImplementationMetaClass() == QVREFeatureAlias::MetaObject() ? 1 : 0;
+    }
+    EXPECT_EQ(guarded, 29);
+    EXPECT_FALSE(ZFXIAlias_var(step.Without(IID_ZFXIAlias)));
+}
+
+TEST_F(FeatureAliasTest, AnAdaptorIsAFaceOfItsFeatureAndKeepsItAlive) {
+    ZFXIAlias_var alias(step);
+    EXPECT_EQ(step.References(), 1);
+    EXPECT_TRUE(alias == step.Object() && ZFXISpecObject_var(alias) == step.Object());
+    EXPECT_TRUE(ZFXIAlias_var(ZFXBaseUnknown_var(alias)) == alias);
+    EXPECT_STREQ(alias->IsA(), "ZFXIAlias");
+    unsigned int count = 9;
+    EXPECT_TRUE(alias->GetTypeInfoCount(&count) == S_OK && count == 0);
+    EXPECT_EQ(alias->GetTypeInfo(0, 0, nullptr), E_NOTIMPL);
+    const long before = ZFXBaseUnknown::LiveAllocations();
+    {
+        const ZFXIAlias_var another(other);
+        EXPECT_EQ(ZFXBaseUnknown::LiveAllocations(), before + 2);
+    }
+    EXPECT_EQ(ZFXBaseUnknown::LiveAllocations(),
+              before); // adaptor and extension went with the last reference
+
+    const ZFXBaseUnknown_var extension = ZFXBaseUnknown_var::TakeOver(QVREFeatureAlias::CreateItself());
+    EXPECT_STREQ(extension->IsA(), "QVREFeatureAlias");
+    EXPECT_STREQ(QVREFeatureAlias::ClassName(), "QVREFeatureAlias");
+    EXPECT_TRUE(extension->IsAKindOf("QVREFeatureAlias") && !extension->IsAKindOf("QVRBaseFeatureAlias"));
+    EXPECT_EQ(extension->GetMetaObject(), QVREFeatureAlias::meta_object);
+    EXPECT_EQ(CreateTIEZFXIAliasQVREFeatureAlias(nullptr, nullptr), nullptr);
+}
+
+TEST_F(FeatureAliasTest, WithoutAttributesNothingIsStored) {
+    step.Without(IID_ZFXISpecAttrAccess);
+    EXPECT_EQ(Rename(step, "New"), "Step-1|");
+    EXPECT_EQ(Text(ZFXIAlias_var(step)->GetAlias()), "");
+    EXPECT_EQ(Rename(step, "step"), "Step-1|NAME ERROR"); // the checks run all the same
+    other.WithoutAttribute("Alias");
+    EXPECT_EQ(Rename(other, "New"), "step|");
+    EXPECT_EQ(Text(ZFXIAlias_var(other)->GetAlias()), "");
+    other.Without(IID_ZFXISpecObject);
+    EXPECT_EQ(Rename(other, "New"), "step|");
+}
+
+TEST_F(FeatureAliasTest, ARefusalLeavesTheAliasWhicheverRequestFails) {
+    const ZFXIAlias_var alias(step);
+    const long before = model.Requests();
+    Console([&] { alias->SetAlias("1.0"); });
+    const long requests = model.Requests() - before;
+    ASSERT_GT(requests, 20);
+    for (long k = 1; k <= requests; ++k) {
+        model.AnswerOnce(MemoryRequest::Any, k);
+        Console([&] { alias->SetAlias("1.0"); });
+        model.Heal();
+        EXPECT_EQ(Text(step.StoredAlias()), "Step-1") << "request " << k;
+        EXPECT_EQ(model.References(), 1) << "request " << k;
+    }
+}
+
+} // namespace

@@ -1,0 +1,125 @@
+#include "QVRNameUtil.h"
+
+#include "support/DocumentTest.h"
+
+namespace {
+
+class StepNamesTest : public DocumentTest {
+protected:
+    MemoryFeature analysisCase = document.Case("Static");
+    MemoryFeature initial = analysisCase.Step("QVROruInitialStepLT", "Static Step-7");
+    MemoryFeature step = analysisCase.Step("QVRGeneralStaticStepLT", "Static Step-1");
+    MemoryFeature other = analysisCase.Step("QVRGeneralStaticStepLT", "Static Step-2");
+
+    std::string Propose(MemoryFeature feature, const char* base) {
+        ZFXUnicodeString name(base);
+        ZFXISpecObject_var handle(feature);
+        ZFXISamAnalysisCase_var scope(analysisCase);
+        QVRNameUtil::GetUniqueName(name, handle, scope);
+        return Text(name);
+    }
+    static std::string Check(MemoryFeature feature, const ZFXUnicodeString& name) {
+        ZFXISpecObject_var handle(feature);
+        return Said(QVRNameUtil::IsNameUnique(handle, name));
+    }
+};
+
+TEST_F(StepNamesTest, TheFirstChildIsNotNumberedAgainstButStillTaken) {
+    EXPECT_EQ(Propose(step, "Static Step-"), "Static Step-3");
+    EXPECT_EQ(Check(step, "static step-7"), "DuplicateNameERR_01");
+    EXPECT_EQ(Check(step, "Static Step-2"), "DuplicateNameERR_01");
+    EXPECT_EQ(Check(step, "Static Step-1"), "S_OK");
+    analysisCase = document.Case("Empty");
+    EXPECT_EQ(Propose(step, "Static Step-"), "Static Step-1");
+    analysisCase.SolverCase(false);
+    EXPECT_EQ(Propose(step, "before"), "before");
+}
+
+TEST_F(StepNamesTest, AClashIsToldInTheStepsOwnWords) {
+    MemoryFeature otherCase = document.Case("Other");
+    otherCase.Step("T", "Elsewhere");
+    step.PointedAtBy(otherCase.History()); // a second history above: only the first counts
+    EXPECT_EQ(Check(step, "Elsewhere"), "S_OK");
+    step.PointedAtBy(document.Model());
+    ZFXISpecObject_var handle(step);
+    const HRESULT code = QVRNameUtil::IsNameUnique(handle, "Static Step-2");
+    const ZFXError* last = ZFXError::ZFXGetLastError(code, nullptr);
+    ASSERT_NE(last, nullptr);
+    EXPECT_STREQ(last->GetMsgId(), "DuplicateNameERR_01");
+    EXPECT_EQ(last->GetReturnCode(), 0);
+    const ZFXError* comparison = ZFXError::ZFXGetLastError(code - 1, nullptr); // registered just before it
+    ASSERT_NE(comparison, nullptr);
+    EXPECT_STREQ(comparison->GetMsgId(), "DuplicateNameERR_02");
+    EXPECT_EQ(comparison->GetReturnCode(), -100);
+    other.Without(IID_ZFXIAlias);
+    EXPECT_EQ(Check(step, "x"), "ZFXIAliasERR_01"); // raised again under its own id
+}
+
+TEST_F(StepNamesTest, WithoutAHistoryAStepCannotBeJudged) {
+    EXPECT_EQ(Check(MemoryFeature(document.Model().Add(MemoryKind::Step, "T", "Loose")), "x"),
+              "StepParentERR_01");
+    const auto failing = [&](MemoryRequest request, MemoryAnswer answer) {
+        model.AnswerAlways(request, answer);
+        const std::string said = Check(step, "x");
+        model.Heal();
+        return said;
+    };
+    EXPECT_EQ(failing(MemoryRequest::ListPointingAttributes, kFails), "StepParentERR_01");
+    EXPECT_EQ(failing(MemoryRequest::GetOwner, kFails), "StepParentERR_01");
+    EXPECT_EQ(failing(MemoryRequest::GetLateType, kFails), "StepParentERR_01");
+    EXPECT_EQ(failing(MemoryRequest::ListChildren, kFailsFilled), "StepParentERR_02");
+    analysisCase.History().Without(IID_ZFXISamAnalysisScan);
+    EXPECT_EQ(Check(step, "x"), "StepParentERR_02");
+    EXPECT_EQ(Propose(step, "before"), "before");
+}
+
+TEST_F(StepNamesTest, PropertiesAndAmplitudesAreNumberedInThePropertySet) {
+    MemoryFeature section = document.PropertySet().Feature("QVRShellSectionEnhLT", "P-3");
+    MemoryFeature amplitude = document.PropertySet().Feature("QVRTabularAmplitudeLT", "P-x");
+    EXPECT_EQ(Propose(section, "P-"), "P-4"); // counts itself: it is in the set
+    EXPECT_EQ(Propose(amplitude, "P-"), "P-4");
+    const auto failing = [&](MemoryRequest request, MemoryAnswer answer) {
+        model.AnswerAlways(request, answer);
+        const std::string name = Propose(section, "P-");
+        model.Heal();
+        return name;
+    };
+    EXPECT_EQ(failing(MemoryRequest::GetOwningDocument, kFails), "P-");
+    EXPECT_EQ(failing(MemoryRequest::GetAnalysisModel, kFailsFilled), "P-");
+    EXPECT_EQ(failing(MemoryRequest::GetAnalysisModel, kEmpty), "P-");
+    EXPECT_EQ(failing(MemoryRequest::FindObjectsOfType, kFailsFilled),
+              "P-4"); // the list counts, not the code
+    EXPECT_EQ(failing(MemoryRequest::FindObjectsOfType, kEmpty), "P-");
+    EXPECT_EQ(failing(MemoryRequest::ListMembers, kFailsFilled), "P-");
+    document.PropertySet().Without(IID_ZFXISamAnalysisSet);
+    EXPECT_EQ(Propose(section, "P-"), "P-");
+}
+
+TEST_F(StepNamesTest, OtherFeaturesAreComparedInTheirSet) {
+    MemoryFeature set = document.Model().Set("S");
+    MemoryFeature feature = set.Feature("T", "a");
+    set.Feature("T", "b");
+    EXPECT_EQ(Check(feature, "B"), "DuplicateNameERR_02 -100");
+    EXPECT_EQ(Check(document.Model().Feature("T", "loose"), "b"), "S_OK");
+    EXPECT_EQ(Check({}, "b"), "S_OK");
+    struct Row {
+        MemoryRequest request;
+        MemoryAnswer answer;
+        std::string said;
+    };
+    const Row rows[] = {
+        {MemoryRequest::GetParentSets, kFailsFilled, std::to_string(kCode)},
+        {MemoryRequest::GetParentSets, {4, false}, "4"},
+        {MemoryRequest::ListMembers, kFailsFilled, std::to_string(kCode)},
+    };
+    for (const Row& row : rows) {
+        model.AnswerAlways(row.request, row.answer);
+        EXPECT_EQ(Check(feature, "b"), row.said);
+        model.Heal();
+    }
+    set.Without(IID_ZFXISamAnalysisSet);
+    EXPECT_EQ(Check(feature, "b"), "E_FAIL");
+    EXPECT_EQ(Check(document.Model().Feature("T", "in none").With(IID_ZFXISamAnalysisEntity), "b"), "S_OK");
+}
+
+} // namespace

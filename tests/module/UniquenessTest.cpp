@@ -1,0 +1,95 @@
+#include "QVRNameUtil.h"
+
+#include "support/DocumentTest.h"
+
+namespace {
+
+class UniquenessTest : public DocumentTest {};
+
+TEST_F(UniquenessTest, TheFirstElementThatFailsDecides) {
+    MemoryFeature set = document.Model().Set("S");
+    MemoryFeature feature = set.Feature("T", "Load-1");
+    MemoryFeature twin = set.Feature("T", "LOAD-1");
+    MemoryFeature other = set.Feature("T", "Load-2");
+    MemoryFeature nameless = set.Feature("T", "x").Without(IID_ZFXIAlias);
+    struct Row {
+        const char* why;
+        std::vector<MemoryFeature> scope;
+        MemoryFeature feature;
+        const char* name;
+        const char* said;
+    };
+    const char* const duplicate = "DuplicateNameERR_02 -100";
+    const Row rows[] = {
+        {"nothing in scope", {}, feature, "Load-1", "S_OK"},
+        {"itself only, twice", {feature, feature}, feature, "Load-1", "S_OK"},
+        {"apart from case", {feature, twin}, feature, "Load-1", duplicate},
+        {"own name asked for", {twin}, feature, "", duplicate},
+        {"another name", {other}, feature, "Load-1", "S_OK"},
+        {"clash before nameless", {twin, nameless}, feature, "load-1", duplicate},
+        {"nameless before clash", {nameless, twin}, feature, "load-1", "ZFXIAliasERR_01"},
+        {"nameless itself", {nameless, other}, nameless, "Load-1", "S_OK"},
+        {"nameless itself, own name", {}, nameless, "", "ZFXIAliasERR_01"},
+        {"no feature", {other}, {}, "Load-2", duplicate},
+        {"an empty handle in the list", {MemoryFeature()}, feature, "x", "ZFXIAliasERR_01"},
+    };
+    for (const Row& row : rows) {
+        ZFXListValZFXBaseUnknown_var scope;
+        for (const MemoryFeature& element : row.scope)
+            scope.Append(ZFXBaseUnknown_var(element));
+        EXPECT_EQ(Said(QVRNameUtil::IsNameUniqueInSet(ZFXISpecObject_var(row.feature), scope, row.name)),
+                  row.said)
+            << row.why;
+    }
+}
+
+TEST_F(UniquenessTest, JobsAreComparedAcrossTheCasesOfTheirModel) {
+    MemoryFeature first = document.Case("First");
+    MemoryFeature second = document.Case("Second");
+    MemoryFeature job = first.Job("Job-1");
+    document.Case("Without jobs");
+    second.Job("Job-2");
+    second.Add(MemoryKind::JobContainer, "QVRJobContainerLT", "")
+        .Feature("QVRJobLT", "In a second container");
+    const auto check = [&](const char* name) {
+        ZFXISpecObject_var feature(job);
+        return Said(QVRNameUtil::IsNameUniqueAcrossCases(feature, name));
+    };
+    EXPECT_EQ(check("JOB-2"), "DuplicateNameERR_02 -100");
+    EXPECT_EQ(check("Job-1"), "S_OK");
+    EXPECT_EQ(check("In a second container"), "S_OK");
+    EXPECT_EQ(check(""), "S_OK");
+
+    // Codes that are read, and lists that count whatever the code is.
+    struct Row {
+        MemoryRequest request;
+        MemoryAnswer answer;
+        const char* said;
+    };
+    const std::string code = std::to_string(kCode);
+    const char* const duplicate = "DuplicateNameERR_02 -100";
+    const Row rows[] = {
+        {MemoryRequest::GetParentSets, kFailsFilled, code.c_str()},
+        {MemoryRequest::GetParentSets, kEmpty, "S_OK"},
+        {MemoryRequest::GetParentSets, {3, false}, "3"},
+        {MemoryRequest::GetFather, kEmpty, "E_FAIL"},
+        {MemoryRequest::ListAnalysisCases, kFailsFilled, duplicate},
+        {MemoryRequest::ListAnalysisCases, kFails, "S_OK"},
+        {MemoryRequest::FindObjectsOfType, kFailsFilled, duplicate},
+        {MemoryRequest::FindObjectsOfType, kFails, "S_OK"},
+        {MemoryRequest::ListMembers, kFailsFilled, code.c_str()},
+    };
+    for (const Row& row : rows) {
+        model.AnswerAlways(row.request, row.answer);
+        EXPECT_EQ(check("Job-2"), row.said) << static_cast<int>(row.request);
+        model.Heal();
+    }
+    second.Without(IID_ZFXISamAnalysisScan);
+    EXPECT_EQ(check("x"), "E_FAIL");
+    job = document.Model().Feature("QVRJobLT", "No entity");
+    EXPECT_EQ(check("Job-2"), "S_OK");
+    job.With(IID_ZFXISamAnalysisEntity); // an entity that no set holds
+    EXPECT_EQ(check("x"), "E_FAIL");
+}
+
+} // namespace

@@ -1,0 +1,68 @@
+#include "support/Said.h"
+
+#include "errors/MessageCatalog.h"
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <fstream>
+#include <functional>
+#include <thread>
+
+namespace {
+
+HRESULT Raise(const char* id) {
+    return ZFXError::GetReturn(ZFXErrorTypeInput, new ZFXInputError(id, "Tests"), nullptr, "File.cpp", 7);
+}
+
+TEST(Error, IsFoundUnderItsOwnCodeUntilManyOthersCame) {
+    const HRESULT first = Raise("First");
+    const HRESULT second = Raise("Second");
+    EXPECT_LT(first, 0);
+    EXPECT_NE(first, E_FAIL);
+    EXPECT_EQ(Said(first), "First");
+    EXPECT_EQ(Said(second), "Second");
+    EXPECT_EQ(ZFXError::ZFXGetLastError(E_FAIL, nullptr), nullptr);
+    ZFXError* error = ZFXError::ZFXGetLastError(first, nullptr);
+    EXPECT_STREQ(error->GetSourceFileName(), "File.cpp");
+    EXPECT_EQ(error->GetSourceLineNumber(), 7);
+    EXPECT_TRUE(error->IsAKindOf("ZFXInputError") && error->IsAKindOf("ZFXError"));
+    std::thread([&] { EXPECT_EQ(ZFXError::ZFXGetLastError(first, nullptr), nullptr); }).join();
+    const long before = ZFXBaseUnknown::LiveAllocations();
+    for (int i = 0; i < 10 * ZFXError::kRegistered; ++i)
+        Raise("Later");
+    EXPECT_LE(ZFXBaseUnknown::LiveAllocations(), before + ZFXError::kRegistered);
+    EXPECT_EQ(ZFXError::ZFXGetLastError(first, nullptr), nullptr);
+    EXPECT_EQ(ZFXError::GetReturn(ZFXErrorTypeSuccess, nullptr, nullptr, "", 0), S_OK);
+    EXPECT_EQ(ZFXError::GetReturn(ZFXErrorTypeInput, nullptr, nullptr, "", 0), E_FAIL);
+}
+
+TEST(Error, SpeaksAsItsCatalogSays) {
+    const auto folder = std::filesystem::temp_directory_path() / "qvr-catalog-test";
+    std::filesystem::create_directories(folder);
+    std::ofstream(folder / "Tests.catalog")
+        << "# comment\n\nId.Diagnostic = Bad: /P1, /P2 \r\nId.Advice=Mend = it\n";
+    MessageCatalog::SetFolder(folder.string());
+    auto* error = new ZFXInputError("Id", "Tests");
+    ZFXUnicodeString a("ä");
+    ZFXUnicodeString b("b");
+    error->SetNLSDiagnosticParams(2, &a, &b);
+    error->SetReturnCode(-100);
+    a = "changed"; // parameters are copied
+    EXPECT_EQ(Text(error->GetNLSMessage()), "Bad: ä, b Mend = it");
+    EXPECT_STREQ(error->GetMessageText(), "Bad: ä, b Mend = it");
+    ZFXError* clone = error->CloneSelf();
+    EXPECT_EQ(Text(clone->GetNLSDiagnostic()), "Bad: ä, b");
+    EXPECT_EQ(clone->GetReturnCode(), -100);
+    clone->Release();
+    EXPECT_THROW(error->Throw("Other.cpp", 3), std::reference_wrapper<ZFXError>);
+    EXPECT_EQ(Text(error->GetNLSSource()), "Other.cpp:3");
+    error->Release();
+    std::filesystem::remove_all(folder);
+    MessageCatalog::SetFolder("/nowhere");
+    ZFXInputError* silent = new ZFXInputError("Id", "Tests");
+    EXPECT_EQ(Text(silent->GetNLSMessage()), "Id"); // without a catalog the id speaks for itself
+    silent->Release();
+}
+
+} // namespace

@@ -1,0 +1,113 @@
+#include "object-model/ZFXHandle.h"
+#include "object-model/ZFXInterfaces.h"
+#include "object-model/ZFXMetaClass.h"
+#include "support/DocumentTest.h"
+
+namespace {
+
+/// Counts what is asked of it, and offers ZFXIAlias only.
+class Counting final : public ZFXIAlias {
+public:
+    HRESULT QueryInterface(const IID& iid, void** face) override {
+        ++queries;
+        *face = nullptr;
+        if (iid != IID_ZFXIAlias)
+            return E_NOINTERFACE;
+        AddRef();
+        *face = this;
+        return S_OK;
+    }
+    using ZFXIAlias::QueryInterface;
+    ULONG AddRef() override { return static_cast<ULONG>(++added); }
+    ULONG Release() override { return static_cast<ULONG>(++released); }
+    void SetAlias(const ZFXUnicodeString&) override {}
+    ZFXUnicodeString GetAlias() override { return "counting"; }
+
+    int queries = 0;
+    int added = 0;
+    int released = 0;
+};
+
+using Counts = std::array<int, 3>; // queries, AddRef, Release
+
+TEST(Handle, AsksAndCountsNoMoreThanNeeded) {
+    struct Row {
+        const char* what;
+        void (*act)(Counting&);
+        Counts expected;
+    };
+    const Row rows[] = {
+        {"same type", [](Counting& o) { ZFXIAlias_var a(static_cast<ZFXIAlias*>(&o)); }, {0, 1, 1}},
+        {"root", [](Counting& o) { ZFXBaseUnknown_var a(&o); }, {0, 1, 1}},
+        {"cast that hits", [](Counting& o) { ZFXIAlias_var a(static_cast<ZFXBaseUnknown*>(&o)); }, {1, 1, 1}},
+        {"cast that misses", [](Counting& o) { ZFXISpecObject_var a(&o); }, {1, 0, 0}},
+        {"null", [](Counting&) { ZFXIAlias_var a(static_cast<ZFXBaseUnknown*>(nullptr)); }, {0, 0, 0}},
+        {"cast of an empty handle", [](Counting&) { ZFXIAlias_var a{ZFXBaseUnknown_var()}; }, {0, 0, 0}},
+        {"taken over", [](Counting& o) { auto a = ZFXIAlias_var::TakeOver(&o); }, {0, 0, 1}},
+        {"copy", [](Counting& o) { ZFXIAlias_var a(&o), b(a); }, {0, 2, 2}},
+        {"move", [](Counting& o) { ZFXIAlias_var a(&o), b(std::move(a)); }, {0, 1, 1}},
+        {"assignment over itself",
+         [](Counting& o) {
+             ZFXIAlias_var a(&o);
+             a = *&a;
+         },
+         {0, 2, 2}},
+        {"assignment over a full one",
+         [](Counting& o) {
+             ZFXIAlias_var a(&o), b(&o);
+             b = a;
+         },
+         {0, 3, 3}},
+        {"assignment of nothing",
+         [](Counting& o) {
+             ZFXIAlias_var a(&o);
+             a = nullptr;
+         },
+         {0, 1, 1}},
+        {"comparison",
+         [](Counting& o) {
+             ZFXIAlias_var a(&o);
+             EXPECT_TRUE(a == &o && a != nullptr && a);
+         },
+         {0, 1, 1}},
+    };
+    for (const Row& row : rows) {
+        Counting object;
+        row.act(object);
+        EXPECT_EQ((Counts{object.queries, object.added, object.released}), row.expected) << row.what;
+    }
+}
+
+class IdentityTest : public DocumentTest {};
+
+TEST_F(IdentityTest, EveryFaceOfAnObjectIsTheObject) {
+    MemoryFeature step = document.Case("Static").Step("QVRGeneralStaticStepLT", "Step-1");
+    MemoryFeature other = document.Case("Other").Step("QVRGeneralStaticStepLT", "Step-1");
+    const ZFXISpecObject_var feature(step);
+    const ZFXISamAnalysisScan_var scan(feature);
+    const ZFXBaseUnknown_var root(scan);
+    ASSERT_TRUE(feature && scan && root);
+    EXPECT_TRUE(feature == scan && scan == root && root == step.Object() && root->IsEqual(feature));
+    EXPECT_TRUE(feature != ZFXISpecObject_var(other) && feature != ZFXISpecObject_var());
+    void* byName = nullptr;
+    EXPECT_EQ(root->QueryInterface("ZFXISamAnalysisScan", &byName), S_OK);
+    EXPECT_EQ(byName, scan.Get());
+    scan->Release();
+    EXPECT_EQ(root->QueryInterface("ZFXINowhere", &byName), E_NOINTERFACE);
+    EXPECT_EQ(byName, nullptr);
+    EXPECT_EQ(ZFXISamAnalysisSet_var(step), nullptr);
+}
+
+TEST(MetaClass, IsOneForAName) {
+    ZFXMetaClass* unknown = fct_FindMetaObject("A type that nobody declared yet");
+    ASSERT_NE(unknown, nullptr);
+    EXPECT_EQ(fct_FindMetaObject("A type that nobody declared yet"), unknown);
+    ZFXMetaClass* extension = fct_RetrieveMetaObject("An extension", ENUMTypeOfClass::DataExtension,
+                                                     ZFXBaseUnknown::MetaObject(), "A late type", "Tests", 0);
+    EXPECT_TRUE(extension->IsExtensionOf(fct_FindMetaObject("A late type")));
+    EXPECT_FALSE(extension->IsExtensionOf(unknown));
+    EXPECT_TRUE(extension->IsAKindOf("ZFXBaseUnknown") && !extension->IsAKindOf("ZFXIAlias"));
+    EXPECT_FALSE(extension->GetClassId() == unknown->GetClassId());
+}
+
+} // namespace

@@ -1,0 +1,46 @@
+#include "collections/ZFXRawCollint.h"
+#include "support/DocumentTest.h"
+
+namespace {
+
+class ListTest : public DocumentTest {};
+
+TEST_F(ListTest, CountsFromOneAndKeepsOrder) {
+    ZFXListValZFXUnicodeString names;
+    for (const char* name : {"a", "b", "a", "A"})
+        names.Append(name);
+    EXPECT_EQ(names.Size(), 4);
+    EXPECT_EQ(Text(names[1]), "a");
+    EXPECT_EQ(names.NbOccur("a"), 2);
+    EXPECT_EQ(names.NbOccur("c"), 0);
+    names.RemovePosition(1);
+    EXPECT_EQ(Text(names[1]), "b");
+    names.RemovePosition(0);
+    names.RemovePosition(4);
+    EXPECT_EQ(names.Size(), 3);
+    names[0] = "nowhere"; // no index is undefined: outside the list stands an empty element
+    names[9] = "nowhere";
+    EXPECT_EQ(Text(names[9]), "");
+    EXPECT_EQ(Text(std::as_const(names)[0]), "");
+    names.RemoveAll(ZFXCollec::ReleaseAllocation);
+    EXPECT_EQ(names.Size(), 0);
+}
+
+TEST_F(ListTest, LocatesObjectsWhateverFaceTheyShow) {
+    MemoryFeature load = document.Model().Feature("QVRPressure", "Pressure-1");
+    ZFXListValZFXISpecObject_var list;
+    list.Append(ZFXISpecObject_var(document.Model()));
+    list.Append(ZFXISpecObject_var(load));
+    list.Append(ZFXISpecObject_var(load));
+    const ZFXIAlias_var otherFace(load);
+    EXPECT_EQ(list.Locate(ZFXISpecObject_var(otherFace), 1), 2);
+    EXPECT_EQ(list.Locate(load, 3), 3);
+    EXPECT_EQ(list.Locate(load, 4), 0);
+    EXPECT_EQ(list.Locate(load, -7), 2);
+    EXPECT_EQ(list.Locate(ZFXISpecObject_var(), 1), 0);
+    const ZFXListValZFXISpecObject_var copy(list); // copies handles, not objects
+    EXPECT_EQ(load.References(), 5);
+    EXPECT_EQ(copy.Locate(load, 1), 2);
+}
+
+} // namespace

@@ -1,0 +1,123 @@
+#include "memory-model/MemoryModel.h"
+
+#include "analysis/WorkbenchUtilities.h"
+#include "support/DocumentTest.h"
+
+namespace {
+
+class MemoryModelTest : public DocumentTest {};
+
+std::string Names(const ZFXListValZFXBaseUnknown_var& list) {
+    std::string names;
+    for (int i = 1; i <= list.Size(); ++i)
+        names += Text(ZFXIAlias_var(list[i])->GetAlias()) + " ";
+    return names;
+}
+
+TEST_F(MemoryModelTest, ADocumentIsSearchedInItsOrder) {
+    MemoryFeature analysisCase = document.Case("Static");
+    MemoryFeature first = analysisCase.Step("QVRGeneralStaticStepLT", "First");
+    MemoryFeature second = analysisCase.Step("QVRGeneralStaticStepLT", "Second");
+    MemoryFeature loads = first.Set("QVRLoadContainerLT");
+    MemoryFeature a = loads.Feature("QVRPressure", "a");
+    second.Set("QVRLoadContainerLT").Feature("QVRPressure", "b");
+    loads.Feature("QVRPressure", "c");
+
+    ZFXListValZFXBaseUnknown_var found;
+    const ZFXISamAnalysisScan_var scan(analysisCase);
+    EXPECT_EQ(scan->FindObjectsOfType("QVRPressure", found, 3), S_OK);
+    EXPECT_EQ(Names(found), "a c b ");
+    found.RemoveAll();
+    EXPECT_EQ(scan->FindObjectsOfType("QVRpressure", found, 3), S_OK);
+    EXPECT_EQ(found.Size(), 0);
+    EXPECT_EQ(ZFXISamAnalysisScan_var(analysisCase.History())->ListChildren(found, 3), S_OK);
+    EXPECT_EQ(Names(found), "First Second ");
+
+    ZFXISpecObject_var step;
+    ZFXISpecObject_var parent;
+    EXPECT_EQ(QVRAnalysisEntityUtils::GetParentStep(ZFXISpecObject_var(a), step), S_OK);
+    EXPECT_TRUE(step == first.Object());
+    EXPECT_EQ(QVRAnalysisEntityUtils::GetParentCaseFromObject(ZFXISpecObject_var(a), parent), S_OK);
+    EXPECT_TRUE(parent == analysisCase.Object());
+    const ZFXListValZFXISpecAttribute_var* pointing =
+        ZFXISpecObject_var(second)->ListPointingAttributes("ZFXISpecObject", "", "");
+    ASSERT_EQ(pointing->Size(), 1);
+    EXPECT_TRUE(ZFXBaseUnknown_var::TakeOver((*pointing)[1]->GetOwner()) == analysisCase.History().Object());
+
+    MemoryFeature job = analysisCase.Job("Job-1");
+    ZFXListValZFXBaseUnknown_var* sets = nullptr;
+    EXPECT_EQ(ZFXISamAnalysisEntity_var(job)->GetParentSets(sets), S_OK);
+    const ZFXISpecObject_var container((*sets)[1]);
+    EXPECT_TRUE(ZFXBaseUnknown_var::TakeOver(container->GetFather()) == document.Model().Object());
+    delete sets;
+}
+
+TEST_F(MemoryModelTest, KindsOfferWhatTheyAreAndCanBeToldNotTo) {
+    MemoryFeature step = document.Case("Static").Step("QVRGeneralStaticStepLT", "Step-1");
+    MemoryFeature load = step.Set("QVRLoadContainerLT").Feature("QVRPressure", "Pressure-1");
+    MemoryFeature section = document.PropertySet().Feature("QVRShellSectionEnhLT", "Section");
+    MemoryFeature amplitude = document.PropertySet().Feature("QVRTabularAmplitudeLT", "Amplitude");
+    EXPECT_TRUE(QVRIPropagatingFeature_var(load) && ZFXISamAnalysisEntity_var(load) && !QVRIStep_var(load));
+    EXPECT_TRUE(QVRIStep_var(step) && ZFXISamAnalysisScan_var(step) && !ZFXISamAnalysisEntity_var(step));
+    EXPECT_TRUE(ZFXISamAnalysisEntity_var(section) && !QVRIPropagatingFeature_var(section));
+    ZFXISpecObject_var property(section);
+    ZFXISpecObject_var curve(amplitude);
+    EXPECT_TRUE(QVRAnalysisEntityUtils::IsObjectAProperty(property) &&
+                !QVRAnalysisEntityUtils::IsObjectAProperty(curve) &&
+                QVRAnalysisEntityUtils::IsObjectAnAmplitude(curve));
+#define ZFX_INTERFACE(name)                                                                                  \
+    EXPECT_EQ(bool(name##_var(load.With(IID_##name))), IID_##name != IID_ZFXISpecAttribute) << #name;        \
+    EXPECT_FALSE(name##_var(load.Without(IID_##name))) << #name;
+#include "object-model/ZFXInterfaces.def"
+#undef ZFX_INTERFACE
+}
+
+TEST_F(MemoryModelTest, AnyRequestCanBeToldWhatToAnswer) {
+    MemoryFeature loads = document.Case("Static").Step("T", "Step-1").Set("S");
+    loads.Feature("QVRPressure", "a");
+    const ZFXISamAnalysisSet_var set(loads);
+    const auto members = [&] {
+        ZFXListValZFXISpecObject_var list;
+        const HRESULT code = set->ListMembers(list, CLSID_ZFXBaseUnknown, 0);
+        return std::pair(code, list.Size());
+    };
+    const long before = model.Requests();
+    EXPECT_EQ(members(), std::pair(S_OK, 1));
+    EXPECT_EQ(model.Requests(), before + 1);
+    model.AnswerOnce(MemoryRequest::ListMembers, 2, kFailsFilled);
+    EXPECT_EQ(members(), std::pair(S_OK, 1));
+    EXPECT_EQ(members(), std::pair(kCode, 1));
+    EXPECT_EQ(members(), std::pair(S_OK, 1));
+    model.AnswerOnce(MemoryRequest::Any);
+    EXPECT_EQ(members(), std::pair(E_UNEXPECTED, 0));
+    loads.Answer(MemoryRequest::ListMembers, {1, false});
+    EXPECT_EQ(members(), std::pair(1, 0));
+    EXPECT_EQ(members(), std::pair(1, 0));
+    model.Heal();
+    EXPECT_EQ(members(), std::pair(S_OK, 1));
+    model.AnswerAlways(MemoryRequest::Cast);
+    EXPECT_FALSE(ZFXIAlias_var(loads));
+}
+
+TEST(MemoryModelLife, ObjectsOutliveTheModelForWhoHoldsThem) {
+    const long before = MemoryModel::LiveObjects();
+    ZFXISpecObject_var held;
+    ZFXISpecAttribute_var attribute;
+    {
+        MemoryModel model;
+        MemoryFeature step = model.NewDocument().Case("Static").Step("T", "Step-1");
+        held = step;
+        attribute = (*held->ListPointingAttributes("ZFXISpecObject", "", ""))[1];
+        EXPECT_EQ(model.References(), 2);
+        EXPECT_EQ(step.References(), 2);
+    }
+    EXPECT_EQ(MemoryModel::LiveObjects(), before + 1);
+    EXPECT_EQ(Text(held->GetLateType()), "T");
+    EXPECT_EQ(held->GetFather(), nullptr);
+    EXPECT_EQ(attribute->GetOwner(), nullptr);
+    EXPECT_EQ(ZFXILinkableObject_var(held)->GetOwningDocument(), nullptr);
+    held = nullptr;
+    EXPECT_EQ(MemoryModel::LiveObjects(), before);
+}
+
+} // namespace

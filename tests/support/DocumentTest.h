@@ -1,0 +1,28 @@
+#pragma once
+
+#include "memory-model/MemoryModel.h"
+#include "support/Said.h"
+
+#include <gtest/gtest.h>
+
+/// A test on a document. When it ends, nobody may hold a reference on an object of the document.
+class DocumentTest : public ::testing::Test {
+protected:
+    void TearDown() override { EXPECT_EQ(model.References(), 0) << "a reference was not released"; }
+
+    static ZFXListValZFXBaseUnknown_var ListOf(std::initializer_list<MemoryFeature> features) {
+        ZFXListValZFXBaseUnknown_var list;
+        for (const MemoryFeature& feature : features)
+            list.Append(ZFXBaseUnknown_var(feature));
+        return list;
+    }
+
+    MemoryModel model;
+    MemoryDocument document = model.NewDocument();
+    /// Answers that are neither the default failure nor E_FAIL, so that a code passed on is told from one
+    /// made up.
+    static constexpr HRESULT kCode = static_cast<HRESULT>(0x80070057);
+    static constexpr MemoryAnswer kFails{kCode, false};
+    static constexpr MemoryAnswer kFailsFilled{kCode, true};
+    static constexpr MemoryAnswer kEmpty{S_OK, false};
+};
