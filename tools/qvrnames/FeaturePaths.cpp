@@ -1,0 +1,126 @@
+#include "FeaturePaths.h"
+
+#include "BadInput.h"
+#include "Nearest.h"
+
+#include <algorithm>
+#include <optional>
+
+namespace {
+
+constexpr std::size_t kMostCandidates = 10;
+
+using Entries = std::vector<std::uint32_t>;
+
+std::string NameOf(const DocumentEntry& entry) {
+    const std::string name = entry.feature.StoredAlias().ConvertToChar();
+    return name.empty() ? "\"\"" : name;
+}
+
+bool IsEndOf(const std::string& path, const std::string& words) {
+    return path.size() > words.size() && path.ends_with(words) && path[path.size() - words.size() - 1] == '/';
+}
+
+Entries NamedEntries(const LoadedDocument& loaded) {
+    Entries named;
+    for (std::uint32_t entry = 0; entry < loaded.entries.size(); ++entry)
+        if (loaded.entries[entry].isNamed)
+            named.push_back(entry);
+    return named;
+}
+
+/// The features whose names come nearest to the last word; all of them when none comes near.
+Entries Nearest(const LoadedDocument& loaded, const std::string& words) {
+    const std::string last = words.substr(words.rfind('/') + 1); // npos + 1 is the beginning
+    const double limit = 1 + static_cast<double>(last.size()) / 2;
+    std::vector<std::pair<double, std::uint32_t>> near;
+    const Entries named = NamedEntries(loaded);
+    for (const std::uint32_t entry : named) {
+        const double distance = EditDistance(last, NameOf(loaded.entries[entry]), limit);
+        if (distance < limit)
+            near.emplace_back(distance, entry);
+    }
+    std::stable_sort(near.begin(), near.end(),
+                     [](const auto& a, const auto& b) { return a.first < b.first; });
+    Entries nearest;
+    for (const auto& [distance, entry] : near)
+        nearest.push_back(entry);
+    return nearest.empty() ? named : nearest;
+}
+
+std::string Candidates(const LoadedDocument& loaded, const Entries& entries) {
+    std::string lines;
+    for (std::size_t i = 0; i < std::min(entries.size(), kMostCandidates); ++i)
+        lines += "\n  " + PathOf(loaded, entries[i]) + "  (" + PointerOf(loaded, entries[i]) + ")";
+    if (entries.size() > kMostCandidates)
+        lines += "\n  and " + std::to_string(entries.size() - kMostCandidates) + " more";
+    return lines;
+}
+
+std::optional<std::uint32_t> FindByPointer(const LoadedDocument& loaded, const std::string& pointer) {
+    const JsonValue value = loaded.text.At(pointer);
+    if (!value)
+        return std::nullopt;
+    for (std::uint32_t entry = 0; entry < loaded.entries.size(); ++entry)
+        if (loaded.entries[entry].begin == value.Begin())
+            return entry;
+    return std::nullopt;
+}
+
+Entries FindByPath(const LoadedDocument& loaded, const std::string& words) {
+    Entries exact;
+    Entries ends;
+    for (const std::uint32_t entry : NamedEntries(loaded)) {
+        const std::string path = PathOf(loaded, entry);
+        if (path == words)
+            exact.push_back(entry);
+        else if (IsEndOf(path, words))
+            ends.push_back(entry);
+    }
+    return exact.empty() ? ends : exact;
+}
+
+} // namespace
+
+std::string PathOf(const LoadedDocument& loaded, std::uint32_t entry) {
+    std::string path;
+    for (std::uint32_t at = entry; at != DocumentEntry::kNone; at = loaded.entries[at].parent)
+        if (loaded.entries[at].isNamed)
+            path = NameOf(loaded.entries[at]) + (path.empty() ? "" : "/" + path);
+    return path;
+}
+
+std::string PointerOf(const LoadedDocument& loaded, std::uint32_t entry) {
+    std::string pointer;
+    for (; loaded.entries[entry].parent != DocumentEntry::kNone; entry = loaded.entries[entry].parent) {
+        const DocumentEntry& at = loaded.entries[entry];
+        const std::string index = at.index == DocumentEntry::kNone ? "" : "/" + std::to_string(at.index);
+        pointer = std::string("/") + SpellingOf(at.key) + index + pointer;
+    }
+    return pointer;
+}
+
+std::string TellingOf(const LoadedDocument& loaded, std::uint32_t entry) {
+    return loaded.entries[entry].isNamed ? PathOf(loaded, entry) : PointerOf(loaded, entry);
+}
+
+std::uint32_t FindFeature(const LoadedDocument& loaded, const std::string& words) {
+    if (const auto known = loaded.ids.find(words); known != loaded.ids.end())
+        return known->second;
+    if (words.starts_with('/')) {
+        if (const auto found = FindByPointer(loaded, words))
+            return *found;
+        throw BadInput("the JSON pointer \"" + words + "\" leads to no object of the document; there are:" +
+                       Candidates(loaded, NamedEntries(loaded)));
+    }
+    const Entries found = FindByPath(loaded, words);
+    if (found.size() == 1)
+        return found.front();
+    if (found.empty())
+        throw BadInput("no feature has the id, the path or the end of a path \"" + words +
+                       "\"; there are:" + Candidates(loaded, Nearest(loaded, words)));
+    throw BadInput("\"" + words +
+                   "\" may be each of these features; tell one by its id, its whole path or its"
+                   " JSON pointer:" +
+                   Candidates(loaded, found));
+}

@@ -1,0 +1,114 @@
+#include "AliasPatch.h"
+#include "Commands.h"
+#include "FeaturePaths.h"
+#include "Printing.h"
+#include "Run.h"
+#include "Verdict.h"
+#include "WholeFile.h"
+
+#include <nlohmann/json.hpp>
+
+#include <iostream>
+#include <sstream>
+
+namespace {
+
+/// Keeps what is written on standard output, for as long as it lives.
+class StandardOutput {
+public:
+    StandardOutput() : m_former(std::cout.rdbuf(m_kept.rdbuf())) {}
+    StandardOutput(const StandardOutput&) = delete;
+    StandardOutput& operator=(const StandardOutput&) = delete;
+    ~StandardOutput() { std::cout.rdbuf(m_former); }
+
+    std::string Kept() const { return m_kept.str(); }
+
+private:
+    std::ostringstream m_kept;
+    std::streambuf* m_former;
+};
+
+struct Outcome {
+    std::string former;
+    std::string now;
+    std::string printed; ///< what the naming module wrote on standard output
+    bool isRefused = false;
+    Verdict verdict; ///< on the name that was asked for
+};
+
+/// Asks the feature for the change as a workbench does. It answers nothing, so the name is read again: it is
+/// the former one although another was asked for, or a refusal was printed, when the change was refused.
+Outcome SetName(const ZFXISpecObject_var& feature, const ZFXUnicodeString& name) {
+    Outcome outcome;
+    const ZFXUnicodeString trimmed = TrimmedName(name);
+    const ZFXIAlias_var alias(feature);
+    if (alias == nullptr) {
+        outcome.isRefused = true;
+        outcome.verdict = {E_NOINTERFACE, {}, "The feature cannot be named: it offers no ZFXIAlias."};
+        return outcome;
+    }
+    const ZFXUnicodeString former = alias->GetAlias();
+    {
+        const StandardOutput output;
+        alias->SetAlias(name);
+        outcome.printed = output.Kept();
+    }
+    const ZFXUnicodeString now = alias->GetAlias();
+    outcome.isRefused = now == former && (!outcome.printed.empty() || (former != trimmed && former != name));
+    outcome.verdict = JudgeName(feature, outcome.isRefused ? trimmed : now);
+    outcome.former = former.ConvertToChar();
+    outcome.now = now.ConvertToChar();
+    return outcome;
+}
+
+std::string Quoted(const std::string& name) { return "\"" + Printable(name) + "\""; }
+
+void Print(const std::string& feature, const RenameRequest& request, const Outcome& outcome,
+           Console console) {
+    std::ostream& out = console.out;
+    out << outcome.printed << Printable(feature) << ": ";
+    if (outcome.isRefused) {
+        out << "refused, the name stays " << Quoted(outcome.former) << '\n';
+        PrintTable(out, {{"  " + (outcome.verdict.messageId.empty() ? "-" : outcome.verdict.messageId),
+                          Printable(outcome.verdict.message)}});
+        return;
+    }
+    out << Quoted(outcome.former) << " -> " << Quoted(outcome.now);
+    out << (outcome.now != request.name ? " (blanks and underscores at the ends dropped)\n" : "\n");
+    if (outcome.verdict.IsRefusal())
+        out << "  taken although an audit refuses it, since this type of feature guards no names: "
+            << outcome.verdict.messageId << "  " << Printable(outcome.verdict.message) << '\n';
+}
+
+void PrintAsJson(const std::string& feature, const RenameRequest& request, const Outcome& outcome,
+                 Console console) {
+    nlohmann::ordered_json said{{"feature", feature},
+                                {"renamed", !outcome.isRefused},
+                                {"former", outcome.former},
+                                {"requested", request.name},
+                                {"name", outcome.now},
+                                {"printed", outcome.printed},
+                                {"legal", !outcome.verdict.IsRefusal()}};
+    if (outcome.verdict.IsRefusal()) {
+        said["messageId"] = outcome.verdict.messageId;
+        said["message"] = outcome.verdict.message;
+    }
+    PrintJson(console.out, said);
+}
+
+} // namespace
+
+int RenameFeature(const RenameRequest& request, Console console) {
+    const ZFXUnicodeString name = TextOf(request.name);
+    const auto loaded = OpenDocument(request.document);
+    const std::uint32_t entry = FindNamedFeature(*loaded, request.document, request.feature);
+    const std::string feature = TellingOf(*loaded, entry);
+    const Outcome outcome = SetName(loaded->entries[entry].feature, name);
+    const std::string& target = request.output.empty() ? request.document : request.output;
+    // The file is written before anything is told, so that nothing is told that did not happen.
+    const bool isToWrite = !outcome.isRefused && (outcome.now != outcome.former || !request.output.empty());
+    if (isToWrite)
+        ReplaceWholeFile(target, WithName(*loaded, entry, outcome.now), request.document);
+    (console.isJson ? PrintAsJson : Print)(feature, request, outcome, console);
+    return outcome.isRefused ? kRefused : kFine;
+}

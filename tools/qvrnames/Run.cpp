@@ -1,0 +1,104 @@
+#include "Run.h"
+
+#include "BadInput.h"
+#include "Commands.h"
+
+#include <CLI/CLI.hpp>
+
+#include <ostream>
+
+namespace {
+
+/// The command line: what it may say, and the command that was asked for.
+class CommandLine {
+public:
+    CommandLine(std::ostream& out, std::ostream& err) : m_console{out, err} {
+        m_app.set_version_flag("--version", "qvrnames " QVRNAMES_VERSION);
+        m_app.require_subcommand(1);
+        m_app.footer(
+            "FEATURE is the id of a feature, its JSON pointer in the file (which begins with \"/\"), or\n"
+            "its path of names, such as Static/Step-1/Pressure-1, of which the last part is enough\n"
+            "when only one feature ends so.\n\n"
+            "The program ends with 0 when all is well, 1 when a name is refused, 2 for bad input.\n\n"
+            "Example: qvrnames audit pump.json");
+        AddCheck();
+        AddAudit();
+        AddPropose();
+        AddRename();
+    }
+
+    int Parse(int argc, const char* const* argv) {
+        try {
+            m_app.parse(argc, argv);
+        } catch (const CLI::ParseError& error) {
+            return m_app.exit(error, m_console.out, m_console.err) == 0 ? kFine : kBadInput;
+        }
+        return m_command();
+    }
+
+private:
+    CLI::App* Add(const char* name, const char* description, const char* example,
+                  std::function<int()> command) {
+        CLI::App* added = m_app.add_subcommand(name, description);
+        added->add_flag("--json", m_console.isJson, "Tell the result as one JSON value");
+        added->footer(std::string("Example: qvrnames ") + example);
+        added->callback([this, command] { m_command = command; });
+        return added;
+    }
+
+    void AddCheck() {
+        CLI::App* app =
+            Add("check", "Is a text legal as the name of a feature, or of a file?",
+                "check Step-1 \"Static Step.2\"", [this] { return CheckNames(m_check, m_console); });
+        app->add_option("NAME", m_check.names, "The names to check")->required()->expected(1, -1);
+        app->add_flag("--file-name", m_check.areFileNames, "Check them as names of files");
+    }
+    void AddAudit() {
+        CLI::App* app =
+            Add("audit", "Check the name of every feature of a document.", "audit pump.json --json",
+                [this] { return AuditDocument(m_rename.document, m_console); });
+        AddDocument(app, m_rename.document);
+    }
+    void AddPropose() {
+        CLI::App* app = Add("propose", "Propose the next free name for a feature.",
+                            "propose pump.json new-load\n         qvrnames propose pump.json Static/Step-1 "
+                            "--base \"Static Step-\"",
+                            [this] { return ProposeName(m_propose, m_console); });
+        AddDocument(app, m_propose.document);
+        app->add_option("FEATURE", m_propose.feature, "The feature to be named")->required();
+        app->add_option("--base", m_propose.base,
+                        "What the number is put after; that of the feature's type when it is not given");
+    }
+    void AddRename() {
+        CLI::App* app = Add("rename", "Give a feature another name, if the name may be had.",
+                            "rename pump.json Static/Step-1 \"Bolt Load\" --output new.json",
+                            [this] { return RenameFeature(m_rename, m_console); });
+        AddDocument(app, m_rename.document);
+        app->add_option("FEATURE", m_rename.feature, "The feature to be renamed")->required();
+        app->add_option("NAME", m_rename.name, "Its new name")->required();
+        app->add_option("--output", m_rename.output, "Write the document there and leave the file as it is");
+    }
+    static void AddDocument(CLI::App* app, std::string& document) {
+        app->add_option("DOCUMENT", document, "The document file")->required();
+    }
+
+    CLI::App m_app{"Checks, proposes and changes names of features in an analysis document.", "qvrnames"};
+    Console m_console;
+    CheckRequest m_check;
+    ProposeRequest m_propose;
+    RenameRequest m_rename;
+    std::function<int()> m_command;
+};
+
+} // namespace
+
+int Run(int argc, const char* const* argv, std::ostream& out, std::ostream& err) {
+    try {
+        return CommandLine(out, err).Parse(argc, argv);
+    } catch (const BadInput& error) {
+        err << "qvrnames: " << error.what() << std::endl;
+    } catch (const std::bad_alloc&) {
+        err << "qvrnames: there is not enough memory" << std::endl;
+    }
+    return kBadInput;
+}

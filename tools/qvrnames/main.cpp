@@ -1,0 +1,5 @@
+#include "Run.h"
+
+#include <iostream>
+
+int main(int argc, char** argv) { return Run(argc, argv, std::cout, std::cerr); }
