@@ -23,8 +23,7 @@ public:
     /// The analysis cases of the document, or of the current one when null is passed. [appends]
     virtual HRESULT GetAllAnalysisCases(ZFXListValZFXBaseUnknown_var& cases, ZFXDocument* document) = 0;
     /// The jobs of these cases, in order. [appends]
-    virtual HRESULT GetJobs(const ZFXListValZFXBaseUnknown_var& cases,
-                            ZFXListValZFXISpecObject_var& jobs) = 0;
+    virtual HRESULT GetJobs(const ZFXListValZFXBaseUnknown_var& cases, ZFXListValZFXISpecObject_var& jobs) = 0;
     virtual HRESULT GetAnalysisModel(ZFXISamAnalysisModel_var& model, const ZFXDocument* document) = 0;
     virtual HRESULT GetMeshManager(ZFXIMSHMeshManager_var& manager, const ZFXDocument* document) = 0;
     /// Nonzero when the case is one of the solver's own.
@@ -32,12 +31,10 @@ public:
     /// The step that holds the feature; success with an empty handle when it lies in none.
     virtual HRESULT GetParentStep(const ZFXISpecObject_var& feature, ZFXISpecObject_var& step) = 0;
     /// The analysis case that holds the feature; a failure when it lies in none.
-    virtual HRESULT GetParentCaseFromObject(const ZFXISpecObject_var& feature,
-                                            ZFXISpecObject_var& parent) = 0;
+    virtual HRESULT GetParentCaseFromObject(const ZFXISpecObject_var& feature, ZFXISpecObject_var& parent) = 0;
     virtual unsigned char IsObjectAProperty(ZFXISpecObject_var& feature) = 0;
     virtual unsigned char IsObjectAnAmplitude(ZFXISpecObject_var& feature) = 0;
     /// The case that is current in the document, or in the application when null is passed; success with an
     /// empty handle when there is none.
-    virtual HRESULT GetCurrentAnalysisCaseSP(ZFXISamAnalysisCase_var& analysisCase,
-                                             ZFXDocument* document) = 0;
+    virtual HRESULT GetCurrentAnalysisCaseSP(ZFXISamAnalysisCase_var& analysisCase, ZFXDocument* document) = 0;
 };

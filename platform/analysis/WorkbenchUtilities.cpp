@@ -22,8 +22,7 @@ HRESULT QVRAnalysisDocUtils::GetAllAnalysisCases(ZFXListValZFXBaseUnknown_var& c
     return Ask(&AnalysisServices::GetAllAnalysisCases, E_FAIL, cases, document);
 }
 
-HRESULT QVRAnalysisDocUtils::GetJobs(const ZFXListValZFXBaseUnknown_var& cases,
-                                     ZFXListValZFXISpecObject_var& jobs) {
+HRESULT QVRAnalysisDocUtils::GetJobs(const ZFXListValZFXBaseUnknown_var& cases, ZFXListValZFXISpecObject_var& jobs) {
     return Ask(&AnalysisServices::GetJobs, E_FAIL, cases, jobs);
 }
 
@@ -43,8 +42,7 @@ HRESULT QVRAnalysisEntityUtils::GetParentStep(const ZFXISpecObject_var& feature,
     return Ask(&AnalysisServices::GetParentStep, E_FAIL, feature, step);
 }
 
-HRESULT QVRAnalysisEntityUtils::GetParentCaseFromObject(const ZFXISpecObject_var& feature,
-                                                        ZFXISpecObject_var& parent) {
+HRESULT QVRAnalysisEntityUtils::GetParentCaseFromObject(const ZFXISpecObject_var& feature, ZFXISpecObject_var& parent) {
     return Ask(&AnalysisServices::GetParentCaseFromObject, E_FAIL, feature, parent);
 }
 

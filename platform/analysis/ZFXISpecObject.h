@@ -15,9 +15,8 @@ class ZFX_PLATFORM_EXPORT ZFXISpecObject : public ZFXBaseUnknown {
     virtual ZFXBaseUnknown* GetFather() = 0;
     /// The attributes of other features that point at this one, or null. The arguments narrow the search;
     /// pass "ZFXISpecObject" and two empty strings for all of them. [read only] Valid until the next call.
-    virtual ZFXListValZFXISpecAttribute_var* ListPointingAttributes(const char* interfaceName,
-                                                                    const ZFXUnicodeString& type,
-                                                                    const ZFXUnicodeString& name) = 0;
+    virtual ZFXListValZFXISpecAttribute_var*
+    ListPointingAttributes(const char* interfaceName, const ZFXUnicodeString& type, const ZFXUnicodeString& name) = 0;
 };
 
 using ZFXISpecObject_var = ZFXHandle<ZFXISpecObject>;

@@ -72,8 +72,7 @@ constexpr ZFXErrorTable kInputErrorTable{"ZFXInputError", &kErrorTable};
 
 } // namespace
 
-ZFXError::ZFXError(const char* msgId, const char* catalog)
-    : m_msgId(OrEmpty(msgId)), m_catalog(OrEmpty(catalog)) {}
+ZFXError::ZFXError(const char* msgId, const char* catalog) : m_msgId(OrEmpty(msgId)), m_catalog(OrEmpty(catalog)) {}
 
 ZFXError::~ZFXError() = default;
 
@@ -89,9 +88,7 @@ HRESULT ZFXError::GetReturn(int type, ZFXError* error, ZFXBaseUnknown* /*object*
     return error->m_registeredCode;
 }
 
-ZFXError* ZFXError::ZFXGetLastError(HRESULT code, ZFXBaseUnknown* /*object*/) {
-    return ThisThreadsErrors().Find(code);
-}
+ZFXError* ZFXError::ZFXGetLastError(HRESULT code, ZFXBaseUnknown* /*object*/) { return ThisThreadsErrors().Find(code); }
 
 int ZFXError::GetId() const { return m_registeredCode; }
 const char* ZFXError::GetMsgId() const { return m_msgId.c_str(); }
@@ -108,8 +105,7 @@ const char* ZFXError::GetMessageText() {
 
 ZFXUnicodeString ZFXError::Text(Section section) const {
     static constexpr const char* kKeys[] = {".Request", ".Diagnostic", ".Advice"};
-    ZFXUnicodeString text =
-        MessageCatalog::Find(m_catalog, m_msgId + kKeys[section]).value_or(ZFXUnicodeString());
+    ZFXUnicodeString text = MessageCatalog::Find(m_catalog, m_msgId + kKeys[section]).value_or(ZFXUnicodeString());
     const std::vector<ZFXUnicodeString>& parameters = m_parameters[section];
     for (std::size_t i = 0; i < parameters.size() && i < 9; ++i)
         text.ReplaceAll(ZFXUnicodeString(("/P" + std::to_string(i + 1)).c_str()), parameters[i]);
@@ -200,11 +196,11 @@ ZFXInputError::ZFXInputError(const char* msgId, const char* catalog) : ZFXError(
 ZFXInputError::~ZFXInputError() = default;
 
 ZFXMetaClass* ZFXInputError::MetaObject() {
-    static ZFXMetaClass* const metaObject = fct_RetrieveMetaObject(
-        "ZFXInputError", ENUMTypeOfClass::Implementation,
-        fct_RetrieveMetaObject("ZFXError", ENUMTypeOfClass::Implementation, ZFXBaseUnknown::MetaObject(),
-                               nullptr, "ZFXPlatform", 0),
-        nullptr, "ZFXPlatform", 0);
+    static ZFXMetaClass* const metaObject =
+        fct_RetrieveMetaObject("ZFXInputError", ENUMTypeOfClass::Implementation,
+                               fct_RetrieveMetaObject("ZFXError", ENUMTypeOfClass::Implementation,
+                                                      ZFXBaseUnknown::MetaObject(), nullptr, "ZFXPlatform", 0),
+                               nullptr, "ZFXPlatform", 0);
     return metaObject;
 }
 

@@ -28,8 +28,7 @@ public:
     /// E_FAIL and no other registered error's. The registry takes over the caller's reference; it keeps the
     /// last kRegistered errors of a thread and frees the oldest. Without an error: S_OK for type 1, else
     /// E_FAIL. `object` is for a host's own records.
-    static HRESULT GetReturn(int type, ZFXError* error, ZFXBaseUnknown* object, const char* sourceFile,
-                             int sourceLine);
+    static HRESULT GetReturn(int type, ZFXError* error, ZFXBaseUnknown* object, const char* sourceFile, int sourceLine);
     /// The error that this thread registered under the code, or null. [borrowed] It may be gone after the
     /// next GetReturn.
     static ZFXError* ZFXGetLastError(HRESULT code, ZFXBaseUnknown* object);
@@ -74,9 +73,7 @@ public:
     virtual void SetInformationOnErrorType(ZFXErrorType type);
 
     /// The diagnostic's parameters, in order. [borrowed]
-    const std::vector<ZFXUnicodeString>& DiagnosticParameters() const noexcept {
-        return m_parameters[Diagnostic];
-    }
+    const std::vector<ZFXUnicodeString>& DiagnosticParameters() const noexcept { return m_parameters[Diagnostic]; }
     /// The code that GetReturn gave for this error; 0 before that.
     HRESULT RegisteredCode() const noexcept { return m_registeredCode; }
 

@@ -17,8 +17,7 @@ MemoryObject* FirstChildOf(const MemoryObject* object, MemoryKind kind) {
 
 } // namespace
 
-MemoryFeature MemoryFeature::Add(MemoryKind kind, const ZFXUnicodeString& lateType,
-                                 const ZFXUnicodeString& alias) {
+MemoryFeature MemoryFeature::Add(MemoryKind kind, const ZFXUnicodeString& lateType, const ZFXUnicodeString& alias) {
     if (m_object == nullptr || m_object->document == nullptr)
         return {};
     return MemoryFeature(m_object->document->Make(kind, lateType, alias, m_object));
@@ -29,9 +28,7 @@ MemoryFeature MemoryFeature::Step(const ZFXUnicodeString& lateType, const ZFXUni
     return history.Add(MemoryKind::Step, lateType, alias);
 }
 
-MemoryFeature MemoryFeature::Set(const ZFXUnicodeString& lateType) {
-    return Add(MemoryKind::Set, lateType, {});
-}
+MemoryFeature MemoryFeature::Set(const ZFXUnicodeString& lateType) { return Add(MemoryKind::Set, lateType, {}); }
 
 MemoryFeature MemoryFeature::Feature(const ZFXUnicodeString& lateType, const ZFXUnicodeString& alias) {
     return Add(MemoryKind::Feature, lateType, alias);
@@ -44,21 +41,17 @@ MemoryFeature MemoryFeature::Job(const ZFXUnicodeString& alias) {
     return container.Feature("QVRJobLT", alias);
 }
 
-MemoryFeature MemoryFeature::History() const {
-    return MemoryFeature(FirstChildOf(m_object, MemoryKind::History));
-}
+MemoryFeature MemoryFeature::History() const { return MemoryFeature(FirstChildOf(m_object, MemoryKind::History)); }
 
 /// Runs a change on the object, if there is one, and gives the sentence back.
-#define MEMORY_SENTENCE(change)                                                                              \
-    do {                                                                                                     \
-        if (m_object != nullptr)                                                                             \
-            change;                                                                                          \
-        return *this;                                                                                        \
+#define MEMORY_SENTENCE(change)                                                                                        \
+    do {                                                                                                               \
+        if (m_object != nullptr)                                                                                       \
+            change;                                                                                                    \
+        return *this;                                                                                                  \
     } while (false)
 
-MemoryFeature& MemoryFeature::Alias(const ZFXUnicodeString& alias) {
-    MEMORY_SENTENCE(m_object->alias = alias);
-}
+MemoryFeature& MemoryFeature::Alias(const ZFXUnicodeString& alias) { MEMORY_SENTENCE(m_object->alias = alias); }
 MemoryFeature& MemoryFeature::Unnamed() { MEMORY_SENTENCE(m_object->alias = ""); }
 MemoryFeature& MemoryFeature::Attribute(const char* name, const ZFXUnicodeString& value) {
     if (std::string_view(name) == "Alias")
@@ -71,24 +64,12 @@ MemoryFeature& MemoryFeature::WithoutAttribute(const char* name) {
     MEMORY_SENTENCE(m_object->Extras().attributes.erase(name));
 }
 MemoryFeature& MemoryFeature::With(const IID& interfaceId) { MEMORY_SENTENCE(m_object->Offer(interfaceId)); }
-MemoryFeature& MemoryFeature::Without(const IID& interfaceId) {
-    MEMORY_SENTENCE(m_object->Withhold(interfaceId));
-}
-MemoryFeature& MemoryFeature::Father(MemoryFeature father) {
-    MEMORY_SENTENCE(m_object->father = father.m_object);
-}
-MemoryFeature& MemoryFeature::Propagated(bool propagated) {
-    MEMORY_SENTENCE(m_object->propagated = propagated);
-}
-MemoryFeature& MemoryFeature::Property(bool property) {
-    MEMORY_SENTENCE(m_object->Extras().property = property);
-}
-MemoryFeature& MemoryFeature::Amplitude(bool amplitude) {
-    MEMORY_SENTENCE(m_object->Extras().amplitude = amplitude);
-}
-MemoryFeature& MemoryFeature::SolverCase(bool solver) {
-    MEMORY_SENTENCE(m_object->Extras().solverCase = solver);
-}
+MemoryFeature& MemoryFeature::Without(const IID& interfaceId) { MEMORY_SENTENCE(m_object->Withhold(interfaceId)); }
+MemoryFeature& MemoryFeature::Father(MemoryFeature father) { MEMORY_SENTENCE(m_object->father = father.m_object); }
+MemoryFeature& MemoryFeature::Propagated(bool propagated) { MEMORY_SENTENCE(m_object->propagated = propagated); }
+MemoryFeature& MemoryFeature::Property(bool property) { MEMORY_SENTENCE(m_object->Extras().property = property); }
+MemoryFeature& MemoryFeature::Amplitude(bool amplitude) { MEMORY_SENTENCE(m_object->Extras().amplitude = amplitude); }
+MemoryFeature& MemoryFeature::SolverCase(bool solver) { MEMORY_SENTENCE(m_object->Extras().solverCase = solver); }
 MemoryFeature& MemoryFeature::Tag(int tag) { MEMORY_SENTENCE(m_object->Extras().tag = tag); }
 MemoryFeature& MemoryFeature::MaterialName(const ZFXUnicodeString& name) {
     MEMORY_SENTENCE(m_object->Extras().materialName = name);
@@ -154,9 +135,7 @@ MemoryFeature MemoryDocument::MeshPart(const ZFXUnicodeString& alias, int tag) {
     return MeshManager().Add(MemoryKind::MeshPart, "MSHPartOctree3D", alias).Tag(tag);
 }
 
-void MemoryDocument::MakeCurrent(MemoryFeature analysisCase) {
-    m_document->currentCase = analysisCase.m_object;
-}
+void MemoryDocument::MakeCurrent(MemoryFeature analysisCase) { m_document->currentCase = analysisCase.m_object; }
 
 ZFXDocument* MemoryDocument::Document() const { return m_document; }
 

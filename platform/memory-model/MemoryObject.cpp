@@ -37,8 +37,8 @@ MemoryAnswer MemoryFaults::AskRules(MemoryRequest request, const MemoryObject* o
 MemoryObject::MemoryObject(MemoryDocumentObject* owner, MemoryKind objectKind, const MemoryLateType& type)
     : document(owner), lateType(&type), kind(objectKind) {
     ++live;
-    for (ZFXBaseUnknown* face : std::initializer_list<ZFXBaseUnknown*>{
-             &m_spec, &m_aliasFace, &m_attributes, &m_linkable, &m_entity, &m_propagating})
+    for (ZFXBaseUnknown* face : std::initializer_list<ZFXBaseUnknown*>{&m_spec, &m_aliasFace, &m_attributes,
+                                                                       &m_linkable, &m_entity, &m_propagating})
         face->SetImpl(this);
 }
 
@@ -108,8 +108,8 @@ void MemoryObject::Detach() {
     holdingSets.clear();
     if (m_extras == nullptr)
         return;
-    for (MemoryObjects* objects : {&m_extras->children, &m_extras->members, &m_extras->connectors,
-                                   &m_extras->master, &m_extras->slave})
+    for (MemoryObjects* objects :
+         {&m_extras->children, &m_extras->members, &m_extras->connectors, &m_extras->master, &m_extras->slave})
         objects->clear();
     m_extras->group = nullptr;
     ForEachPointing([](MemoryPointingAttribute& attribute) { attribute.ForgetOwner(); });
@@ -242,8 +242,8 @@ ZFXBaseUnknown* MemoryZFXISpecObject::GetFather() {
     return Object().Ask(MemoryRequest::GetFather).filled ? WithReference(Object().father) : nullptr;
 }
 
-ZFXListValZFXISpecAttribute_var*
-MemoryZFXISpecObject::ListPointingAttributes(const char*, const ZFXUnicodeString&, const ZFXUnicodeString&) {
+ZFXListValZFXISpecAttribute_var* MemoryZFXISpecObject::ListPointingAttributes(const char*, const ZFXUnicodeString&,
+                                                                              const ZFXUnicodeString&) {
     return Object().Ask(MemoryRequest::ListPointingAttributes).filled ? &Object().Extras().pointing : nullptr;
 }
 

@@ -88,14 +88,13 @@ protected:
     MemoryObject& Object() const noexcept;
 };
 
-#define MEMORY_FACE(name, operations)                                                                        \
-    class Memory##name final : public MemoryFace<name> {                                                     \
-    public:                                                                                                  \
-        operations                                                                                           \
+#define MEMORY_FACE(name, operations)                                                                                  \
+    class Memory##name final : public MemoryFace<name> {                                                               \
+    public:                                                                                                            \
+        operations                                                                                                     \
     };
 
-MEMORY_FACE(ZFXIAlias, void SetAlias(const ZFXUnicodeString& alias) override;
-            ZFXUnicodeString GetAlias() override;)
+MEMORY_FACE(ZFXIAlias, void SetAlias(const ZFXUnicodeString& alias) override; ZFXUnicodeString GetAlias() override;)
 MEMORY_FACE(ZFXISpecObject, ZFXUnicodeString GetLateType() override; ZFXBaseUnknown * GetFather() override;
             ZFXListValZFXISpecAttribute_var * ListPointingAttributes(const char* interfaceName,
                                                                      const ZFXUnicodeString& type,
@@ -108,13 +107,11 @@ MEMORY_FACE(ZFXISamAnalysisModel, HRESULT ListAnalysisCases(ZFXListValZFXBaseUnk
 MEMORY_FACE(ZFXISamAnalysisCase, )
 MEMORY_FACE(ZFXISamAnalysisSet,
             HRESULT ListMembers(ZFXListValZFXISpecObject_var& members, const IID& filter, int flag) override;)
-MEMORY_FACE(ZFXISamAnalysisScan,
-            HRESULT FindObjectsOfType(const ZFXUnicodeString& lateType, ZFXListValZFXBaseUnknown_var& found,
-                                      int mode) override;
+MEMORY_FACE(ZFXISamAnalysisScan, HRESULT FindObjectsOfType(const ZFXUnicodeString& lateType,
+                                                           ZFXListValZFXBaseUnknown_var& found, int mode) override;
             HRESULT ListChildren(ZFXListValZFXBaseUnknown_var & children, int mode) override;)
 MEMORY_FACE(ZFXISamAnalysisEntity, HRESULT GetParentSets(ZFXListValZFXBaseUnknown_var*& sets) override;)
-MEMORY_FACE(ZFXISamAnalysisSupport,
-            HRESULT ListConnectors(ZFXListValZFXBaseUnknown_var& connectors) override;)
+MEMORY_FACE(ZFXISamAnalysisSupport, HRESULT ListConnectors(ZFXListValZFXBaseUnknown_var& connectors) override;)
 MEMORY_FACE(ZFXISamAnalysisConnector, HRESULT GetGroup(ZFXBaseUnknown*& group) override;)
 MEMORY_FACE(ZFXISamExplicit, HRESULT GetExplicitChild(ZFXAnalysisExplicitChild& child, int flag) override;)
 MEMORY_FACE(ZFXExplicitData, HRESULT ReadTag(int& tag) override;)
@@ -182,9 +179,7 @@ public:
     MemoryAnswer Ask(MemoryRequest request);
     void Offer(const IID& iid);
     void Withhold(const IID& iid);
-    bool IsOffered(ZFXInterfaceNumber number) const {
-        return m_offered.test(static_cast<std::size_t>(number));
-    }
+    bool IsOffered(ZFXInterfaceNumber number) const { return m_offered.test(static_cast<std::size_t>(number)); }
     /// The object as a feature, or null when it does not offer that. No request. [new reference]
     ZFXISpecObject* Spec();
     /// The nearest object at or above this one in the tree that offers the interface, or null.

@@ -38,8 +38,8 @@ bool IsAmplitude(const MemoryObject& object) {
 
 /// A property lies in a property set, unless the document says otherwise.
 bool IsProperty(const MemoryObject& object) {
-    const bool inPropertySet = !object.holdingSets.empty() &&
-                               object.holdingSets.front()->lateType->name == MemoryLateType::kPropertySet;
+    const bool inPropertySet =
+        !object.holdingSets.empty() && object.holdingSets.front()->lateType->name == MemoryLateType::kPropertySet;
     return object.ExtrasOrNone().property.value_or(inPropertySet && !IsAmplitude(object));
 }
 
@@ -112,8 +112,7 @@ MemoryAttrKey* MemorySession::KeyOf(const std::string& name) {
 
 MemoryObject* MemorySession::Find(const ZFXBaseUnknown* face) const {
     auto* object = face == nullptr ? nullptr : dynamic_cast<MemoryObject*>(face->GetImpl());
-    return object != nullptr && object->document != nullptr && &object->document->session == this ? object
-                                                                                                  : nullptr;
+    return object != nullptr && object->document != nullptr && &object->document->session == this ? object : nullptr;
 }
 
 MemoryDocumentObject* MemorySession::DocumentOr(const ZFXDocument* document) const {
@@ -138,8 +137,7 @@ HRESULT MemorySession::GetAllAnalysisCases(ZFXListValZFXBaseUnknown_var& cases, 
     return answer.code;
 }
 
-HRESULT MemorySession::GetJobs(const ZFXListValZFXBaseUnknown_var& cases,
-                               ZFXListValZFXISpecObject_var& jobs) {
+HRESULT MemorySession::GetJobs(const ZFXListValZFXBaseUnknown_var& cases, ZFXListValZFXISpecObject_var& jobs) {
     const MemoryAnswer answer = faults.Ask(MemoryRequest::GetJobs, nullptr);
     if (!answer.filled)
         return answer.code;
@@ -195,8 +193,7 @@ HRESULT MemorySession::GetParentStep(const ZFXISpecObject_var& feature, ZFXISpec
     return answer.code;
 }
 
-HRESULT MemorySession::GetParentCaseFromObject(const ZFXISpecObject_var& feature,
-                                               ZFXISpecObject_var& parent) {
+HRESULT MemorySession::GetParentCaseFromObject(const ZFXISpecObject_var& feature, ZFXISpecObject_var& parent) {
     MemoryObject* object = Find(feature);
     const MemoryAnswer answer = faults.Ask(MemoryRequest::GetParentCaseFromObject, object);
     if (!answer.filled)
@@ -221,12 +218,10 @@ unsigned char MemorySession::IsObjectAnAmplitude(ZFXISpecObject_var& feature) {
     return answered && object != nullptr && IsAmplitude(*object) ? 1 : 0;
 }
 
-HRESULT MemorySession::GetCurrentAnalysisCaseSP(ZFXISamAnalysisCase_var& analysisCase,
-                                                ZFXDocument* document) {
+HRESULT MemorySession::GetCurrentAnalysisCaseSP(ZFXISamAnalysisCase_var& analysisCase, ZFXDocument* document) {
     const MemoryAnswer answer = faults.Ask(MemoryRequest::GetCurrentAnalysisCaseSP, nullptr);
     const MemoryDocumentObject* asked = DocumentOr(document);
     if (answer.filled)
-        analysisCase =
-            asked == nullptr ? ZFXISamAnalysisCase_var() : ZFXISamAnalysisCase_var(asked->currentCase);
+        analysisCase = asked == nullptr ? ZFXISamAnalysisCase_var() : ZFXISamAnalysisCase_var(asked->currentCase);
     return answer.code;
 }

@@ -64,26 +64,23 @@ HRESULT ZFXBaseUnknown::GetTypeInfoCount(unsigned int* count) {
 
 HRESULT ZFXBaseUnknown::GetTypeInfo(unsigned int, unsigned long, void**) { return E_NOTIMPL; }
 
-HRESULT ZFXBaseUnknown::GetIDsOfNames(const IID&, char16_t**, unsigned int, unsigned long, long*) {
-    return E_NOTIMPL;
-}
+HRESULT ZFXBaseUnknown::GetIDsOfNames(const IID&, char16_t**, unsigned int, unsigned long, long*) { return E_NOTIMPL; }
 
-HRESULT ZFXBaseUnknown::Invoke(long, const IID&, unsigned long, unsigned short, void*, void*, void*,
-                               unsigned int*) {
+HRESULT ZFXBaseUnknown::Invoke(long, const IID&, unsigned long, unsigned short, void*, void*, void*, unsigned int*) {
     return E_NOTIMPL;
 }
 
 ZFXBaseUnknown::~ZFXBaseUnknown() = default;
 
 ZFXMetaClass* ZFXBaseUnknown::MetaObject() {
-    static ZFXMetaClass* const metaObject = fct_RetrieveMetaObject(
-        "ZFXBaseUnknown", ENUMTypeOfClass::Implementation, ZFXnull::MetaObject(), nullptr, "ZFXPlatform", 0);
+    static ZFXMetaClass* const metaObject = fct_RetrieveMetaObject("ZFXBaseUnknown", ENUMTypeOfClass::Implementation,
+                                                                   ZFXnull::MetaObject(), nullptr, "ZFXPlatform", 0);
     return metaObject;
 }
 
 ZFXMetaClass* ZFXnull::MetaObject() {
-    static ZFXMetaClass* const metaObject = fct_RetrieveMetaObject("ZFXnull", ENUMTypeOfClass::Implementation,
-                                                                   nullptr, nullptr, "ZFXPlatform", 0);
+    static ZFXMetaClass* const metaObject =
+        fct_RetrieveMetaObject("ZFXnull", ENUMTypeOfClass::Implementation, nullptr, nullptr, "ZFXPlatform", 0);
     return metaObject;
 }
 

@@ -1,8 +1,7 @@
 #include "object-model/ZFXDictionary.h"
 
-ZFXFillDictionary::ZFXFillDictionary(ZFXMetaClass* extension, ZFXMetaClass* interfaceClass,
-                                     ZFXAdaptorFactory factory, ZFXAdaptorFactory /*secondFactory*/,
-                                     int /*flag*/)
+ZFXFillDictionary::ZFXFillDictionary(ZFXMetaClass* extension, ZFXMetaClass* interfaceClass, ZFXAdaptorFactory factory,
+                                     ZFXAdaptorFactory /*secondFactory*/, int /*flag*/)
     : m_extension(extension), m_iid(interfaceClass->GetClassId()), m_factory(factory) {
     m_extension->SetAdaptorFactory(m_iid, m_factory);
 }

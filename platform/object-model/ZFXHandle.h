@@ -69,10 +69,8 @@ public:
         return ZFXSameObject(a.Get(), b.Get());
     }
     template <class Other> // constant or not, so that it always fits better than two raw pointers would
-        requires std::derived_from<std::remove_const_t<Other>, ZFXBaseUnknown>
-    friend bool operator==(const ZFXHandle& a, Other* b) {
-        return ZFXSameObject(a.Get(), b);
-    }
+    requires std::derived_from<std::remove_const_t<Other>, ZFXBaseUnknown>
+    friend bool operator==(const ZFXHandle& a, Other* b) { return ZFXSameObject(a.Get(), b); }
     friend bool operator==(const ZFXHandle& a, std::nullptr_t) noexcept { return a.m_face == nullptr; }
 
 private:

@@ -15,16 +15,15 @@ enum class ZFXInterfaceNumber : unsigned {
 };
 
 /// IID_ZFXIAlias and its kin: the number stands in the lower half.
-#define ZFX_INTERFACE(name)                                                                                  \
-    inline constexpr IID IID_##name{IID_ZFXBaseUnknown.high + 1,                                             \
-                                    static_cast<std::uint64_t>(ZFXInterfaceNumber::name)};
+#define ZFX_INTERFACE(name)                                                                                            \
+    inline constexpr IID IID_##name{IID_ZFXBaseUnknown.high + 1, static_cast<std::uint64_t>(ZFXInterfaceNumber::name)};
 #include "object-model/ZFXInterfaces.def"
 #undef ZFX_INTERFACE
 
 /// The number of an interface of this platform, or None for any other identifier.
 constexpr ZFXInterfaceNumber ZFXNumberOf(const IID& iid) noexcept {
-    const bool known = iid.high == IID_ZFXBaseUnknown.high + 1 &&
-                       iid.low < static_cast<std::uint64_t>(ZFXInterfaceNumber::Count);
+    const bool known =
+        iid.high == IID_ZFXBaseUnknown.high + 1 && iid.low < static_cast<std::uint64_t>(ZFXInterfaceNumber::Count);
     return known ? static_cast<ZFXInterfaceNumber>(iid.low) : ZFXInterfaceNumber::None;
 }
 
@@ -35,8 +34,8 @@ ZFX_PLATFORM_EXPORT const char* ZFXInterfaceName(const IID& iid) noexcept;
 
 /// Stands first in the declaration of an interface: its identifier, its meta class, and a destructor that is
 /// defined once, in the platform library.
-#define ZFX_DECLARE_INTERFACE(name)                                                                          \
-public:                                                                                                      \
-    static constexpr const IID& ClassId() { return IID_##name; }                                             \
-    static ZFXMetaClass* MetaObject();                                                                       \
+#define ZFX_DECLARE_INTERFACE(name)                                                                                    \
+public:                                                                                                                \
+    static constexpr const IID& ClassId() { return IID_##name; }                                                       \
+    static ZFXMetaClass* MetaObject();                                                                                 \
     ~name() override;

@@ -26,8 +26,8 @@ std::map<std::string, std::unique_ptr<ZFXMetaClass>, std::less<>>& Registry() {
 
 } // namespace
 
-ZFXMetaClass::ZFXMetaClass(const IID* classId, const char* name, ZFXMetaClass* base,
-                           ZFXMetaClass* implementation, int kind)
+ZFXMetaClass::ZFXMetaClass(const IID* classId, const char* name, ZFXMetaClass* base, ZFXMetaClass* implementation,
+                           int kind)
     : m_name(name == nullptr ? "" : name),
       m_classId(classId != nullptr ? *classId : IdOfName(m_name)),
       m_base(base),
@@ -49,8 +49,8 @@ void ZFXMetaClass::SetExtensionOf(ZFXMetaClass* extended) {
 }
 
 int ZFXMetaClass::IsExtensionOf(const ZFXMetaClass* extended) const noexcept {
-    return extended != nullptr && std::find(extended->m_extensions.begin(), extended->m_extensions.end(),
-                                            this) != extended->m_extensions.end();
+    return extended != nullptr && std::find(extended->m_extensions.begin(), extended->m_extensions.end(), this) !=
+                                      extended->m_extensions.end();
 }
 
 ZFXAdaptorFactory ZFXMetaClass::FindAdaptorFactory(const IID& iid) const noexcept {

@@ -29,8 +29,7 @@ class ZFX_PLATFORM_EXPORT ZFXMetaClass {
 public:
     /// A class of the given kind; an adaptor's names the interface that it offers and the class that
     /// implements it. The name is copied.
-    ZFXMetaClass(const IID* classId, const char* name, ZFXMetaClass* base, ZFXMetaClass* implementation,
-                 int kind);
+    ZFXMetaClass(const IID* classId, const char* name, ZFXMetaClass* base, ZFXMetaClass* implementation, int kind);
     ZFXMetaClass(const ZFXMetaClass&) = delete;
     ZFXMetaClass& operator=(const ZFXMetaClass&) = delete;
     ~ZFXMetaClass();
@@ -76,9 +75,8 @@ private:
 
 /// The meta class of the name, made on the first call. `firstExtended` names a late type that it extends, or
 /// is null. `framework` and `level` are for a host's own records. [borrowed]
-ZFX_PLATFORM_EXPORT ZFXMetaClass* fct_RetrieveMetaObject(const char* name, ENUMTypeOfClass kind,
-                                                         ZFXMetaClass* base, const char* firstExtended,
-                                                         const char* framework, int level);
+ZFX_PLATFORM_EXPORT ZFXMetaClass* fct_RetrieveMetaObject(const char* name, ENUMTypeOfClass kind, ZFXMetaClass* base,
+                                                         const char* firstExtended, const char* framework, int level);
 /// The meta class of a class or late type; one is made for a name that is not known yet, so that the order in
 /// which modules are loaded does not matter. Null for a null name. [borrowed]
 ZFX_PLATFORM_EXPORT ZFXMetaClass* fct_FindMetaObject(const char* name);

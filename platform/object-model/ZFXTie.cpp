@@ -1,9 +1,8 @@
 #include "object-model/ZFXTie.h"
 
 ZFXBaseUnknown* Tie_Construct(ZFXBaseUnknown* adaptor, ZFXTie& tie, ZFXMetaClass* /*adaptorClass*/,
-                              const CLSID& /*extension*/, ENUMTypeOfClass /*kind*/,
-                              ZFXBaseUnknown* /*previous*/, ZFXImplementationMaker maker,
-                              ZFXBaseUnknown* object, void* /*context*/) {
+                              const CLSID& /*extension*/, ENUMTypeOfClass /*kind*/, ZFXBaseUnknown* /*previous*/,
+                              ZFXImplementationMaker maker, ZFXBaseUnknown* object, void* /*context*/) {
     tie.count = 1;
     tie.object = object;
     object->AddRef();
@@ -27,8 +26,8 @@ void Tie_Destruct(ZFXBaseUnknown* adaptor, ZFXTie& tie) {
     tie.object = nullptr;
 }
 
-HRESULT Tie_Query(ZFXBaseUnknown* adaptor, const ZFXTie& tie, const ZFXMetaClass* adaptorClass,
-                  const IID& iid, void** face) {
+HRESULT Tie_Query(ZFXBaseUnknown* adaptor, const ZFXTie& tie, const ZFXMetaClass* adaptorClass, const IID& iid,
+                  void** face) {
     if (face == nullptr)
         return E_POINTER;
     *face = nullptr;
@@ -56,13 +55,13 @@ HRESULT Tie_GetTypeInfo(const ZFXTie& tie, unsigned int index, unsigned long loc
     return tie.implementation->GetTypeInfo(index, locale, info);
 }
 
-HRESULT Tie_GetIDsOfNames(const ZFXTie& tie, const IID& iid, char16_t** names, unsigned int count,
-                          unsigned long locale, long* ids) {
+HRESULT Tie_GetIDsOfNames(const ZFXTie& tie, const IID& iid, char16_t** names, unsigned int count, unsigned long locale,
+                          long* ids) {
     return tie.implementation->GetIDsOfNames(iid, names, count, locale, ids);
 }
 
-HRESULT Tie_Invoke(const ZFXTie& tie, long id, const IID& iid, unsigned long locale, unsigned short flags,
-                   void* params, void* result, void* exception, unsigned int* argument) {
+HRESULT Tie_Invoke(const ZFXTie& tie, long id, const IID& iid, unsigned long locale, unsigned short flags, void* params,
+                   void* result, void* exception, unsigned int* argument) {
     return tie.implementation->Invoke(id, iid, locale, flags, params, result, exception, argument);
 }
 

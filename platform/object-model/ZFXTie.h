@@ -19,24 +19,22 @@ using ZFXImplementationMaker = ZFXBaseUnknown* (*)();
 /// adaptor has one reference afterwards. Returns the implementation that the module's next adaptor may share:
 /// null, as each adaptor of this platform gets one of its own. When it cannot be made, `tie.implementation`
 /// stays null. `previous` and `context` are for a host that keeps its own.
-ZFX_PLATFORM_EXPORT ZFXBaseUnknown* Tie_Construct(ZFXBaseUnknown* adaptor, ZFXTie& tie,
-                                                  ZFXMetaClass* adaptorClass, const CLSID& extension,
-                                                  ENUMTypeOfClass kind, ZFXBaseUnknown* previous,
-                                                  ZFXImplementationMaker maker, ZFXBaseUnknown* object,
-                                                  void* context);
+ZFX_PLATFORM_EXPORT ZFXBaseUnknown* Tie_Construct(ZFXBaseUnknown* adaptor, ZFXTie& tie, ZFXMetaClass* adaptorClass,
+                                                  const CLSID& extension, ENUMTypeOfClass kind,
+                                                  ZFXBaseUnknown* previous, ZFXImplementationMaker maker,
+                                                  ZFXBaseUnknown* object, void* context);
 /// Gives the implementation and the object back; called by the adaptor's destructor.
 ZFX_PLATFORM_EXPORT void Tie_Destruct(ZFXBaseUnknown* adaptor, ZFXTie& tie);
 /// The adaptor itself for the interface that it offers, else what the object answers.
-ZFX_PLATFORM_EXPORT HRESULT Tie_Query(ZFXBaseUnknown* adaptor, const ZFXTie& tie,
-                                      const ZFXMetaClass* adaptorClass, const IID& iid, void** face);
+ZFX_PLATFORM_EXPORT HRESULT Tie_Query(ZFXBaseUnknown* adaptor, const ZFXTie& tie, const ZFXMetaClass* adaptorClass,
+                                      const IID& iid, void** face);
 ZFX_PLATFORM_EXPORT ULONG Tie_AddRef(ZFXTie& tie);
 /// Destroys the adaptor when the last reference goes.
 ZFX_PLATFORM_EXPORT ULONG Tie_Release(ZFXBaseUnknown* adaptor, ZFXTie& tie);
 ZFX_PLATFORM_EXPORT HRESULT Tie_GetTypeInfoCount(const ZFXTie& tie, unsigned int* count);
-ZFX_PLATFORM_EXPORT HRESULT Tie_GetTypeInfo(const ZFXTie& tie, unsigned int index, unsigned long locale,
-                                            void** info);
-ZFX_PLATFORM_EXPORT HRESULT Tie_GetIDsOfNames(const ZFXTie& tie, const IID& iid, char16_t** names,
-                                              unsigned int count, unsigned long locale, long* ids);
+ZFX_PLATFORM_EXPORT HRESULT Tie_GetTypeInfo(const ZFXTie& tie, unsigned int index, unsigned long locale, void** info);
+ZFX_PLATFORM_EXPORT HRESULT Tie_GetIDsOfNames(const ZFXTie& tie, const IID& iid, char16_t** names, unsigned int count,
+                                              unsigned long locale, long* ids);
 ZFX_PLATFORM_EXPORT HRESULT Tie_Invoke(const ZFXTie& tie, long id, const IID& iid, unsigned long locale,
                                        unsigned short flags, void* params, void* result, void* exception,
                                        unsigned int* argument);

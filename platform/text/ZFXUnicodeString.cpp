@@ -13,9 +13,7 @@
 
 namespace {
 
-bool IsDecimalFormat(const char* format) noexcept {
-    return format != nullptr && std::string_view(format) == "%d";
-}
+bool IsDecimalFormat(const char* format) noexcept { return format != nullptr && std::string_view(format) == "%d"; }
 
 std::size_t Size(int n) noexcept { return static_cast<std::size_t>(n); }
 
@@ -73,9 +71,7 @@ void ZFXUnicodeString::TakeFrom(ZFXUnicodeString& other) noexcept {
 
 void ZFXUnicodeString::FreeHeap() noexcept { delete[] m_storage.heap; }
 
-void ZFXUnicodeString::FreeNarrow() noexcept {
-    delete[] m_narrow.exchange(nullptr, std::memory_order_relaxed);
-}
+void ZFXUnicodeString::FreeNarrow() noexcept { delete[] m_narrow.exchange(nullptr, std::memory_order_relaxed); }
 
 /// Makes room for a number of units and keeps the text.
 void ZFXUnicodeString::Reserve(int units) {
@@ -135,8 +131,7 @@ void ZFXUnicodeString::BuildFromUCChar(const unsigned short* units, int count) {
 }
 
 int ZFXUnicodeString::operator==(const ZFXUnicodeString& other) const noexcept {
-    return m_length == other.m_length &&
-           std::memcmp(Data(), other.Data(), Size(m_length) * sizeof(char16_t)) == 0;
+    return m_length == other.m_length && std::memcmp(Data(), other.Data(), Size(m_length) * sizeof(char16_t)) == 0;
 }
 
 int ZFXUnicodeString::operator==(const char* text) const noexcept {
@@ -168,11 +163,9 @@ ZFXUnicodeString ZFXUnicodeString::SubString(int start, int length) const {
     return ZFXUnicodeString(Units().substr(Size(from), Size(count)));
 }
 
-int ZFXUnicodeString::SearchSubString(const ZFXUnicodeString& sub, int start,
-                                      ZFXSearchMode mode) const noexcept {
+int ZFXUnicodeString::SearchSubString(const ZFXUnicodeString& sub, int start, ZFXSearchMode mode) const noexcept {
     const std::size_t from = Size(std::clamp(start, 0, m_length));
-    const std::size_t found =
-        mode == SearchBackward ? Units().rfind(sub.Units()) : Units().find(sub.Units(), from);
+    const std::size_t found = mode == SearchBackward ? Units().rfind(sub.Units()) : Units().find(sub.Units(), from);
     return found == std::u16string_view::npos || found < from ? -1 : static_cast<int>(found);
 }
 

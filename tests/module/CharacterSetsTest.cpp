@@ -21,8 +21,7 @@ TEST(CharacterSets, OffendingUnitsAreListedForTheUser) {
         {"aαbα", "x", "xα  α ", "xα  α "},
         {"\u00FF\u0100", "", "\u0100 ", "\u00FF  \u0100 "},
         {"\u007F\u0080", "", "", "\u0080 "},
-        {"😀", "", "\xEF\xBF\xBD  \xEF\xBF\xBD ",
-         "\xEF\xBF\xBD  \xEF\xBF\xBD "}, // both halves, each by itself
+        {"😀", "", "\xEF\xBF\xBD  \xEF\xBF\xBD ", "\xEF\xBF\xBD  \xEF\xBF\xBD "}, // both halves, each by itself
     };
     for (const Row& row : rows) {
         ZFXUnicodeString wide(row.before);

@@ -18,9 +18,8 @@ TEST(EnglishMode, IsSettledByTheFirstQuestion) {
         unsigned char inputEnglish;
     };
     const Row rows[] = {
-        {0x0409, 0x04090409, 1, 1}, {0x0407, 0x04090409, 0, 1}, {0x3409, 0xF0030809, 1, 1},
-        {0x4009, 0x0411, 0, 0},     {0x10409, 0x1009, 0, 1},    {0x0809, 0x040C, 1, 0},
-        {0x0009, 0x3809, 0, 0},
+        {0x0409, 0x04090409, 1, 1}, {0x0407, 0x04090409, 0, 1}, {0x3409, 0xF0030809, 1, 1}, {0x4009, 0x0411, 0, 0},
+        {0x10409, 0x1009, 0, 1},    {0x0809, 0x040C, 1, 0},     {0x0009, 0x3809, 0, 0},
     };
     for (const Row& row : rows) {
         Fresh utils;
@@ -29,9 +28,9 @@ TEST(EnglishMode, IsSettledByTheFirstQuestion) {
         EXPECT_EQ(utils.IsEnglishInputLocale(), row.inputEnglish) << row.input;
         EXPECT_EQ(utils.IsInitialUserLocaleEnglish() + utils.IsInitialInputLocaleEnglish(),
                   0); // nobody asked yet
-        const std::string expected =
-            std::string("The initial user locale is ") + (row.userEnglish ? "" : "NOT ") +
-            "English.\nThe initial input locale is " + (row.inputEnglish ? "" : "NOT ") + "English.\n";
+        const std::string expected = std::string("The initial user locale is ") + (row.userEnglish ? "" : "NOT ") +
+                                     "English.\nThe initial input locale is " + (row.inputEnglish ? "" : "NOT ") +
+                                     "English.\n";
         EXPECT_EQ(Console([&] { utils.GetInitialLocales(); }), expected);
         ZFXSetLocales(0x0407, 0x0407); // comes too late
         utils.ResetAllLists();

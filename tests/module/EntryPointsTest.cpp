@@ -47,8 +47,7 @@ TEST_F(EntryPointsTest, UniquenessIsJudgedBeforeTheText) {
     EXPECT_EQ(Said(QVRNameUtil::CheckName(handle, "1.", 0)), char1);
     other.Alias(Repeated('y', 80)); // clashes and is too long: the clash is told
     EXPECT_EQ(Said(QVRNameUtil::CheckName(handle, Repeated('y', 80), 1)), duplicate);
-    for (ZFXISpecObject_var nameless :
-         {ZFXISpecObject_var(feature.Without(IID_ZFXIAlias)), ZFXISpecObject_var()}) {
+    for (ZFXISpecObject_var nameless : {ZFXISpecObject_var(feature.Without(IID_ZFXIAlias)), ZFXISpecObject_var()}) {
         EXPECT_EQ(Said(QVRNameUtil::CheckName(nameless, "x", 1)), "ZFXIAliasERR_01");
         EXPECT_EQ(Said(QVRNameUtil::CheckFileName(nameless, "x")), "ZFXIAliasERR_01");
     }

@@ -19,10 +19,8 @@ protected:
 
 TEST_F(FeatureAliasTest, AStepIsRenamedUnderTheRules) {
     const std::string console = Console([&] { ZFXIAlias_var(step)->SetAlias(" Step_ "); });
-    EXPECT_EQ(
-        console,
-        "NAME ERROR: Another step of this analysis case already has the name; capital and small letters "
-        "count as the same. Choose a name that no step of the case has.\n");
+    EXPECT_EQ(console, "NAME ERROR: Another step of this analysis case already has the name; capital and small letters "
+                       "count as the same. Choose a name that no step of the case has.\n");
     EXPECT_EQ(Text(ZFXIAlias_var(step)->GetAlias()), "Step-1");
     EXPECT_EQ(Rename(step, "  _ _Lo ad__ "), " _Lo ad|"); // blanks first, then underscores, each once
     EXPECT_EQ(Rename(step, "Tr\xC3\xA4ger"), "Träger|");
@@ -85,8 +83,7 @@ TEST_F(FeatureAliasTest, OnlyTheListedTypesAreGuarded) {
                                  "QVRMassScalingLT",
                                  "QVRInteractionPropertyl"}) {
         const ZFXIAlias_var alias(document.Model().Feature(lateType, "a"));
-        guarded +=
-            alias->GetMetaObject()->GetImplementationMetaClass() == QVREFeatureAlias::MetaObject() ? 1 : 0;
+        guarded += alias->GetMetaObject()->GetImplementationMetaClass() == QVREFeatureAlias::MetaObject() ? 1 : 0;
     }
     EXPECT_EQ(guarded, 29);
     EXPECT_FALSE(ZFXIAlias_var(step.Without(IID_ZFXIAlias)));

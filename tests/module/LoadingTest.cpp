@@ -21,8 +21,7 @@ TEST(Loading, TheModuleAnnouncesItselfAndLeavesNothingBehind) {
     for (int i = 0; i < 10; ++i) {
         void* module = dlopen(MODULE_FILE, RTLD_NOW | RTLD_LOCAL);
         ASSERT_NE(module, nullptr) << dlerror();
-        auto* marker =
-            reinterpret_cast<int (*)()>(dlsym(module, "HALVERN_WORKS_UXM2_INTERNAL_QVRNameUtility"));
+        auto* marker = reinterpret_cast<int (*)()>(dlsym(module, "HALVERN_WORKS_UXM2_INTERNAL_QVRNameUtility"));
         ASSERT_NE(marker, nullptr);
         EXPECT_EQ(marker(), 1);
         EXPECT_EQ(fct_FindMetaObject("QVREFeatureAlias")->CountAdaptorFactories(), 1);

@@ -44,8 +44,7 @@ TEST(NameValidation, TheFirstRuleThatFailsDecides) {
         EXPECT_EQ(Said(QVRNameUtil::IsNameValid(row.name, 1)), row.checked) << row.name;
         EXPECT_EQ(Said(QVRNameUtil::IsNameValid(row.name, 0)), row.unchecked) << row.name;
         EXPECT_EQ(Said(QVRNameUtil::IsFileNameValid(row.name)), row.asFile) << row.name;
-        EXPECT_EQ(Said(QVRNameUtil::CheckForIllegalCharacters(row.name)), row.quiet ? "S_OK" : "E_FAIL")
-            << row.name;
+        EXPECT_EQ(Said(QVRNameUtil::CheckForIllegalCharacters(row.name)), row.quiet ? "S_OK" : "E_FAIL") << row.name;
         EXPECT_EQ(row.name, before);
     }
 }

@@ -41,7 +41,7 @@ TEST_F(PropagatingObjectsTest, TheScopeIsTheSameKindOfSetInEveryStep) {
     EXPECT_EQ(Propose(), "Pressure-6"); // another set of the kind
     document.Case("Other").Step("T", "Step-1").Set("QVRLoadContainerLT").Feature("QVRPressure", "Pressure-7");
     EXPECT_EQ(Propose(), "Pressure-6"); // another case
-    loads3.Hold(load); // held twice, the first set counts, and it is left out wherever it occurs
+    loads3.Hold(load);                  // held twice, the first set counts, and it is left out wherever it occurs
     load.Alias("Pressure-20");
     EXPECT_EQ(Propose(), "Pressure-6");
 }
@@ -92,10 +92,7 @@ TEST_F(PropagatingObjectsTest, TheLastStepDecidesTheCodeAndFailedStepsGiveNothin
 }
 
 TEST_F(PropagatingObjectsTest, OutsideEveryCaseTheCurrentOneOfTheDocumentCounts) {
-    load = document.Model()
-               .Set("QVRLoadContainerLT")
-               .Feature("QVRPressure", "New")
-               .With(IID_QVRIPropagatingFeature);
+    load = document.Model().Set("QVRLoadContainerLT").Feature("QVRPressure", "New").With(IID_QVRIPropagatingFeature);
     EXPECT_EQ(Check("Pressure-1"), "DuplicateNameERR_02 -100");
     document.MakeCurrent({});
     EXPECT_EQ(Check("Pressure-1"), "S_OK");

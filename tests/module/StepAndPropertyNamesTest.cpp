@@ -56,8 +56,7 @@ TEST_F(StepNamesTest, AClashIsToldInTheStepsOwnWords) {
 }
 
 TEST_F(StepNamesTest, WithoutAHistoryAStepCannotBeJudged) {
-    EXPECT_EQ(Check(MemoryFeature(document.Model().Add(MemoryKind::Step, "T", "Loose")), "x"),
-              "StepParentERR_01");
+    EXPECT_EQ(Check(MemoryFeature(document.Model().Add(MemoryKind::Step, "T", "Loose")), "x"), "StepParentERR_01");
     const auto failing = [&](MemoryRequest request, MemoryAnswer answer) {
         model.AnswerAlways(request, answer);
         const std::string said = Check(step, "x");

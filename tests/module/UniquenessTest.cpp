@@ -37,8 +37,7 @@ TEST_F(UniquenessTest, TheFirstElementThatFailsDecides) {
         ZFXListValZFXBaseUnknown_var scope;
         for (const MemoryFeature& element : row.scope)
             scope.Append(ZFXBaseUnknown_var(element));
-        EXPECT_EQ(Said(QVRNameUtil::IsNameUniqueInSet(ZFXISpecObject_var(row.feature), scope, row.name)),
-                  row.said)
+        EXPECT_EQ(Said(QVRNameUtil::IsNameUniqueInSet(ZFXISpecObject_var(row.feature), scope, row.name)), row.said)
             << row.why;
     }
 }
@@ -49,8 +48,7 @@ TEST_F(UniquenessTest, JobsAreComparedAcrossTheCasesOfTheirModel) {
     MemoryFeature job = first.Job("Job-1");
     document.Case("Without jobs");
     second.Job("Job-2");
-    second.Add(MemoryKind::JobContainer, "QVRJobContainerLT", "")
-        .Feature("QVRJobLT", "In a second container");
+    second.Add(MemoryKind::JobContainer, "QVRJobContainerLT", "").Feature("QVRJobLT", "In a second container");
     const auto check = [&](const char* name) {
         ZFXISpecObject_var feature(job);
         return Said(QVRNameUtil::IsNameUniqueAcrossCases(feature, name));

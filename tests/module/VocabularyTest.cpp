@@ -32,9 +32,8 @@ TEST(Vocabulary, HoldsEachWordOnceAndExactly) {
     EXPECT_EQ(ends["SAM"], 33);
     EXPECT_EQ(ends["MSHPart"], 21);
     EXPECT_EQ(ends["-"], 55);
-    for (const char* odd :
-         {"Frontal Triangle", "Frontal triangle", "BasicUnitTepmerature", "SAMVirtSpringBoltTigh", "-Copy-",
-          "QVROruCatalog.ZFXfct", "2D Property Enhancement-"})
+    for (const char* odd : {"Frontal Triangle", "Frontal triangle", "BasicUnitTepmerature", "SAMVirtSpringBoltTigh",
+                            "-Copy-", "QVROruCatalog.ZFXfct", "2D Property Enhancement-"})
         EXPECT_TRUE(distinct.contains(odd)) << odd;
     EXPECT_EQ(HALVERN_WORKS_UXM2_INTERNAL_QVRNameUtility(), 1);
 }

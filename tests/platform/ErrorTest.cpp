@@ -40,8 +40,7 @@ TEST(Error, IsFoundUnderItsOwnCodeUntilManyOthersCame) {
 TEST(Error, SpeaksAsItsCatalogSays) {
     const auto folder = std::filesystem::temp_directory_path() / "qvr-catalog-test";
     std::filesystem::create_directories(folder);
-    std::ofstream(folder / "Tests.catalog")
-        << "# comment\n\nId.Diagnostic = Bad: /P1, /P2 \r\nId.Advice=Mend = it\n";
+    std::ofstream(folder / "Tests.catalog") << "# comment\n\nId.Diagnostic = Bad: /P1, /P2 \r\nId.Advice=Mend = it\n";
     MessageCatalog::SetFolder(folder.string());
     auto* error = new ZFXInputError("Id", "Tests");
     ZFXUnicodeString a("ä");

@@ -65,8 +65,8 @@ TEST_F(MemoryModelTest, KindsOfferWhatTheyAreAndCanBeToldNotTo) {
     EXPECT_TRUE(QVRAnalysisEntityUtils::IsObjectAProperty(property) &&
                 !QVRAnalysisEntityUtils::IsObjectAProperty(curve) &&
                 QVRAnalysisEntityUtils::IsObjectAnAmplitude(curve));
-#define ZFX_INTERFACE(name)                                                                                  \
-    EXPECT_EQ(bool(name##_var(load.With(IID_##name))), IID_##name != IID_ZFXISpecAttribute) << #name;        \
+#define ZFX_INTERFACE(name)                                                                                            \
+    EXPECT_EQ(bool(name##_var(load.With(IID_##name))), IID_##name != IID_ZFXISpecAttribute) << #name;                  \
     EXPECT_FALSE(name##_var(load.Without(IID_##name))) << #name;
 #include "object-model/ZFXInterfaces.def"
 #undef ZFX_INTERFACE

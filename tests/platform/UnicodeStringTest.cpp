@@ -14,8 +14,7 @@ namespace {
 const String kLong = Repeated('x', 100); // beyond what the object holds itself
 
 TEST(UnicodeString, CopiesOwnTheirText) {
-    for (const String& original :
-         {String(""), String("Step-1"), Repeated('a', 32), Repeated('a', 33), kLong}) {
+    for (const String& original : {String(""), String("Step-1"), Repeated('a', 32), Repeated('a', 33), kLong}) {
         String copy(original);
         String assigned("something else that is longer than the inline storage of a string");
         assigned = original;
@@ -42,9 +41,9 @@ TEST(UnicodeString, NarrowTextIsUtf8BothWays) {
         {"日本", 2, "日本"},
         {"😀", 2, "😀"}, // a surrogate pair
         {"a\x80z", 3, "a\xEF\xBF\xBDz"},
-        {"\xC3", 1, "\xEF\xBF\xBD"},                                 // cut short
-        {"\xED\xA0\x80", 3, "\xEF\xBF\xBD\xEF\xBF\xBD\xEF\xBF\xBD"}, // a surrogate in three bytes
-        {"\xC0\xAF", 2, "\xEF\xBF\xBD\xEF\xBF\xBD"},                 // more bytes than needed
+        {"\xC3", 1, "\xEF\xBF\xBD"},                                                 // cut short
+        {"\xED\xA0\x80", 3, "\xEF\xBF\xBD\xEF\xBF\xBD\xEF\xBF\xBD"},                 // a surrogate in three bytes
+        {"\xC0\xAF", 2, "\xEF\xBF\xBD\xEF\xBF\xBD"},                                 // more bytes than needed
         {"\xF4\x90\x80\x80", 4, "\xEF\xBF\xBD\xEF\xBF\xBD\xEF\xBF\xBD\xEF\xBF\xBD"}, // above U+10FFFF
     };
     for (const Row& row : rows) {
@@ -115,8 +114,7 @@ TEST(UnicodeString, SearchesStripsAndCuts) {
 
     const char* stripped[] = {"a-b--", "--a-b", "a-b", "ab"};
     for (int mode = 1; mode <= 4; ++mode)
-        EXPECT_EQ(Text(String("--a-b--").Strip(static_cast<String::ZFXStripMode>(mode), '-')),
-                  stripped[mode - 1]);
+        EXPECT_EQ(Text(String("--a-b--").Strip(static_cast<String::ZFXStripMode>(mode), '-')), stripped[mode - 1]);
     EXPECT_EQ(Text(String(" \t a ").Strip(String::StripBoth)), "\t a");
     EXPECT_EQ(Text(String("---").Strip(String::StripBoth, '-')), "");
 
@@ -155,9 +153,8 @@ TEST(UnicodeString, ReplacesAlsoWithItself) {
         const char* first;
     };
     const Row rows[] = {
-        {"a.b.c", ".", "-", "a-b-c", "a-b.c"},    {"aaa", "aa", "a", "aa", "aa"},
-        {"aaaa", "a", "aa", "aaaaaaaa", "aaaaa"}, {"abc", "x", "y", "abc", "abc"},
-        {"abc", "", "y", "abc", "abc"},           {"a a", " ", "", "aa", "aa"},
+        {"a.b.c", ".", "-", "a-b-c", "a-b.c"}, {"aaa", "aa", "a", "aa", "aa"}, {"aaaa", "a", "aa", "aaaaaaaa", "aaaaa"},
+        {"abc", "x", "y", "abc", "abc"},       {"abc", "", "y", "abc", "abc"}, {"a a", " ", "", "aa", "aa"},
     };
     for (const Row& row : rows) {
         String all(row.text);
