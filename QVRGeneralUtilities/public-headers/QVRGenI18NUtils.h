@@ -18,8 +18,7 @@ public:
     QVRGenI18NUtils& operator=(const QVRGenI18NUtils&) = delete;
     virtual ~QVRGenI18NUtils();
 
-    // ---- Locales
-    // -----------------------------------------------------------------------------------------------
+    // ---- Locales ----
 
     /// Runs IsEnglishMode.
     void GetInitialLocales();
@@ -35,8 +34,7 @@ public:
     unsigned char IsEnglishUserLocale();
     unsigned char IsEnglishInputLocale();
 
-    // ---- Names handed out
-    // --------------------------------------------------------------------------------------
+    // ---- Names handed out ----
 
     /// Forgets every name handed out and every object met; references on them are released. The locales stay.
     void ResetAllLists();
@@ -45,8 +43,39 @@ public:
     /// How often exactly this name was handed out, in `nextId`; 1 when at all.
     unsigned char FindNameAndNextID(const ZFXUnicodeString& name, int& nextId);
 
-    // ---- Generic English names, material names, solver-compliant names
-    // -----------------------------------------
+    // ---- Generic English names ----
+
+    /// The late type, "-" and the position of the feature among the members of the set that is its father. Nothing is
+    /// remembered. Refuses with "GetGenericEnglishNameERR_01" when there is no feature, no such set or no such member.
+    HRESULT GetGenericEnglishName(const ZFXISpecObject_var& feature, ZFXUnicodeString& name);
+    /// The late type, "-" and how many features of the type were met, this one included; without full stops. A feature
+    /// that was met before, by this operation or by GetFeatureName, keeps the name it got then. E_FAIL for an empty
+    /// handle.
+    HRESULT GetGenericEnglishFeatureName(const ZFXISpecObject_var& feature, ZFXUnicodeString& name);
+    /// The display name, followed by "-" and a number when features met before are displayed under it now; without full
+    /// stops. A feature that was met before keeps the name it got then. E_FAIL, and nothing remembered, for an empty
+    /// handle, for a feature without a name, or when one met before has lost its name.
+    HRESULT GetFeatureName(const ZFXISpecObject_var& feature, ZFXUnicodeString& name);
+
+    // ---- Material names: the feature's material name, else its alias ----
+
+    /// The material's name, followed by "-" and the number of materials met before it that have the same name now;
+    /// full stops become hyphens. E_FAIL for an empty handle or for a material without a name (nothing remembered,
+    /// `name` untouched), or when one met before has lost its name (nothing remembered; `name` is the bare name when
+    /// the material itself was met before, else untouched).
+    HRESULT GetMaterialName(const ZFXISpecObject_var& material, ZFXUnicodeString& name);
+    /// The late type, "-" and the material's position among those met; full stops become hyphens. E_FAIL for an empty
+    /// handle.
+    HRESULT GetGenericEnglishMaterialName(const ZFXISpecObject_var& material, ZFXUnicodeString& name);
+
+    // ---- Solver-compliant names ----
+
+    /// `name` with hyphens for full stops when no unit of it is above U+00FF (else the test registers
+    /// "DoubleByteCharErr_01"). Otherwise `name` itself when `genericName` begins with "QVR", else `genericName`,
+    /// numbered from its second hand-out on ("-1"), in the list of Instance(); of the result "QVR", "SAM" or "LMS" in
+    /// front, in any letter case, is taken away. Always S_OK. The arguments may be one object.
+    HRESULT GetTARNISCompliantFeatureName(const ZFXUnicodeString& name, const ZFXUnicodeString& genericName,
+                                          ZFXUnicodeString& compliantName);
 
 protected:
     QVRGenI18NUtils();

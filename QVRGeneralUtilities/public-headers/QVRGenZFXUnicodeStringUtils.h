@@ -31,6 +31,5 @@ public:
     /// separator counts with its first character only: the rest of a longer one is read as part of the
     /// number. What is no number is skipped. `text` keeps what stood before the first separator. An empty
     /// separator separates nothing. Always S_OK.
-    static HRESULT GetIntegerListFromString(ZFXUnicodeString& text, ZFXRawCollint& numbers,
-                                            ZFXUnicodeString separator);
+    static HRESULT GetIntegerListFromString(ZFXUnicodeString& text, ZFXRawCollint& numbers, ZFXUnicodeString separator);
 };

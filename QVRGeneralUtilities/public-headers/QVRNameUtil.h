@@ -30,8 +30,7 @@ public:
     QVRNameUtil& operator=(const QVRNameUtil& other);
     virtual ~QVRNameUtil();
 
-    // ---- Name validation: is a text legal as a name?
-    // -----------------------------------------------------------
+    // ---- Name validation: is a text legal as a name? ----
 
     /// The test of a feature name; the first rule that fails decides. In this order: 1 to 72 units long
     /// (refuses with "NameLengthERR_02" when empty, "NameLengthERR_01" when longer); no leading digit '0' to
@@ -49,8 +48,7 @@ public:
     /// message.
     static HRESULT CheckForIllegalCharacters(const ZFXUnicodeString& name);
 
-    // ---- Character sets, file names, quoting, joined tags
-    // ------------------------------------------------------
+    // ---- Character sets, file names, quoting, joined tags ----
 
     /// S_OK when every unit is at most U+00FF. Otherwise each unit above it (half a surrogate pair counts by
     /// itself) is appended to `offending`, two spaces between them and one at the end, repeats included, and
@@ -68,24 +66,41 @@ public:
     /// the text it had on entry.
     static HRESULT PadStrings(ZFXUnicodeString& name, ZFXUnicodeString& suffix, ZFXUnicodeString& prefix);
 
-    // ---- Object names
-    // ------------------------------------------------------------------------------------------ (what a
-    // feature is called, and what it is called once made legal)
+    // ---- Object names ----
 
-    // ---- Step membership
-    // ---------------------------------------------------------------------------------------
+    /// The name as it is stored. E_FAIL for an empty handle, with `name` untouched, or for a feature without a name,
+    /// with `name` empty.
+    static HRESULT GetObjectName(const ZFXISpecObject_var& feature, ZFXUnicodeString& name);
+    /// The name made legal: full stops become hyphens, and the result is judged as IsNameValid does with the leading
+    /// character. A bolt tightening ("SAMBoltTightening", "SAMVirtBoltTightening", "SAMVirtSpringBoltTigh") must also
+    /// differ from the other children of its father, by their stored names. Refuses with "ZFXIAliasERR_01" (no name,
+    /// `name` untouched); from here on `name` holds the legal form, also on failure: the text rules, "ParentERR_01" (no
+    /// father, or one that cannot be searched), "DuplicateZFXNameERR_01" (the comparison failed; its own error is
+    /// registered before). E_FAIL for an empty handle.
+    static HRESULT GetMorvelObjectName(ZFXISpecObject_var& feature, ZFXUnicodeString& name);
+
+    // ---- Step membership ----
 
     /// The name of the step that holds the object; empty when it lies in no step (a success). E_FAIL for an
     /// empty handle, with `stepName` untouched; the code of the failed request, or E_FAIL for a step without
     /// a name, with `stepName` empty.
     static HRESULT GetParentStepName(const ZFXISpecObject_var& object, ZFXUnicodeString& stepName);
 
-    // ---- Support and connection group names
-    // -------------------------------------------------------------------- (the group behind a support, and
-    // behind both sides of a connection)
+    // ---- Support and connection group names ----
 
-    // ---- Numbered names
-    // ----------------------------------------------------------------------------------------
+    /// The name of the group that the one connector of a support leads to, full stops replaced by hyphens. Empty, and
+    /// a success, when the feature is no support, has no connector or several, when the group has no name, or when
+    /// that holds a unit above U+00FF (whose test registers "DoubleByteCharErr_01"). E_FAIL, with an empty name, when
+    /// the connector leads to no group. No message of its own.
+    static HRESULT GetSupportGroupName(ZFXISpecObject_var& support, ZFXUnicodeString& groupName);
+    /// The same for a list that holds exactly one connector.
+    static HRESULT GetSupportGroupName(ZFXListValZFXBaseUnknown_var connectors, ZFXUnicodeString& groupName);
+    /// The same for both sides of a connection design, if each has exactly one connector; otherwise both names are
+    /// untouched. S_OK whatever was found; E_FAIL for an empty handle.
+    static HRESULT GetGrpNameofMasterAndSlave(QVRISamAnalysisConnectionDesign_var& design, ZFXUnicodeString& masterName,
+                                              ZFXUnicodeString& slaveName);
+
+    // ---- Numbered names ----
 
     /// `name` is a base, such as "Pressure-", on entry, and the base followed by the next number on return:
     /// one more than the highest in use, from 1, gaps not refilled. A number is in use when the name of an
@@ -100,22 +115,20 @@ public:
     /// QVRGenI18NUtils::ResetAllLists. E_FAIL for a feature without ZFXIAlias.
     static HRESULT GenerateUniqueName(const ZFXISpecObject& feature, ZFXUnicodeString& name);
 
-    // ---- Base names
-    // --------------------------------------------------------------------------------------------
+    // ---- Base names ----
 
     /// The English base name of the feature's late type, such as "Point Load-"; `baseName` is untouched when
     /// the type has none, which is a success. E_FAIL for an empty handle.
     static HRESULT CreateBaseName(ZFXISpecObject_var& feature, ZFXUnicodeString& baseName);
 
-    // ---- Uniqueness in a list and across cases
-    // -----------------------------------------------------------------
+    // ---- Uniqueness in a list and across cases ----
 
     /// S_OK when no element of the list but the feature itself has a name that clashes with `name`; an empty
     /// `name` stands for the feature's own. The first element that fails decides: refuses with
     /// "ZFXIAliasERR_01" for an element without a name (or for the feature, when its own name is asked for),
     /// with "DuplicateNameERR_02" and the return code -100 on the error for a clash.
-    static HRESULT IsNameUniqueInSet(const ZFXISpecObject_var& feature,
-                                     const ZFXListValZFXBaseUnknown_var& scope, const ZFXUnicodeString& name);
+    static HRESULT IsNameUniqueInSet(const ZFXISpecObject_var& feature, const ZFXListValZFXBaseUnknown_var& scope,
+                                     const ZFXUnicodeString& name);
     /// The test of a job's name against the first job container of every case of its analysis model, the
     /// father of the first set that holds the job. S_OK for a feature that lives in no sets by its nature;
     /// E_FAIL when no set holds it or when the model, a case or a container is not what it should be; the
@@ -123,16 +136,23 @@ public:
     /// IsNameUniqueInSet.
     static HRESULT IsNameUniqueAcrossCases(ZFXISpecObject_var& feature, const ZFXUnicodeString& name);
 
-    // ---- Job names
-    // --------------------------------------------------------------------------------------------- (the next
-    // free job name of a document, and whether one is taken)
+    // ---- Job names ----
 
-    // ---- Mesh part names
-    // --------------------------------------------------------------------------------------- (the next free
-    // name among the parts of a document's mesh)
+    /// "Job-" and the next number among all jobs of the current document, as GetNextUniqueName counts but without
+    /// regard to letter case. What `name` held is not read. Always S_OK; jobs that cannot be listed do not count.
+    static HRESULT GetUniqueNameForJob(ZFXUnicodeString& name);
+    /// Whether no job of the current document but `job` itself has a name that clashes. An empty name is compared as
+    /// it is: it clashes with a job without a name. Refuses with "DuplicateNameERR_03".
+    static HRESULT IsUniqueNameForJob(const ZFXISpecObject_var& job, const ZFXUnicodeString& name);
 
-    // ---- General entry points: the scope by kind of feature
-    // ----------------------------------------------------
+    // ---- Mesh part names ----
+
+    /// The base in `name` numbered over the members of the mesh manager of the part's document, as GetNextUniqueName
+    /// does; the part counts when it is among them. Refuses with "MeshPartUniqueNameERR" when there is no part, no
+    /// document, no mesh manager or no list of its members.
+    static HRESULT GetUniqueNameForMeshPart(ZFXISpecObject_var& meshPart, ZFXUnicodeString& name);
+
+    // ---- General entry points: the scope by kind of feature ----
 
     /// Whether a name is free in the scope that the feature's kind has: a step among the steps of its
     /// simulation history; a propagating feature among those of its kind in all steps of its case; any other
@@ -146,8 +166,7 @@ public:
     /// digit, asked only when `checkStartAndEnd` is nonzero; the illegal characters; last the units above
     /// U+00FF
     /// ("DoubleByteCharErr_01").
-    static HRESULT CheckName(ZFXISpecObject_var& feature, const ZFXUnicodeString& name,
-                             unsigned char checkStartAndEnd);
+    static HRESULT CheckName(ZFXISpecObject_var& feature, const ZFXUnicodeString& name, unsigned char checkStartAndEnd);
     /// Checks that the feature's current name is unique, whatever `fileName` is, then that `fileName` (the
     /// current name when it is empty) is legal as a file name. "ZFXIAliasERR_01" for a feature without a
     /// name.
@@ -170,20 +189,17 @@ private:
     static HRESULT GetObjectsInStep(ZFXISpecObject_var& step, ZFXListValZFXBaseUnknown_var& objects,
                                     const ZFXISpecObject_var& object);
 
-    // ---- Propagating objects
-    // -----------------------------------------------------------------------------------
+    // ---- Propagating objects ----
 
     /// Appends what GetObjectsInStep finds in each step of the case, without `object`; the code is that of
     /// the last step. Refuses with "ObjectParentERR_01" or "AnalysisCaseERR_03".
     static HRESULT GetAllPropagatingObjects(ZFXISamAnalysisCase_var& analysisCase,
-                                            ZFXListValZFXBaseUnknown_var& objects,
-                                            ZFXISpecObject_var& object);
+                                            ZFXListValZFXBaseUnknown_var& objects, ZFXISpecObject_var& object);
     static HRESULT GetUniqueNameForPropagatingObject(ZFXUnicodeString& name, ZFXISpecObject_var& object,
                                                      ZFXISamAnalysisCase_var& analysisCase);
     static HRESULT IsUniqueNameForPropagatingObject(ZFXISpecObject_var& object, const ZFXUnicodeString& name);
 
-    // ---- Step and property names within an analysis case
-    // -------------------------------------------------------
+    // ---- Step and property names within an analysis case ----
 
     /// Refuses with "AnalysisCaseERR_01", "AnalysisCaseERR_02" or "AnalysisCaseERR_03".
     static HRESULT GetUniqueNameForStep(ZFXUnicodeString& name, ZFXISamAnalysisCase_var& analysisCase);

@@ -14,9 +14,7 @@ ZFXMetaClass* AdaptorClass() {
 /// What Tie_Construct gave for the module's last adaptor, to be offered to the next.
 ZFXBaseUnknown* previousImplementation = nullptr;
 
-QVREFeatureAlias* ImplementationOf(const ZFXTie& tie) {
-    return static_cast<QVREFeatureAlias*>(Tie_StackCtx::Run(tie));
-}
+QVREFeatureAlias* ImplementationOf(const ZFXTie& tie) { return static_cast<QVREFeatureAlias*>(Tie_StackCtx::Run(tie)); }
 
 /// Made when the module is loaded: a feature of the late types answers ZFXIAlias from then on.
 const ZFXFillDictionary dictionaryEntry(QVREFeatureAlias::MetaObject(), ZFXIAlias::MetaObject(),
@@ -30,10 +28,9 @@ AliasAdaptor* AliasAdaptor::Make(ZFXBaseUnknown* object, void* context) {
         delete adaptor;
         return nullptr;
     }
-    previousImplementation =
-        Tie_Construct(adaptor, adaptor->m_tie, AdaptorClass(), QVREFeatureAlias::ClassId(),
-                      QVREFeatureAlias::MetaObject()->GetTypeOfClass(), previousImplementation,
-                      QVREFeatureAlias::CreateItself, object, context);
+    previousImplementation = Tie_Construct(adaptor, adaptor->m_tie, AdaptorClass(), QVREFeatureAlias::ClassId(),
+                                           QVREFeatureAlias::MetaObject()->GetTypeOfClass(), previousImplementation,
+                                           QVREFeatureAlias::CreateItself, object, context);
     if (adaptor->m_tie.implementation != nullptr)
         return adaptor;
     adaptor->Release();
@@ -54,13 +51,13 @@ HRESULT AliasAdaptor::GetTypeInfo(unsigned int index, unsigned long locale, void
     return Tie_GetTypeInfo(m_tie, index, locale, info);
 }
 
-HRESULT AliasAdaptor::GetIDsOfNames(const IID& iid, char16_t** names, unsigned int count,
-                                    unsigned long locale, long* ids) {
+HRESULT AliasAdaptor::GetIDsOfNames(const IID& iid, char16_t** names, unsigned int count, unsigned long locale,
+                                    long* ids) {
     return Tie_GetIDsOfNames(m_tie, iid, names, count, locale, ids);
 }
 
-HRESULT AliasAdaptor::Invoke(long id, const IID& iid, unsigned long locale, unsigned short flags,
-                             void* params, void* result, void* exception, unsigned int* argument) {
+HRESULT AliasAdaptor::Invoke(long id, const IID& iid, unsigned long locale, unsigned short flags, void* params,
+                             void* result, void* exception, unsigned int* argument) {
     return Tie_Invoke(m_tie, id, iid, locale, flags, params, result, exception, argument);
 }
 

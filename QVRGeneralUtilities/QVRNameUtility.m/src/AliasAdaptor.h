@@ -17,8 +17,8 @@ public:
     HRESULT GetTypeInfo(unsigned int index, unsigned long locale, void** info) override;
     HRESULT GetIDsOfNames(const IID& iid, char16_t** names, unsigned int count, unsigned long locale,
                           long* ids) override;
-    HRESULT Invoke(long id, const IID& iid, unsigned long locale, unsigned short flags, void* params,
-                   void* result, void* exception, unsigned int* argument) override;
+    HRESULT Invoke(long id, const IID& iid, unsigned long locale, unsigned short flags, void* params, void* result,
+                   void* exception, unsigned int* argument) override;
     using ZFXIAlias::QueryInterface;
     ~AliasAdaptor() override;
     ZFXMetaClass* GetMetaObject() const override;

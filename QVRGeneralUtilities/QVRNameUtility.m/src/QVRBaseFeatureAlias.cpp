@@ -18,9 +18,7 @@ public:
             m_key = TakeOver(m_access->GetAttrKey("Alias"));
     }
 
-    ZFXUnicodeString Read() const {
-        return m_key == nullptr ? ZFXUnicodeString() : m_access->GetString(m_key, 0);
-    }
+    ZFXUnicodeString Read() const { return m_key == nullptr ? ZFXUnicodeString() : m_access->GetString(m_key, 0); }
     void Write(const ZFXUnicodeString& value) const {
         if (m_key != nullptr)
             m_access->SetString(m_key, value, 0);
@@ -43,10 +41,8 @@ void QVRBaseFeatureAlias::SetAttribute(const ZFXUnicodeString& value) { AliasAtt
 void QVRBaseFeatureAlias::SetAlias(const ZFXUnicodeString& alias) {
     ZFXUnicodeString former = GetAlias();
     if (former.IsNull() != 0)
-        former =
-            GetAlias(); // a failed request reads as empty too, and what cannot be read cannot be put back
-    const ZFXUnicodeString candidate =
-        alias.Strip(ZFXUnicodeString::StripBoth).Strip(ZFXUnicodeString::StripBoth, '_');
+        former = GetAlias(); // a failed request reads as empty too, and what cannot be read cannot be put back
+    const ZFXUnicodeString candidate = alias.Strip(ZFXUnicodeString::StripBoth).Strip(ZFXUnicodeString::StripBoth, '_');
     ZFXISpecObject_var feature(this);
     if (feature == nullptr) {
         SetAttribute(former);
@@ -66,6 +62,5 @@ void QVRBaseFeatureAlias::SetAlias(const ZFXUnicodeString& alias) {
         std::cout << "NAME ERROR: " << error->GetNLSMessage().ConvertToChar() << std::endl;
     SetAttribute(former);
     if (GetAlias() != former)
-        SetAttribute(
-            former); // a refusal leaves the alias as it was, also when a request to put it back failed
+        SetAttribute(former); // a refusal leaves the alias as it was, also when a request to put it back failed
 }

@@ -2,8 +2,7 @@
 
 #include "internal/LegalLength.h"
 
-QVRGenZFXUnicodeStringUtils&
-QVRGenZFXUnicodeStringUtils::operator=(const QVRGenZFXUnicodeStringUtils&) = default;
+QVRGenZFXUnicodeStringUtils& QVRGenZFXUnicodeStringUtils::operator=(const QVRGenZFXUnicodeStringUtils&) = default;
 
 ZFXUnicodeString QVRGenZFXUnicodeStringUtils::RemoveSpaces(const ZFXUnicodeString& in) {
     return in.Strip(ZFXUnicodeString::StripEverywhere, ' ');
@@ -58,9 +57,8 @@ HRESULT QVRGenZFXUnicodeStringUtils::GetIntegerListFromString(ZFXUnicodeString& 
     int n = 0;
     for (;;) {
         const int length = text.GetLengthInChar();
-        const int at = separator.IsNull() != 0
-                           ? -1
-                           : text.SearchSubString(separator, 0, ZFXUnicodeString::SearchBackward);
+        const int at =
+            separator.IsNull() != 0 ? -1 : text.SearchSubString(separator, 0, ZFXUnicodeString::SearchBackward);
         const ZFXUnicodeString token = at == -1 ? text : text.SubString(at + 1, length - at - 1);
         if (token.ConvertToNum(&n, "%d") > 0)
             numbers.Append(n);

@@ -13,8 +13,7 @@ constexpr int kEnglishLocaleIds[] = {0x0409, 0x0809, 0x0C09, 0x1009, 0x1409, 0x1
                                      0x2009, 0x2409, 0x2809, 0x2C09, 0x3009, 0x3409};
 
 void Report(const char* which, unsigned char english) {
-    std::cout << "The initial " << which << " locale is " << (english != 0 ? "" : "NOT ") << "English."
-              << std::endl;
+    std::cout << "The initial " << which << " locale is " << (english != 0 ? "" : "NOT ") << "English." << std::endl;
 }
 
 } // namespace

@@ -27,8 +27,7 @@ constexpr int kMaxTagLength = 80;
 
 } // namespace
 
-HRESULT QVRNameUtil::DoesNameContainDoubleByteChar(const ZFXUnicodeString& name,
-                                                   ZFXUnicodeString& offending) {
+HRESULT QVRNameUtil::DoesNameContainDoubleByteChar(const ZFXUnicodeString& name, ZFXUnicodeString& offending) {
     return RefuseAbove(0xFF, name, offending);
 }
 

@@ -7,8 +7,8 @@
 #include "internal/Numbering.h"
 
 HRESULT QVRNameUtil::GetNextUniqueName(ZFXUnicodeString& name, const ZFXListValZFXBaseUnknown_var& scope) {
-    const int number = Numbering::NextNumber(
-        scope.Size(), [&](int i) { return Numbering::NumberAfter(name, NameOf(scope[i])); });
+    const int number =
+        Numbering::NextNumber(scope.Size(), [&](int i) { return Numbering::NumberAfter(name, NameOf(scope[i])); });
     name = Numbering::Numbered(name, number);
     return S_OK;
 }

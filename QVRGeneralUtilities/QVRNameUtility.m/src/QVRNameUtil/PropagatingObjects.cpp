@@ -7,8 +7,7 @@
 #include "internal/Refusal.h"
 
 HRESULT QVRNameUtil::GetAllPropagatingObjects(ZFXISamAnalysisCase_var& analysisCase,
-                                              ZFXListValZFXBaseUnknown_var& objects,
-                                              ZFXISpecObject_var& object) {
+                                              ZFXListValZFXBaseUnknown_var& objects, ZFXISpecObject_var& object) {
     const auto [outcome, history] = Navigation::SimulationHistoryOf(analysisCase);
     if (outcome == Navigation::HistoryOutcome::NotFound)
         return InputErrorReturn(MessageId::AnalysisCaseERR_03);
@@ -39,8 +38,7 @@ HRESULT QVRNameUtil::GetUniqueNameForPropagatingObject(ZFXUnicodeString& name, Z
     return Failed(code) ? code : GetNextUniqueName(name, scope);
 }
 
-HRESULT QVRNameUtil::IsUniqueNameForPropagatingObject(ZFXISpecObject_var& object,
-                                                      const ZFXUnicodeString& name) {
+HRESULT QVRNameUtil::IsUniqueNameForPropagatingObject(ZFXISpecObject_var& object, const ZFXUnicodeString& name) {
     ZFXISpecObject_var parent;
     HRESULT code = QVRAnalysisEntityUtils::GetParentCaseFromObject(object, parent);
     ZFXISamAnalysisCase_var analysisCase;

@@ -12,8 +12,7 @@ namespace {
 /// Whether a member only came into its step from an earlier one. An initial temperature never counts as such.
 bool IsPropagated(const ZFXISpecObject_var& member) {
     const QVRIPropagatingFeature_var propagating(member);
-    return propagating != nullptr &&
-           member->GetLateType().Compare(Vocabulary::QVRInitialTemperatureLT) != 2 &&
+    return propagating != nullptr && member->GetLateType().Compare(Vocabulary::QVRInitialTemperatureLT) != 2 &&
            propagating->IsPropagated() != 0;
 }
 

@@ -9,8 +9,7 @@
 #include "internal/Refusal.h"
 #include "internal/Vocabulary.h"
 
-HRESULT QVRNameUtil::IsNameUniqueInSet(const ZFXISpecObject_var& feature,
-                                       const ZFXListValZFXBaseUnknown_var& scope,
+HRESULT QVRNameUtil::IsNameUniqueInSet(const ZFXISpecObject_var& feature, const ZFXListValZFXBaseUnknown_var& scope,
                                        const ZFXUnicodeString& name) {
     const ZFXIAlias_var ownAlias(feature);
     if (ownAlias == nullptr && name.IsNull() != 0)
@@ -37,8 +36,7 @@ HRESULT QVRNameUtil::IsNameUniqueAcrossCases(ZFXISpecObject_var& feature, const 
     if (answer.outcome != HolderOutcome::Found)
         return answer.code;
     const ZFXISpecObject_var holder(answer.holder);
-    const ZFXISamAnalysisModel_var model(holder == nullptr ? ZFXBaseUnknown_var()
-                                                           : TakeOver(holder->GetFather()));
+    const ZFXISamAnalysisModel_var model(holder == nullptr ? ZFXBaseUnknown_var() : TakeOver(holder->GetFather()));
     if (model == nullptr)
         return E_FAIL;
     ZFXListValZFXBaseUnknown_var cases;

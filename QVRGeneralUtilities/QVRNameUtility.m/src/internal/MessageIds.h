@@ -11,8 +11,8 @@ enum class MessageId : std::uint8_t {
 
 constexpr const char* TextOf(MessageId id) noexcept {
     switch (id) {
-#define MESSAGE_ID(id)                                                                                       \
-    case MessageId::id:                                                                                      \
+#define MESSAGE_ID(id)                                                                                                 \
+    case MessageId::id:                                                                                                \
         return #id;
 #include "internal/MessageIds.def"
 #undef MESSAGE_ID

@@ -10,6 +10,4 @@ inline ZFXUnicodeString NameOf(const ZFXBaseUnknown_var& object) {
 }
 
 /// Whether two names cannot stand side by side: identical, or equal apart from letter case.
-inline bool NamesClash(const ZFXUnicodeString& a, const ZFXUnicodeString& b) noexcept {
-    return a.Compare(b) != 0;
-}
+inline bool NamesClash(const ZFXUnicodeString& a, const ZFXUnicodeString& b) noexcept { return a.Compare(b) != 0; }

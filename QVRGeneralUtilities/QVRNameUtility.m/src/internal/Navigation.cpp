@@ -22,14 +22,12 @@ HistoryAnswer SimulationHistoryOf(const ZFXISamAnalysisCase_var& analysisCase) {
 }
 
 ZFXBaseUnknown_var SimulationHistoryAbove(const ZFXISpecObject_var& step) {
-    const ZFXListValZFXISpecAttribute_var* attributes =
-        step->ListPointingAttributes("ZFXISpecObject", "", "");
+    const ZFXListValZFXISpecAttribute_var* attributes = step->ListPointingAttributes("ZFXISpecObject", "", "");
     if (attributes == nullptr)
         return {};
     for (int i = 1; i <= attributes->Size(); ++i) {
         const ZFXISpecAttribute_var& attribute = (*attributes)[i];
-        const ZFXISpecObject_var owner(attribute == nullptr ? ZFXBaseUnknown_var()
-                                                            : TakeOver(attribute->GetOwner()));
+        const ZFXISpecObject_var owner(attribute == nullptr ? ZFXBaseUnknown_var() : TakeOver(attribute->GetOwner()));
         if (owner != nullptr && owner->GetLateType() == Vocabulary::QVROruSimHistLT)
             return owner;
     }

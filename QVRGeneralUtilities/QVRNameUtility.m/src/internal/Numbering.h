@@ -25,8 +25,7 @@ int NextNumber(int count, NumberOf numberOf) {
         highest = std::max(highest, numberOf(i));
     if (highest < std::numeric_limits<int>::max())
         return highest + 1;
-    std::vector<bool> used(static_cast<std::size_t>(count) +
-                           2); // count elements leave one of count + 1 numbers free
+    std::vector<bool> used(static_cast<std::size_t>(count) + 2); // count elements leave one of count + 1 numbers free
     for (int i = 1; i <= count; ++i) {
         const int number = numberOf(i);
         if (number > 0 && number <= count)

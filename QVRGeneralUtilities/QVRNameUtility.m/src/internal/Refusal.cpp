@@ -18,8 +18,7 @@ HRESULT Raise(const char* id, const RefusalDetails& details, const char* sourceF
 
 } // namespace
 
-HRESULT InputErrorReturn(MessageId id, const RefusalDetails& details, const char* sourceFile,
-                         int sourceLine) {
+HRESULT InputErrorReturn(MessageId id, const RefusalDetails& details, const char* sourceFile, int sourceLine) {
     return Raise(TextOf(id), details, sourceFile, sourceLine);
 }
 

@@ -18,8 +18,7 @@ struct RefusalDetails {
 /// The one raise of a refusal: registers an input error of this id with the raising statement's place, and
 /// gives the code to hand back.
 [[nodiscard]] HRESULT InputErrorReturn(MessageId id, const RefusalDetails& details = {},
-                                       const char* sourceFile = __builtin_FILE(),
-                                       int sourceLine = __builtin_LINE());
+                                       const char* sourceFile = __builtin_FILE(), int sourceLine = __builtin_LINE());
 /// Under the id of another error, as a text of the caller's own: the registry may free that error meanwhile.
 [[nodiscard]] HRESULT InputErrorReturn(const std::string& id, const char* sourceFile = __builtin_FILE(),
                                        int sourceLine = __builtin_LINE());

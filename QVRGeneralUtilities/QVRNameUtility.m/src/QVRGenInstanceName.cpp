@@ -1,0 +1,106 @@
+#include "QVRGenInstanceName.h"
+
+#include "QVRGenI18NUtils.h"
+#include "QVRGenZFXUnicodeStringUtils.h"
+#include "QVRNameUtil.h"
+#include "analysis/ZFXIAlias.h"
+#include "analysis/ZFXISamExplicit.h"
+#include "internal/Numbering.h"
+
+namespace {
+
+using Utils = QVRGenZFXUnicodeStringUtils;
+
+constexpr const char* kOrphanMesh = "OrphanMesh-";
+constexpr const char* kTagMarker = "INSTANCE";
+
+/// The integer that the platform keeps for a mesh part.
+HRESULT ReadTag(const ZFXIMSHMeshPart_var& meshPart, int& tag) {
+    const ZFXISamExplicit_var explicitPart(meshPart);
+    ZFXAnalysisExplicitChild child;
+    if (explicitPart == nullptr || Failed(explicitPart->GetExplicitChild(child, 1)))
+        return E_FAIL;
+    return child.GetTag(tag);
+}
+
+/// What stands behind a prefix, a colon and a blank; the blank is taken to be there unless the colon leads.
+ZFXUnicodeString WithoutColonPrefix(const ZFXUnicodeString& display) {
+    const int colon = display.SearchSubString(":", 0, ZFXUnicodeString::SearchBackward);
+    const int behind = display.GetLengthInChar() - colon - 1;
+    ZFXUnicodeString base = colon >= 0 && behind >= 1 ? display.SubString(colon + 1, behind) : display;
+    if (colon > 0)
+        base.Remove(0, 1);
+    return base;
+}
+
+bool EndsBlank(const ZFXUnicodeString& text) {
+    const ZFXUnicodeChar last = text[text.Units().size() - 1]; // U+0000 for an empty text
+    return last.IsSpace() != 0 || last == '_';
+}
+
+ZFXUnicodeString WithoutBlankEnds(const ZFXUnicodeString& text) {
+    ZFXUnicodeString trimmed(text);
+    ZFXUnicodeString before;
+    do {
+        before = trimmed;
+        trimmed = Utils::RemoveTrailingUnderscores(Utils::RemoveTrailingSpaces(Utils::RemoveLeadingSpaces(before)));
+    } while (EndsBlank(trimmed) && trimmed != before); // a tab is blank but no space: it stays
+    return trimmed;
+}
+
+ZFXUnicodeString Clean(const ZFXUnicodeString& base) {
+    const ZFXUnicodeString trimmed = WithoutBlankEnds(Utils::RemoveLeadingUnderscores(Utils::RemoveDoubleQuotes(base)));
+    return Utils::ReplaceBackslashWithForwardslash(Utils::ReplacePeriodWithDash(trimmed));
+}
+
+ZFXUnicodeString DeckName(const char* word, int tag, const ZFXUnicodeString& base) {
+    ZFXUnicodeString name = Numbering::Numbered(word, tag);
+    if (base.IsNull() == 0)
+        name.Append("-").Append(base);
+    return Utils::TrucateToLegalLength(name);
+}
+
+} // namespace
+
+QVRGenInstanceName& QVRGenInstanceName::operator=(const QVRGenInstanceName&) = default;
+
+HRESULT QVRGenInstanceName::GetUniqueLegalInstanceName(const ZFXIMSHMeshPart_var& meshPart,
+                                                       ZFXUnicodeString& instanceName, ZFXUnicodeString& partName) {
+    int tag = 0;
+    const HRESULT tagged = ReadTag(meshPart, tag);
+    if (Failed(tagged))
+        return tagged;
+    const ZFXIAlias_var alias(meshPart);
+    if (alias == nullptr)
+        return E_FAIL;
+    const ZFXUnicodeString display = alias->GetAlias();
+    if (display.SearchSubString(kOrphanMesh, 0, ZFXUnicodeString::SearchForward) == 0) {
+        instanceName = partName = display.SubString(ZFXUnicodeString(kOrphanMesh).GetLengthInChar(), -1);
+        return S_OK;
+    }
+    ZFXUnicodeString base;
+    ZFXUnicodeString offending;
+    if (Failed(QVRNameUtil::DoesNameContainDoubleByteChar(display, offending))) {
+        const HRESULT code = QVRGenI18NUtils::Instance()->GetGenericEnglishName(ZFXISpecObject_var(meshPart), base);
+        if (Failed(code))
+            return code;
+    } else {
+        base = WithoutColonPrefix(display);
+    }
+    base = Clean(base);
+    instanceName = DeckName("Instance", tag, base);
+    partName = DeckName("Part", tag, base);
+    return S_OK;
+}
+
+HRESULT QVRGenInstanceName::GetUniqueLegalInstanceTag(int& tag, const ZFXUnicodeString& name) {
+    const int marker = name.SearchSubString(kTagMarker, 0, ZFXUnicodeString::SearchForward);
+    if (marker == -1) {
+        tag = -1;
+        return E_FAIL;
+    }
+    const ZFXUnicodeString rest = name.SubString(marker + ZFXUnicodeString(kTagMarker).GetLengthInChar(), -1);
+    const int dash = rest.SearchSubString("-", 0, ZFXUnicodeString::SearchForward);
+    rest.SubString(0, dash).ConvertToNum(&tag, "%d"); // without a dash, to the end
+    return S_OK;
+}
