@@ -15,7 +15,7 @@ std::string WithName(const LoadedDocument& loaded, std::uint32_t entry, const st
     });
     if (former)
         return bytes.replace(former.Begin(), former.Literal().size(), literal);
-    const std::string member = "\"" + std::string(SpellingOf(DocumentKey::Name)) + "\": " + literal;
+    const std::string member = nlohmann::json(SpellingOf(DocumentKey::Name)).dump() + ": " + literal;
     if (firstKey)
         return bytes.insert(firstKey.Begin(), member + ", ");
     return bytes.insert(object.Begin() + 1, member);

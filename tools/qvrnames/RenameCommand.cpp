@@ -68,9 +68,11 @@ void Print(const std::string& feature, const RenameRequest& request, const Outco
     std::ostream& out = console.out;
     out << outcome.printed << Printable(feature) << ": ";
     if (outcome.isRefused) {
-        out << "refused, the name stays " << Quoted(outcome.former) << '\n';
-        PrintTable(out, {{"  " + (outcome.verdict.messageId.empty() ? "-" : outcome.verdict.messageId),
-                          Printable(outcome.verdict.message)}});
+        const Verdict& why = outcome.verdict;
+        out << "refused" << (why.messageId.empty() ? "" : " (" + why.messageId + ")") << ", the name stays "
+            << Quoted(outcome.former) << '\n';
+        if (outcome.printed.empty())
+            out << "  " << Printable(why.message) << '\n';
         return;
     }
     out << Quoted(outcome.former) << " -> " << Quoted(outcome.now);

@@ -31,7 +31,9 @@ public:
         try {
             m_app.parse(argc, argv);
         } catch (const CLI::ParseError& error) {
-            return m_app.exit(error, m_console.out, m_console.err) == 0 ? kFine : kBadInput;
+            if (error.get_exit_code() == 0) // help and version come this way
+                return m_app.exit(error, m_console.out, m_console.err);
+            throw BadInput(error.what() + std::string("; see --help"));
         }
         return m_command();
     }
