@@ -1,0 +1,69 @@
+#include "QVRNameUtil.h"
+
+#include "support/DocumentTest.h"
+
+namespace {
+
+class GroupNamesTest : public DocumentTest {
+protected:
+    MemoryFeature Connector(const char* groupAlias) {
+        MemoryFeature group = document.Model().Add(MemoryKind::Group, "SAMGroup", groupAlias);
+        return document.Model().Add(MemoryKind::Connector, "SAMConnector", "c").LeadTo(group);
+    }
+    std::string Of(std::initializer_list<MemoryFeature> connectors) {
+        MemoryFeature support = document.Model().Add(MemoryKind::Support, "SAMSupport", "s");
+        for (const MemoryFeature& connector : connectors)
+            support.Connect(connector);
+        ZFXISpecObject_var handle(support);
+        ZFXUnicodeString bySupport("before");
+        ZFXUnicodeString byList("before");
+        const HRESULT code = QVRNameUtil::GetSupportGroupName(handle, bySupport);
+        EXPECT_EQ(QVRNameUtil::GetSupportGroupName(ListOf(connectors), byList), code);
+        EXPECT_EQ(bySupport, byList);
+        return Said(code) + "|" + Text(bySupport);
+    }
+};
+
+TEST_F(GroupNamesTest, OneConnectorNamesTheGroup) {
+    MemoryFeature bolt = Connector("Bolt.Top");
+    MemoryFeature loose = document.Model().Add(MemoryKind::Connector, "SAMConnector", "c");
+    EXPECT_EQ(Of({bolt}), "S_OK|Bolt-Top");
+    EXPECT_EQ(Of({}), "S_OK|");
+    EXPECT_EQ(Of({bolt, bolt}), "S_OK|");
+    EXPECT_EQ(Of({Connector("上")}), "S_OK|");
+    EXPECT_EQ(Of({Connector("Träger")}), "S_OK|Träger");
+    EXPECT_EQ(Of({Connector("")}), "S_OK|");
+    EXPECT_EQ(Of({document.Model()}), "S_OK|"); // no connector
+    EXPECT_EQ(Of({loose}), "E_FAIL|");
+    EXPECT_EQ(Of({loose.LeadTo(document.Model())}), "E_FAIL|"); // no group
+    loose.LeadTo(document.Model().Add(MemoryKind::Group, "SAMGroup", "x").Without(IID_ZFXIAlias));
+    EXPECT_EQ(Of({loose}), "S_OK|");
+    bolt.Answer(MemoryRequest::GetGroup, kFailsFilled); // the group counts, not the code
+    EXPECT_EQ(Of({bolt}), "S_OK|Bolt-Top");
+    ZFXISpecObject_var noSupport(document.Model());
+    ZFXUnicodeString name("before");
+    EXPECT_EQ(QVRNameUtil::GetSupportGroupName(noSupport, name), S_OK);
+    EXPECT_EQ(Text(name), "");
+}
+
+TEST_F(GroupNamesTest, BothSidesOfADesignNeedOneConnectorEach) {
+    MemoryFeature model_ = document.Model();
+    const auto of = [](MemoryFeature design) {
+        QVRISamAnalysisConnectionDesign_var handle(design);
+        ZFXUnicodeString master("m");
+        ZFXUnicodeString slave("s");
+        const HRESULT code = QVRNameUtil::GetGrpNameofMasterAndSlave(handle, master, slave);
+        return Said(code) + "|" + Text(master) + "|" + Text(slave);
+    };
+    MemoryFeature design = model_.Add(MemoryKind::ConnectionDesign, "SAMFaceFaceContact", "d");
+    EXPECT_EQ(of(design), "S_OK|m|s");
+    design.Master(Connector("A.1")).Slave(model_.Add(MemoryKind::Connector, "SAMConnector", "c"));
+    EXPECT_EQ(of(design), "S_OK|A-1|"); // the side that failed is emptied, the design succeeds
+    design.Answer(MemoryRequest::GetMasterAndSlaveConnectors, kFailsFilled);
+    EXPECT_EQ(of(design), "S_OK|A-1|");
+    design.Slave(Connector("B"));
+    EXPECT_EQ(of(design), "S_OK|m|s");
+    EXPECT_EQ(of({}), "E_FAIL|m|s");
+}
+
+} // namespace

@@ -1,0 +1,88 @@
+#include "QVRGenInstanceName.h"
+
+#include "support/DocumentTest.h"
+
+namespace {
+
+class InstanceNameTest : public DocumentTest {
+protected:
+    static std::string Name(MemoryFeature part) {
+        ZFXUnicodeString instance("i");
+        ZFXUnicodeString name("p");
+        const HRESULT code = QVRGenInstanceName::GetUniqueLegalInstanceName(ZFXIMSHMeshPart_var(part), instance, name);
+        return (code == S_OK ? "" : Said(code) + "|") + Text(instance) + "|" + Text(name);
+    }
+};
+
+TEST_F(InstanceNameTest, DisplayNamesAreCleaned) {
+    struct Row {
+        const char* display;
+        const char* base; // behind the word, the tag and the dash
+    };
+    const Row rows[] = {
+        {"Bracket.1", "Bracket-1"},
+        {"Root: Bracket", "Bracket"},
+        {":Bracket", "Bracket"},
+        {"a:b:Bracket", "racket"},
+        {"Root:", "oot:"},
+        {":", ":"},
+        {"a:b", ""},
+        {"__Bracket_ _", "Bracket"},
+        {" _Bracket ", "_Bracket"},
+        {"\"B\\C\"", "B/C"},
+        {"_ _", ""},
+        {"   ", ""},
+        {"\t", "\t"},
+        {"a\t_ ", "a\t"},
+        {"a(b)#", "a(b)#"},
+        {"orphanMesh-x", "orphanMesh-x"},
+        {"\"_x\"", "x"},
+        {"Träger", "Träger"},
+    };
+    for (const Row& row : rows) {
+        const std::string tail = *row.base == '\0' ? "" : std::string("-") + row.base;
+        EXPECT_EQ(Name(document.MeshPart(row.display, 5)), "Instance5" + tail + "|Part5" + tail) << row.display;
+    }
+    EXPECT_EQ(Name(document.MeshPart("OrphanMesh-Bracket. 1", 5)), "Bracket. 1|Bracket. 1");
+    EXPECT_EQ(Name(document.MeshPart("OrphanMesh-", -1)), "|");
+    EXPECT_EQ(Name(document.MeshPart(Repeated('x', 80), -12)),
+              "Instance-12-" + std::string(60, 'x') + "|Part-12-" + std::string(64, 'x'));
+}
+
+TEST_F(InstanceNameTest, FailuresLeaveTheNames) {
+    EXPECT_EQ(Name({}), "E_FAIL|i|p");
+    document.MeshPart("x", 1);
+    MemoryFeature part = document.MeshPart("部品", 2);
+    EXPECT_EQ(Name(part), "Instance2-MSHPartOctree3D-2|Part2-MSHPartOctree3D-2");
+    EXPECT_EQ(Name(part.Father({})), "GetGenericEnglishNameERR_01|i|p");
+    part.Alias("x").Answer(MemoryRequest::GetTag, kFails);
+    EXPECT_EQ(Name(part), std::to_string(kCode) + "|i|p");
+    part.Answer(MemoryRequest::GetExplicitChild, kFails);
+    EXPECT_EQ(Name(part), "E_FAIL|i|p");
+    model.Heal();
+    EXPECT_EQ(Name(document.MeshPart("x", 3).Without(IID_ZFXIAlias)), "E_FAIL|i|p");
+    EXPECT_EQ(Name(part.Without(IID_ZFXISamExplicit)), "E_FAIL|i|p");
+}
+
+TEST_F(InstanceNameTest, TagsAreReadBack) {
+    struct Row {
+        const char* name;
+        int tag; // 77: as the caller passed it
+        HRESULT code;
+    };
+    const Row rows[] = {
+        {"INSTANCE3-BRACKET-1", 3, S_OK}, {"xINSTANCE12-X-9", 12, S_OK},
+        {"INSTANCE12", 12, S_OK},         {"INSTANCEabc-1", 77, S_OK},
+        {"INSTANCE-5", 77, S_OK},         {"INSTANCE99999999999-1", 77, S_OK},
+        {"INSTANCE", 77, S_OK},           {"Instance3-Bracket", -1, E_FAIL},
+        {"PART3-B", -1, E_FAIL},          {"", -1, E_FAIL},
+        {"INSTANCE7INSTANCE8", 7, S_OK},
+    };
+    for (const Row& row : rows) {
+        int tag = 77;
+        EXPECT_EQ(QVRGenInstanceName::GetUniqueLegalInstanceTag(tag, row.name), row.code) << row.name;
+        EXPECT_EQ(tag, row.tag) << row.name;
+    }
+}
+
+} // namespace

@@ -1,0 +1,80 @@
+#include "QVRNameUtil.h"
+
+#include "support/DocumentTest.h"
+
+namespace {
+
+class JobNamesTest : public DocumentTest {
+protected:
+    static std::string Propose() {
+        ZFXUnicodeString name("not read");
+        EXPECT_EQ(QVRNameUtil::GetUniqueNameForJob(name), S_OK);
+        return Text(name);
+    }
+};
+
+TEST_F(JobNamesTest, JobsAreNumberedOverAllCasesWhateverTheirLetters) {
+    EXPECT_EQ(Propose(), "Job-1");
+    MemoryFeature first = document.Case("First");
+    MemoryFeature second = document.Case("Second");
+    for (const char* name : {"Job-", "Job-x", "MyJob-7", ""})
+        first.Job(name);
+    EXPECT_EQ(Propose(), "Job-1");
+    MemoryFeature job = first.Job("job-4");
+    second.Job("JOB-2");
+    second.Job("Job-1-copy");
+    EXPECT_EQ(Propose(), "Job-5");
+    second.Job("JOB-9").Without(IID_ZFXIAlias);
+    EXPECT_EQ(Propose(), "Job-5");
+    second.Job("jOB-2147483647");
+    EXPECT_EQ(Propose(), "Job-3");
+    model.AnswerAlways(MemoryRequest::GetJobs, kFailsFilled);
+    EXPECT_EQ(Propose(), "Job-3");
+    model.AnswerAlways(MemoryRequest::GetAllAnalysisCases, kFails);
+    EXPECT_EQ(Propose(), "Job-1");
+    model.Heal();
+
+    const ZFXISpecObject_var self(job);
+    const char* const duplicate = "DuplicateNameERR_03";
+    EXPECT_EQ(Said(QVRNameUtil::IsUniqueNameForJob(self, "JOB-4")), "S_OK");
+    EXPECT_EQ(Said(QVRNameUtil::IsUniqueNameForJob(self, "job-2")), duplicate);
+    EXPECT_EQ(Said(QVRNameUtil::IsUniqueNameForJob({}, "job-4")), duplicate);
+    EXPECT_EQ(Said(QVRNameUtil::IsUniqueNameForJob(self, "")), duplicate); // as it is: one job has no name
+    MemoryDocument other = model.NewDocument();
+    model.MakeCurrent(other);
+    EXPECT_EQ(Said(QVRNameUtil::IsUniqueNameForJob(self, "job-2")), "S_OK"); // the current document only
+    EXPECT_EQ(Propose(), "Job-1");
+}
+
+TEST_F(JobNamesTest, MeshPartsAreNumberedOverTheMeshManager) {
+    MemoryFeature part = document.MeshPart("Mesh-1", 1);
+    MemoryFeature seven = document.MeshPart("Mesh-7", 2);
+    const auto propose = [](MemoryFeature feature) {
+        ZFXISpecObject_var handle(feature);
+        ZFXUnicodeString name("Mesh-");
+        const HRESULT code = QVRNameUtil::GetUniqueNameForMeshPart(handle, name);
+        return Said(code) + "|" + Text(name);
+    };
+    EXPECT_EQ(propose(part), "S_OK|Mesh-8");
+    EXPECT_EQ(propose(seven), "S_OK|Mesh-8"); // counts itself
+    const char* const refused = "MeshPartUniqueNameERR|Mesh-";
+    EXPECT_EQ(propose({}), refused);
+    for (const MemoryRequest request :
+         {MemoryRequest::GetOwningDocument, MemoryRequest::GetMeshManager, MemoryRequest::ListMembers}) {
+        for (const MemoryAnswer& answer : {kFails, kFailsFilled}) {
+            if (request == MemoryRequest::GetOwningDocument && answer.filled)
+                continue; // has no code
+            model.AnswerAlways(request, answer);
+            EXPECT_EQ(propose(part), refused);
+            model.Heal();
+        }
+    }
+    model.AnswerAlways(MemoryRequest::GetMeshManager, kEmpty);
+    EXPECT_EQ(propose(part), refused);
+    model.Heal();
+    document.MeshManager().Without(IID_ZFXISamAnalysisSet);
+    EXPECT_EQ(propose(part), refused);
+    EXPECT_EQ(propose(part.Without(IID_ZFXILinkableObject)), refused);
+}
+
+} // namespace
