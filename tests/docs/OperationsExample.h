@@ -1,0 +1,18 @@
+#pragma once
+
+// What the examples of docs/operations.md stand on. Their "assert" is a check of the test.
+
+#include "QVREFeatureAlias.h"
+#include "QVRGenI18NUtils.h"
+#include "QVRGenInstanceName.h"
+#include "QVRGenZFXUnicodeStringUtils.h"
+#include "QVRNameUtil.h"
+#include "QVRNameUtility.h"
+#include "locale/ZFXLocale.h"
+#include "memory-model/MemoryModel.h"
+#include "support/Said.h"
+
+#include <gtest/gtest.h>
+
+#undef assert
+#define assert(condition) EXPECT_TRUE(condition)
