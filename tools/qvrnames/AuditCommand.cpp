@@ -56,8 +56,8 @@ void PrintFindings(const LoadedDocument& loaded, const std::vector<Finding>& fin
     out << checked << " features checked, " << findings.size() << " refusals\n";
 }
 
-void PrintFindingsAsJson(const LoadedDocument& loaded, const std::vector<Finding>& findings,
-                         std::size_t checked, std::ostream& out) {
+void PrintFindingsAsJson(const LoadedDocument& loaded, const std::vector<Finding>& findings, std::size_t checked,
+                         std::ostream& out) {
     nlohmann::ordered_json refusals = nlohmann::ordered_json::array();
     for (const Finding& finding : findings) {
         const MemoryFeature feature = loaded.entries[finding.entry].feature;

@@ -13,8 +13,7 @@ std::unique_ptr<LoadedDocument> OpenDocument(const std::string& file) {
     }
 }
 
-std::uint32_t FindNamedFeature(const LoadedDocument& loaded, const std::string& file,
-                               const std::string& words) {
+std::uint32_t FindNamedFeature(const LoadedDocument& loaded, const std::string& file, const std::string& words) {
     try {
         const std::uint32_t entry = FindFeature(loaded, words);
         if (entry == 0)

@@ -36,8 +36,7 @@ private:
             object.Refuse("expected the key \"type\", the late type of the object");
         const std::string lateType = type ? ReadWord(type) : place.defaultType;
         const JsonValue name = fields[DocumentKey::Name];
-        const MemoryFeature made =
-            Make(place, parent, lateType.c_str(), name ? ReadText(name) : ZFXUnicodeString());
+        const MemoryFeature made = Make(place, parent, lateType.c_str(), name ? ReadText(name) : ZFXUnicodeString());
         const auto entry = static_cast<std::uint32_t>(m_loaded.entries.size());
         m_loaded.entries.push_back({made, Place(object), parent, index, place.key, static_cast<bool>(name)});
         Describe(entry, fields);
@@ -46,8 +45,7 @@ private:
         ReadChildren(entry, place.kind, fields);
     }
 
-    MemoryFeature Make(const ChildKey& place, std::uint32_t parent, const char* type,
-                       const ZFXUnicodeString& name) {
+    MemoryFeature Make(const ChildKey& place, std::uint32_t parent, const char* type, const ZFXUnicodeString& name) {
         MemoryFeature above = m_loaded.entries[parent].feature;
         if (place.key == DocumentKey::MeshManager)
             return m_loaded.document.MeshManager().Alias(name);

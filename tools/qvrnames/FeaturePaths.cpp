@@ -40,8 +40,7 @@ Entries Nearest(const LoadedDocument& loaded, const std::string& words) {
         if (distance < limit)
             near.emplace_back(distance, entry);
     }
-    std::stable_sort(near.begin(), near.end(),
-                     [](const auto& a, const auto& b) { return a.first < b.first; });
+    std::stable_sort(near.begin(), near.end(), [](const auto& a, const auto& b) { return a.first < b.first; });
     Entries nearest;
     for (const auto& [distance, entry] : near)
         nearest.push_back(entry);
@@ -110,8 +109,8 @@ std::uint32_t FindFeature(const LoadedDocument& loaded, const std::string& words
     if (words.starts_with('/')) {
         if (const auto found = FindByPointer(loaded, words))
             return *found;
-        throw BadInput("the JSON pointer \"" + words + "\" leads to no object of the document; there are:" +
-                       Candidates(loaded, NamedEntries(loaded)));
+        throw BadInput("the JSON pointer \"" + words +
+                       "\" leads to no object of the document; there are:" + Candidates(loaded, NamedEntries(loaded)));
     }
     const Entries found = FindByPath(loaded, words);
     if (found.size() == 1)

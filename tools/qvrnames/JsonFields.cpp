@@ -58,8 +58,7 @@ int ReadInt(JsonValue value) {
     int number = 0;
     const auto [end, error] = std::from_chars(digits.data(), digits.data() + digits.size(), number);
     if (error != std::errc() || end != digits.data() + digits.size())
-        value.Refuse("expected a whole number from " + std::to_string(std::numeric_limits<int>::min()) +
-                     " to " + std::to_string(std::numeric_limits<int>::max()) + ", found " +
-                     std::string(digits.substr(0, 40)));
+        value.Refuse("expected a whole number from " + std::to_string(std::numeric_limits<int>::min()) + " to " +
+                     std::to_string(std::numeric_limits<int>::max()) + ", found " + std::string(digits.substr(0, 40)));
     return number;
 }

@@ -22,8 +22,7 @@ public:
     bool start_array(std::size_t) override { return Deeper(); }
     bool end_object() override { return Shallower(); }
     bool end_array() override { return Shallower(); }
-    bool parse_error(std::size_t position, const std::string&,
-                     const nlohmann::detail::exception& error) override {
+    bool parse_error(std::size_t position, const std::string&, const nlohmann::detail::exception& error) override {
         place = position == 0 ? 0 : position - 1;
         message = WithoutItsPlace(error.what());
         return false;
@@ -63,7 +62,7 @@ void JsonText::RefuseUnlessJson() const {
     if (nlohmann::json::sax_parse(m_bytes, &check))
         return;
     if (check.message.empty())
-        throw BadInput(LineAndColumn(PlaceTooDeep()) + ": nested more deeply than " +
-                       std::to_string(kDeepest) + " levels");
+        throw BadInput(LineAndColumn(PlaceTooDeep()) + ": nested more deeply than " + std::to_string(kDeepest) +
+                       " levels");
     throw BadInput(LineAndColumn(check.place) + ": " + check.message);
 }

@@ -113,8 +113,7 @@ std::string JsonText::PointerTo(std::size_t place) const {
             pointer += '/' + token;
         };
         inside.ForEachMember([&](JsonValue key, JsonValue value) { step(value, Escaped(key.Text())); });
-        inside.ForEachElement(
-            [&](std::size_t index, JsonValue value) { step(value, std::to_string(index)); });
+        inside.ForEachElement([&](std::size_t index, JsonValue value) { step(value, std::to_string(index)); });
         inside = next && next.Begin() != place ? next : JsonValue();
     }
     return pointer;
@@ -127,8 +126,7 @@ std::string JsonText::LineAndColumn(std::size_t place) const {
     if (line.starts_with(kByteOrderMark))
         line.remove_prefix(kByteOrderMark.size());
     const auto characters = std::count_if(line.begin(), line.end(), [](char c) {
-        return (static_cast<unsigned char>(c) & 0xC0U) !=
-               0x80U; // what goes on with a character has 10 in front
+        return (static_cast<unsigned char>(c) & 0xC0U) != 0x80U; // what goes on with a character has 10 in front
     });
     return "line " + std::to_string(lines + 1) + ", column " + std::to_string(characters + 1);
 }

@@ -16,9 +16,8 @@ struct Range {
     char32_t last;
 };
 /// The blocks whose characters take two cells of a terminal.
-constexpr Range kWide[] = {{0x1100, 0x115F}, {0x2E80, 0xA4CF},   {0xAC00, 0xD7A3},
-                           {0xF900, 0xFAFF}, {0xFE30, 0xFE6F},   {0xFF00, 0xFF60},
-                           {0xFFE0, 0xFFE6}, {0x1F300, 0x1FAFF}, {0x20000, 0x3FFFD}};
+constexpr Range kWide[] = {{0x1100, 0x115F}, {0x2E80, 0xA4CF}, {0xAC00, 0xD7A3},   {0xF900, 0xFAFF},  {0xFE30, 0xFE6F},
+                           {0xFF00, 0xFF60}, {0xFFE0, 0xFFE6}, {0x1F300, 0x1FAFF}, {0x20000, 0x3FFFD}};
 
 std::size_t BytesOf(unsigned char lead) { return lead < 0x80 ? 1 : lead < 0xE0 ? 2 : lead < 0xF0 ? 3 : 4; }
 
@@ -38,9 +37,8 @@ std::size_t CellsOf(std::string_view text) {
         const auto [code, bytes] = FirstCharacter(text);
         text.remove_prefix(bytes);
         const bool isMark = code >= 0x300 && code <= 0x36F;
-        const bool isWide = std::any_of(std::begin(kWide), std::end(kWide), [c = code](const Range& range) {
-            return c >= range.first && c <= range.last;
-        });
+        const bool isWide = std::any_of(std::begin(kWide), std::end(kWide),
+                                        [c = code](const Range& range) { return c >= range.first && c <= range.last; });
         cells += isMark ? 0 : isWide ? 2 : 1;
     }
     return cells;

@@ -48,8 +48,7 @@ int ProposeName(const ProposeRequest& request, Console console) {
         nlohmann::ordered_json said{{"feature", TellingOf(*loaded, entry)},
                                     {"type", loaded->entries[entry].feature.LateType().ConvertToChar()},
                                     {"base", base.ConvertToChar()}};
-        said["proposal"] =
-            isProposed ? nlohmann::ordered_json(name.ConvertToChar()) : nlohmann::ordered_json();
+        said["proposal"] = isProposed ? nlohmann::ordered_json(name.ConvertToChar()) : nlohmann::ordered_json();
         PrintJson(console.out, said);
     } else if (isProposed) {
         PrintTable(console.out, {{"base name", Printable(base.ConvertToChar())},

@@ -36,6 +36,19 @@ struct Outcome {
     Verdict verdict; ///< on the name that was asked for
 };
 
+/// What a guard says to this name: it judges with the name stored, for which an empty one stands.
+Verdict JudgeAsStored(const ZFXISpecObject_var& feature, const ZFXUnicodeString& name) {
+    const ZFXISpecAttrAccess_var attributes(feature);
+    if (attributes == nullptr)
+        return JudgeName(feature, name);
+    const auto key = ZFXISpecAttrKey_var::TakeOver(attributes->GetAttrKey("Alias"));
+    const ZFXUnicodeString former = attributes->GetString(key, 0);
+    attributes->SetString(key, name, 0);
+    Verdict verdict = JudgeName(feature, name);
+    attributes->SetString(key, former, 0);
+    return verdict;
+}
+
 /// Asks the feature for the change as a workbench does. It answers nothing, so the name is read again: it is
 /// the former one although another was asked for, or a refusal was printed, when the change was refused.
 Outcome SetName(const ZFXISpecObject_var& feature, const ZFXUnicodeString& name) {
@@ -55,7 +68,7 @@ Outcome SetName(const ZFXISpecObject_var& feature, const ZFXUnicodeString& name)
     }
     const ZFXUnicodeString now = alias->GetAlias();
     outcome.isRefused = now == former && (!outcome.printed.empty() || (former != trimmed && former != name));
-    outcome.verdict = JudgeName(feature, outcome.isRefused ? trimmed : now);
+    outcome.verdict = JudgeAsStored(feature, outcome.isRefused ? trimmed : now);
     outcome.former = former.ConvertToChar();
     outcome.now = now.ConvertToChar();
     return outcome;
@@ -63,8 +76,7 @@ Outcome SetName(const ZFXISpecObject_var& feature, const ZFXUnicodeString& name)
 
 std::string Quoted(const std::string& name) { return "\"" + Printable(name) + "\""; }
 
-void Print(const std::string& feature, const RenameRequest& request, const Outcome& outcome,
-           Console console) {
+void Print(const std::string& feature, const RenameRequest& request, const Outcome& outcome, Console console) {
     std::ostream& out = console.out;
     out << outcome.printed << Printable(feature) << ": ";
     if (outcome.isRefused) {
@@ -82,8 +94,7 @@ void Print(const std::string& feature, const RenameRequest& request, const Outco
             << outcome.verdict.messageId << "  " << Printable(outcome.verdict.message) << '\n';
 }
 
-void PrintAsJson(const std::string& feature, const RenameRequest& request, const Outcome& outcome,
-                 Console console) {
+void PrintAsJson(const std::string& feature, const RenameRequest& request, const Outcome& outcome, Console console) {
     nlohmann::ordered_json said{{"feature", feature},
                                 {"renamed", !outcome.isRefused},
                                 {"former", outcome.former},

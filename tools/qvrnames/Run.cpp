@@ -15,12 +15,11 @@ public:
     CommandLine(std::ostream& out, std::ostream& err) : m_console{out, err} {
         m_app.set_version_flag("--version", "qvrnames " QVRNAMES_VERSION);
         m_app.require_subcommand(1);
-        m_app.footer(
-            "FEATURE is the id of a feature, its JSON pointer in the file (which begins with \"/\"), or\n"
-            "its path of names, such as Static/Step-1/Pressure-1, of which the last part is enough\n"
-            "when only one feature ends so.\n\n"
-            "The program ends with 0 when all is well, 1 when a name is refused, 2 for bad input.\n\n"
-            "Example: qvrnames audit pump.json");
+        m_app.footer("FEATURE is the id of a feature, its JSON pointer in the file (which begins with \"/\"), or\n"
+                     "its path of names, such as Static/Step-1/Pressure-1, of which the last part is enough\n"
+                     "when only one feature ends so.\n\n"
+                     "The program ends with 0 when all is well, 1 when a name is refused, 2 for bad input.\n\n"
+                     "Example: qvrnames audit pump.json");
         AddCheck();
         AddAudit();
         AddPropose();
@@ -39,8 +38,7 @@ public:
     }
 
 private:
-    CLI::App* Add(const char* name, const char* description, const char* example,
-                  std::function<int()> command) {
+    CLI::App* Add(const char* name, const char* description, const char* example, std::function<int()> command) {
         CLI::App* added = m_app.add_subcommand(name, description);
         added->add_flag("--json", m_console.isJson, "Tell the result as one JSON value");
         added->footer(std::string("Example: qvrnames ") + example);
@@ -49,16 +47,14 @@ private:
     }
 
     void AddCheck() {
-        CLI::App* app =
-            Add("check", "Is a text legal as the name of a feature, or of a file?",
-                "check Step-1 \"Static Step.2\"", [this] { return CheckNames(m_check, m_console); });
+        CLI::App* app = Add("check", "Is a text legal as the name of a feature, or of a file?",
+                            "check Step-1 \"Static Step.2\"", [this] { return CheckNames(m_check, m_console); });
         app->add_option("NAME", m_check.names, "The names to check")->required()->expected(1, -1);
         app->add_flag("--file-name", m_check.areFileNames, "Check them as names of files");
     }
     void AddAudit() {
-        CLI::App* app =
-            Add("audit", "Check the name of every feature of a document.", "audit pump.json --json",
-                [this] { return AuditDocument(m_rename.document, m_console); });
+        CLI::App* app = Add("audit", "Check the name of every feature of a document.", "audit pump.json --json",
+                            [this] { return AuditDocument(m_rename.document, m_console); });
         AddDocument(app, m_rename.document);
     }
     void AddPropose() {

@@ -73,8 +73,7 @@ public:
     void TakeThePlace() {
         Check(std::rename(m_path.c_str(), m_target.c_str()));
         m_isInPlace = true;
-        const OpenFile folder(
-            open(std::filesystem::path(m_path).parent_path().c_str(), O_RDONLY | O_CLOEXEC));
+        const OpenFile folder(open(std::filesystem::path(m_path).parent_path().c_str(), O_RDONLY | O_CLOEXEC));
         fsync(folder); // the new name on the disk too; the file is whole either way
     }
 
@@ -105,8 +104,7 @@ std::string ReadWholeFile(const std::string& path) {
     std::size_t length = 0;
     for (;;) {
         // One byte more than a regular file has, so that the second read tells its end.
-        const std::size_t room =
-            length == 0 ? static_cast<std::size_t>(status.st_size) + 1 : std::size_t{1} << 20;
+        const std::size_t room = length == 0 ? static_cast<std::size_t>(status.st_size) + 1 : std::size_t{1} << 20;
         bytes.resize(length + room);
         const ssize_t got = read(file, bytes.data() + length, room);
         if (got < 0 && errno == EINTR)

@@ -1,0 +1,162 @@
+#include "Workshop.h"
+
+#include <gtest/gtest.h>
+#include <nlohmann/json.hpp>
+
+#include <set>
+
+namespace {
+
+TEST(Commands, EndWithTwoAndOneLineForWhatCannotBeUsed) {
+    const Workshop shop;
+    const std::string empty = shop.Write("empty.json", "");
+    const std::string large = shop.Write("large.json", "");
+    std::filesystem::resize_file(large, (std::uintmax_t{256} << 20) + 1);
+    const std::string step = Example("rename-a-step.json");
+    const std::string load = Example("propose-a-pressure.json");
+    const struct {
+        std::vector<std::string> arguments;
+        std::string expected;
+    } rows[] = {
+        {{}, "A subcommand is required"},
+        {{"audit"}, "DOCUMENT is required"},
+        {{"audit", step, "more"}, "not expected: more"},
+        {{"check"}, "NAME"},
+        {{"check", "\xFF"}, "an argument is no UTF-8 text"},
+        {{"audit", "/no/such.json"}, "/no/such.json: cannot be read: No such file or directory"},
+        {{"audit", "/tmp"}, "/tmp: cannot be read: Is a directory"},
+        {{"audit", "/proc/self/mem"}, "/proc/self/mem: cannot be read: Input/output error"},
+        {{"audit", empty}, empty + ": the file is empty"},
+        {{"audit", large}, large + ": larger than 256 MB"},
+        {{"propose", load, "Step-1"}, "late type \"QVRGeneralStaticStepLT\", which has no base name"},
+        {{"rename", step, "Step-9", "x"}, step + ": no feature has the id, the path"},
+        {{"rename", step, "step", "x", "--output", "/no/such/folder/x"}, "/no/such/folder/x: cannot be written"},
+        {{"rename", step, "step", "x", "--output", "/tmp"}, "/tmp: cannot be written: it is no regular file"},
+    };
+    for (const auto& row : rows) {
+        const Told told = RunWith(row.arguments);
+        EXPECT_EQ(told.code, 2) << row.expected;
+        EXPECT_EQ(told.out, "");
+        EXPECT_EQ(told.err.find("qvrnames: "), 0U) << told.err;
+        EXPECT_NE(told.err.find(row.expected), std::string::npos) << told.err;
+    }
+}
+
+TEST(Commands, HelpWithAnExample) {
+    for (const char* command : {"check", "audit", "propose", "rename"}) {
+        const Told told = RunWith({command, "--help"});
+        EXPECT_EQ(told.code, 0);
+        EXPECT_NE(told.out.find(std::string("Example: qvrnames ") + command), std::string::npos) << told.out;
+    }
+}
+
+TEST(Commands, CheckNamesByTheirText) {
+    const std::string longest(72, 'x');
+    const struct {
+        std::vector<std::string> arguments;
+        const char* messageId; // empty: legal
+    } rows[] = {
+        {{"Step 1"}, ""},
+        {{"Schweißnaht"}, ""},
+        {{longest}, ""},
+        {{longest + "x"}, "NameLengthERR_01"},
+        {{""}, "NameLengthERR_02"},
+        {{"1 Step"}, "LeadingDigitERR_01"},
+        {{"Step.1"}, "IllegalCharERR_01"},
+        {{"衝撃"}, "DoubleByteCharErr_01"},
+        {{"--file-name", "a\\b"}, ""},
+        {{"--file-name", "a b"}, "IllegalCharERR_02"},
+        {{"--file-name", "a.b"}, "IllegalCharERR_01"},
+    };
+    for (const auto& row : rows) {
+        std::vector<std::string> arguments{"check", "--json"};
+        arguments.insert(arguments.end(), row.arguments.begin(), row.arguments.end());
+        const Told told = RunWith(arguments);
+        const auto said = nlohmann::json::parse(told.out);
+        const bool isLegal = *row.messageId == '\0';
+        EXPECT_EQ(told.code, isLegal ? 0 : 1) << row.arguments.back();
+        EXPECT_EQ(said["legal"], isLegal);
+        EXPECT_EQ(said["names"][0].value("messageId", ""), row.messageId) << row.arguments.back();
+        EXPECT_EQ(said["names"][0].value("message", "").empty(), isLegal);
+    }
+    const Told told = RunWith({"check", "a\x1B[2J", "1"});
+    EXPECT_EQ(told.code, 1);
+    EXPECT_EQ(told.out.find("a\\u001B[2J  legal\n1           refused  LeadingDigitERR_01  The name"), 0U) << told.out;
+}
+
+TEST(Commands, AuditTheWholeExample) {
+    const std::string document = Example("pump-flange-bracket.json");
+    const Told told = RunWith({"audit", document, "--json"});
+    EXPECT_EQ(told.code, 1);
+    const auto said = nlohmann::json::parse(told.out);
+    std::set<std::string> ids;
+    std::set<std::string> refused;
+    for (const auto& refusal : said["refusals"]) {
+        ids.insert(refusal["messageId"]);
+        refused.insert(refusal["feature"]);
+        const auto text = nlohmann::json::parse(TextOfFile(document));
+        const auto pointer = nlohmann::json::json_pointer(refusal["pointer"].get<std::string>());
+        EXPECT_EQ(text.at(pointer).at("name"), refusal["name"]);
+    }
+    const std::set<std::string> everyKind{"",
+                                          "AnalysisCaseERR_03",
+                                          "DoubleByteCharErr_01",
+                                          "DuplicateNameERR_01",
+                                          "DuplicateNameERR_02",
+                                          "IllegalCharERR_01",
+                                          "LeadingDigitERR_01",
+                                          "NameLengthERR_01",
+                                          "NameLengthERR_02",
+                                          "ObjectParentERR_01",
+                                          "StepParentERR_01",
+                                          "StepParentERR_02",
+                                          "ZFXIAliasERR_01"};
+    EXPECT_EQ(ids, everyKind);
+    for (const char* legal : {"3mm Blech", "Static", "Static/Initial/Schweißnaht", "Reibung 0,12"})
+        EXPECT_FALSE(refused.contains(legal)) << legal;
+    for (const char* refusedOne :
+         {"Static/Job-1", "Static/Betriebsdruck", "Thermal and Shock/flange static", "m12 OBEN"})
+        EXPECT_TRUE(refused.contains(refusedOne)) << refusedOne;
+
+    const Told table = RunWith({"audit", document});
+    const std::string closing = std::to_string(said["featuresChecked"].get<int>()) + " features checked, " +
+                                std::to_string(said["refusals"].size()) + " refusals\n";
+    EXPECT_TRUE(table.out.ends_with("\n\n" + closing)) << table.out;
+    EXPECT_EQ(RunWith({"audit", Example("rename-a-step.json")}).code, 0);
+}
+
+TEST(Commands, ProposeTheNextFreeName) {
+    const Workshop shop;
+    const std::string cases = shop.Write("cases.json", R"({"cases": [
+        {"name": "A", "steps": [{"type": "S", "sets": [{"type": "L", "features": [
+            {"type": "QVRGravity", "name": "Gravity-1"}]}]}]},
+        {"name": "B", "steps": [{"type": "S", "sets": [{"type": "L", "features": [
+            {"type": "QVRGravity", "name": "Gravity-7"}, {"type": "QVRGravity", "id": "new"}]}]}]},
+        {"name": "C", "history": null, "sets": [{"type": "L", "features": [{"type": "QVRGravity", "id": "lost"}]}]}
+        ]})");
+    const std::string load = Example("propose-a-pressure.json");
+    const struct {
+        std::vector<std::string> arguments;
+        int code;
+        const char* base;
+        const char* proposal;
+    } rows[] = {
+        {{load, "new-load"}, 0, "Pressure-", "Pressure-3"},
+        {{load, "new-load", "--base", "Last-"}, 0, "Last-", "Last-1"},
+        {{load, "Step-1", "--base", "Step-"}, 0, "Step-", "Step-3"},
+        {{cases, "new"}, 0, "Gravity-", "Gravity-8"}, // in its own case, not in the current one
+        {{cases, "lost"}, 1, "Gravity-", nullptr},
+    };
+    for (const auto& row : rows) {
+        std::vector<std::string> arguments{"propose", "--json"};
+        arguments.insert(arguments.end(), row.arguments.begin(), row.arguments.end());
+        const Told told = RunWith(arguments);
+        const auto said = nlohmann::json::parse(told.out);
+        EXPECT_EQ(told.code, row.code) << told.out;
+        EXPECT_EQ(said["base"], row.base);
+        EXPECT_EQ(said["proposal"], row.proposal == nullptr ? nlohmann::json() : nlohmann::json(row.proposal));
+    }
+    EXPECT_NE(RunWith({"propose", load, "new-load"}).out.find("next free name  Pressure-3\n"), std::string::npos);
+}
+
+} // namespace

@@ -1,0 +1,257 @@
+#include "BadInput.h"
+#include "LoadedDocument.h"
+#include "Workshop.h"
+
+#include "analysis/WorkbenchUtilities.h"
+
+#include <gtest/gtest.h>
+#include <nlohmann/json.hpp>
+
+#include <algorithm>
+#include <random>
+#include <set>
+
+namespace {
+
+std::string WhyNot(const std::string& text) {
+    try {
+        const LoadedDocument loaded(text);
+    } catch (const BadInput& error) {
+        return error.what();
+    }
+    return "read";
+}
+
+TEST(DocumentReader, TellsTheFirstFaultAndItsPlace) {
+    const std::string deep(1'000'000, '[');
+    const struct {
+        std::string text;
+        std::string expected;
+    } rows[] = {
+        // no JSON
+        {"", "the file is empty"},
+        {" \n\t", "the file is empty"},
+        {"\xEF\xBB\xBF", "the file is empty"},
+        {"{\n  \"cases\": [}\n", "line 2, column 13: syntax error while parsing value - unexpected '}'"},
+        {"{\"cases\": []", "line 1, column 13: syntax error while parsing object - unexpected end of input"},
+        {"{} {}", "line 1, column 4: syntax error"},
+        {"{\"comment\": \"\xC3\x28\"}", "line 1, column 15: syntax error while parsing value - invalid string: "
+                                        "ill-formed UTF-8 byte"},
+        {"{\"comment\": \"\\ud800\"}", "invalid string: surrogate"},
+        {"{\"comment\": 1e999}", "number overflow"},
+        {deep, "line 1, column 101: nested more deeply than 100 levels"},
+        {"{\"a\":\"[[[\",\"b\":" + deep, "line 1, column 115: nested more deeply than 100 levels"},
+        // no document
+        {"[]", "line 1, column 1: expected an object, found a list"},
+        {"{\"case\": []}", "line 1, column 2: unknown key \"case\"; did you mean \"cases\"?"},
+        {"{\"zzzzzzzz\": []}", "unknown key \"zzzzzzzz\"; known: $schema, comment, id"},
+        {"{\"cases\": [{\"tag\": 1}]}", "/cases/0 (line 1, column 13): unknown key \"tag\""},
+        {"{\"id\": \"a\",\n \"i\\u0064\": \"b\"}", "line 2, column 2: the key \"id\" stands here twice"},
+        {"{\"cases\": {}}", "/cases (line 1, column 11): expected a list, found an object"},
+        {"{\"cases\": [{}, 7]}", "/cases/1 (line 1, column 16): expected an object, found a number"},
+        {"{\"cases\": [{\"name\": null}]}", "/cases/0/name (line 1, column 21): expected a text in quotes"},
+        {"{\"cases\": [{\"name\": \"a\\u0000b\"}]}", "expected a text without the character U+0000"},
+        {"{\"cases\": [{\"current\": \"yes\"}]}", "/cases/0/current (line 1, column 24): expected true or false"},
+        {"{\"cases\": [{\"current\": true}, {\"current\": true}]}",
+         "/cases/1/current (line 1, column 43): another case is current already"},
+        {"{\"cases\": [{\"history\": null, \"steps\": []}]}", "/cases/0/steps (line 1, column 39): expected no steps"},
+        {"{\"sets\": [{\"features\": []}]}", "/sets/0 (line 1, column 11): expected the key \"type\""},
+        {"{\"sets\": [{\"type\": \"\"}]}", "/sets/0/type (line 1, column 20): expected a text that is not empty"},
+        {"{\"meshManager\": {\"meshParts\": [{\"tag\": 2147483648}]}}",
+         "/meshManager/meshParts/0/tag (line 1, column 40): expected a whole number from -2147483648 to 2147483647"},
+        {"{\"meshManager\": {\"meshParts\": [{\"tag\": 1.0}]}}", "found 1.0"},
+        {"{\"withholds\": [\"ZFXIAlais\"]}",
+         "/withholds/0 (line 1, column 16): unknown interface \"ZFXIAlais\"; did you mean \"ZFXIAlias\"?"},
+        {"{\"attributes\": {\"Alias\": \"x\"}}", "written as the key \"name\""},
+        {"{\"attributes\": {\"a/~b\": 1}}", "/attributes/a~1~0b (line 1, column 25): expected a text"},
+        {"{\"attributes\": {\"a\": \"1\", \"a\": \"2\"}}", "the key \"a\" stands here twice"},
+        // references
+        {"{\"id\": \"/a\"}", "expected an id that does not begin"},
+        {"{\"cases\": [{\"id\": \"a\"},\n{\"id\": \"a\"}]}",
+         "/cases/1/id (line 2, column 8): the id \"a\" is that of another object, at line 1, column 12"},
+        {"{\"cases\": [{\"id\": \"main\", \"father\": \"mian\"}]}",
+         "/cases/0/father (line 1, column 37): no object has the id \"mian\"; did you mean \"main\"?"},
+        {"{\"connectors\": [{\"group\": \"a\"}]}", "no object has the id \"a\"; none in this file has one"},
+        {"{\"sets\": [{\"type\": \"S\", \"id\": \"a\", \"holds\": [\"a\"]}]}", "a set cannot hold itself"},
+        {"{\"cases\": [{\"id\": \"a\", \"father\": \"b\"}, {\"id\": \"b\", \"father\": \"a\"}]}",
+         "/cases/0/father (line 1, column 34): the fathers lead in a circle"},
+        {"{\"cases\": [{\"history\": {\"father\": \"s\"}, \"steps\": [{\"type\": \"S\", \"id\": \"s\"}]}]}",
+         "/cases/0/history/father (line 1, column 35): the fathers lead in a circle"},
+    };
+    for (const auto& row : rows)
+        EXPECT_NE(WhyNot(row.text).find(row.expected), std::string::npos)
+            << row.text.substr(0, 200) << "\n  " << WhyNot(row.text) << "\n  is not\n  " << row.expected;
+}
+
+TEST(DocumentReader, NeverFailsInAnotherWay) {
+    const std::string text = TextOfFile(Example("pump-flange-bracket.json"));
+    ASSERT_EQ(WhyNot(text), "read");
+    std::mt19937 random(7);
+    const std::string marks = "{}[]\",:\\ \n0e-tfn\xC3\xE3";
+    for (int i = 0; i < 400; ++i) {
+        std::string bad = text;
+        for (int change = 0; change < 3; ++change)
+            bad[random() % bad.size()] = marks[random() % marks.size()];
+        WhyNot(i % 2 == 0 ? bad : bad.substr(0, random() % bad.size()));
+    }
+    EXPECT_EQ(MemoryModel::LiveObjects(), 0);
+}
+
+/// The features of a document by their ids.
+class DocumentInFull : public ::testing::Test {
+protected:
+    MemoryFeature operator[](const std::string& id) { return m_loaded.entries[m_loaded.ids.at(id)].feature; }
+    bool IsFather(const std::string& father, const std::string& child) {
+        const ZFXISpecObject_var feature = (*this)[child];
+        return ZFXBaseUnknown_var::TakeOver(feature->GetFather()) == (*this)[father].Object();
+    }
+
+    LoadedDocument m_loaded{R"({
+        "id": "model",
+        "meshManager": {"meshParts": [{"id": "part", "tag": -3}]},
+        "materials": [{"id": "steel", "name": "Stahl", "materialName": "Steel"}, {"id": "alu", "name": "Alu"}],
+        "groups": [{"id": "group", "name": "Bolts"}],
+        "connectors": [{"id": "left", "group": "group"}],
+        "supports": [{"id": "support", "connectors": ["left", {"id": "right"}]}],
+        "connectionDesigns": [{"id": "design", "master": [{}], "slave": ["left", "right"]}],
+        "propertySet": {"features": [{"type": "SAMShell", "id": "shell"},
+                                     {"type": "SAMShell", "id": "other", "property": false},
+                                     {"type": "QVRTabularAmplitudeLT", "id": "ramp"}]},
+        "cases": [
+            {"id": "bare", "history": null, "solverCase": false},
+            {"id": "full", "current": true, "jobs": [{"id": "job"}], "jobContainers": [{"id": "jobs"}],
+             "history": {"id": "history"},
+             "steps": [{"type": "S", "id": "step", "attributes": {"FileLink": "a.inp"},
+                        "sets": [{"type": "L", "id": "loads", "features": [
+                            {"type": "P", "id": "load", "propagated": true, "father": null}]}]}]}],
+        "sets": [{"type": "L", "id": "more", "holds": ["load"], "pointedAtBy": ["step"]}]
+    })"};
+};
+
+TEST_F(DocumentInFull, HasItsFathersAndMembers) {
+    EXPECT_TRUE(IsFather("model", "jobs"));
+    EXPECT_TRUE(IsFather("history", "step"));
+    EXPECT_TRUE(IsFather("step", "loads"));
+    EXPECT_EQ(ZFXISpecObject_var((*this)["load"])->GetFather(), nullptr);
+
+    ZFXListValZFXBaseUnknown_var* sets = nullptr;
+    ZFXISamAnalysisEntity_var((*this)["load"])->GetParentSets(sets);
+    const std::unique_ptr<ZFXListValZFXBaseUnknown_var> owned(sets);
+    ASSERT_EQ(owned->Size(), 2);
+    EXPECT_TRUE((*owned)[1] == (*this)["loads"].Object());
+    EXPECT_TRUE((*owned)[2] == (*this)["more"].Object());
+
+    const ZFXListValZFXISpecAttribute_var* pointing =
+        ZFXISpecObject_var((*this)["step"])->ListPointingAttributes("ZFXISpecObject", "", "");
+    EXPECT_EQ(pointing->Size(), 1);
+    EXPECT_EQ(ZFXISpecObject_var((*this)["more"])->ListPointingAttributes("ZFXISpecObject", "", "")->Size(), 1);
+}
+
+TEST_F(DocumentInFull, HasItsSides) {
+    ZFXListValZFXBaseUnknown_var connectors;
+    ZFXISamAnalysisSupport_var((*this)["support"])->ListConnectors(connectors);
+    ASSERT_EQ(connectors.Size(), 2);
+    EXPECT_TRUE(connectors[1] == (*this)["left"].Object());
+    EXPECT_TRUE(connectors[2] == (*this)["right"].Object());
+    ZFXBaseUnknown* group = nullptr;
+    ZFXISamAnalysisConnector_var(connectors[1])->GetGroup(group);
+    EXPECT_TRUE(ZFXBaseUnknown_var::TakeOver(group) == (*this)["group"].Object());
+    ZFXListValZFXBaseUnknown_var master;
+    ZFXListValZFXBaseUnknown_var slave;
+    QVRISamAnalysisConnectionDesign_var((*this)["design"])->GetMasterAndSlaveConnectors(master, slave);
+    EXPECT_EQ(master.Size(), 1);
+    EXPECT_EQ(slave.Size(), 2);
+}
+
+TEST_F(DocumentInFull, HasItsFlagsAndTexts) {
+    ZFXISpecObject_var shell = (*this)["shell"];
+    ZFXISpecObject_var other = (*this)["other"];
+    ZFXISpecObject_var ramp = (*this)["ramp"];
+    EXPECT_TRUE(QVRAnalysisEntityUtils::IsObjectAProperty(shell));
+    EXPECT_FALSE(QVRAnalysisEntityUtils::IsObjectAProperty(other));
+    EXPECT_TRUE(QVRAnalysisEntityUtils::IsObjectAnAmplitude(ramp));
+    EXPECT_NE(QVRIPropagatingFeature_var((*this)["load"])->IsPropagated(), 0);
+    ZFXISamAnalysisCase_var bare = (*this)["bare"];
+    EXPECT_FALSE(QVRAnalysisDocUtils::IsTarnisAnalysisCase(bare));
+    EXPECT_FALSE((*this)["bare"].History());
+    ZFXISamAnalysisCase_var current;
+    QVRStepUtils::GetCurrentAnalysisCaseSP(current, nullptr);
+    EXPECT_TRUE(current == (*this)["full"].Object());
+    EXPECT_TRUE(ZFXIMaterialFeature_var((*this)["steel"])->GetMaterialFeatureName() == "Steel");
+    EXPECT_TRUE(ZFXIMaterialFeature_var((*this)["alu"])->GetMaterialFeatureName() == "Alu");
+    ZFXAnalysisExplicitChild child;
+    ZFXISamExplicit_var((*this)["part"])->GetExplicitChild(child, 1);
+    int tag = 0;
+    child.GetTag(tag);
+    EXPECT_EQ(tag, -3);
+    const ZFXISpecAttrAccess_var attributes = (*this)["step"];
+    const auto key = ZFXISpecAttrKey_var::TakeOver(attributes->GetAttrKey("FileLink"));
+    EXPECT_TRUE(attributes->GetString(key, 0) == "a.inp");
+}
+
+TEST(DocumentReader, MakesTheFirstCaseCurrentUnlessTold) {
+    const struct {
+        const char* cases;
+        const char* current;
+    } rows[] = {
+        {R"([{"name": "A"}, {"name": "B"}])", "A"},
+        {R"([{"name": "A"}, {"name": "B", "current": true}])", "B"},
+        {R"([{"name": "A"}, {"name": "B", "current": false}])", "A"},
+        {R"([{"name": "A", "current": false}, {"name": "B"}])", ""},
+    };
+    for (const auto& row : rows) {
+        const LoadedDocument loaded(std::string("{\"cases\": ") + row.cases + "}");
+        ZFXISamAnalysisCase_var current;
+        QVRStepUtils::GetCurrentAnalysisCaseSP(current, nullptr);
+        const ZFXIAlias_var alias(current);
+        EXPECT_STREQ(alias == nullptr ? "" : alias->GetAlias().ConvertToChar(), row.current) << row.cases;
+    }
+}
+
+/// The keys that a definition of the schema allows, those that it takes over included.
+std::set<std::string> KeysIn(const nlohmann::json& schema, const nlohmann::json& definition) {
+    std::set<std::string> keys;
+    const auto properties = definition.value("properties", nlohmann::json::object());
+    const auto bases = definition.value("allOf", nlohmann::json::array());
+    for (const auto& [key, value] : properties.items())
+        keys.insert(key);
+    for (const auto& base : bases) {
+        const std::string reference = base.at("$ref").get<std::string>().substr(1);
+        keys.merge(KeysIn(schema, schema.at(nlohmann::json::json_pointer(reference))));
+    }
+    return keys;
+}
+
+TEST(DocumentReader, TakesTheKeysThatTheSchemaTells) {
+    const auto schema = nlohmann::json::parse(TextOfFile(QVRNAMES_FOLDER "/document.schema.json"));
+    const std::pair<const char*, MemoryKind> rows[] = {
+        {"case", MemoryKind::Case},
+        {"history", MemoryKind::History},
+        {"step", MemoryKind::Step},
+        {"set", MemoryKind::Set},
+        {"propertySet", MemoryKind::Set},
+        {"jobContainer", MemoryKind::JobContainer},
+        {"feature", MemoryKind::Feature},
+        {"job", MemoryKind::Feature},
+        {"meshManager", MemoryKind::MeshManager},
+        {"meshPart", MemoryKind::MeshPart},
+        {"material", MemoryKind::Material},
+        {"group", MemoryKind::Group},
+        {"support", MemoryKind::Support},
+        {"connector", MemoryKind::Connector},
+        {"connectionDesign", MemoryKind::ConnectionDesign},
+    };
+    const auto sorted = [](const std::vector<std::string>& keys) {
+        return std::set<std::string>(keys.begin(), keys.end());
+    };
+    for (const auto& [name, kind] : rows)
+        EXPECT_EQ(KeysIn(schema, schema.at("$defs").at(name)), sorted(KeysOf(kind))) << name;
+    EXPECT_EQ(KeysIn(schema, schema), sorted(KeysOf(MemoryKind::Model)));
+    const std::string text = schema.dump();
+    for (const ChildKey& child : kChildKeys)
+        if (child.defaultType != nullptr && child.kind != MemoryKind::MeshManager)
+            EXPECT_NE(text.find(std::string("\"default\":\"") + child.defaultType), std::string::npos)
+                << child.defaultType;
+}
+
+} // namespace

@@ -1,0 +1,123 @@
+#include "Workshop.h"
+
+#include <gtest/gtest.h>
+#include <nlohmann/json.hpp>
+
+#include <csignal>
+
+#include <sys/resource.h>
+#include <sys/stat.h>
+
+namespace {
+
+TEST(RenamingFiles, ChangesTheBytesOfOneName) {
+    const struct {
+        const char* text;
+        const char* feature;
+        const char* name;
+        const char* expected;
+    } rows[] = {
+        {R"({"cases":[{"name":"A","steps":[{"name" : "\u0053tep\/1" , "type":"S"}]}]})", "Step/1", "Last",
+         R"({"cases":[{"name":"A","steps":[{"name" : "Last" , "type":"S"}]}]})"},
+        {"\xEF\xBB\xBF{\r\n\t\"cases\": [ { \"name\": \"A\", \"comment\": \"\\\"name\\\": \\\"A\\\"\" } ] }\r\n\r\n",
+         "A", "B",
+         "\xEF\xBB\xBF{\r\n\t\"cases\": [ { \"name\": \"B\", \"comment\": \"\\\"name\\\": \\\"A\\\"\" } ] }\r\n\r\n"},
+        {R"({"cases": [{ "id": "a" }]})", "a", "A", R"({"cases": [{ "name": "A", "id": "a" }]})"},
+        {R"({"cases": [{ }]})", "/cases/0", "A", R"({"cases": [{"name": "A" }]})"},
+        {R"({"cases": [{"name": "A"}]})", "A", "\"\\\t温", R"({"cases": [{"name": "\"\\\t温"}]})"},
+        // the guard of this type of step drops blanks and underscores
+        {R"({"cases": [{"steps": [{"type": "QVRStaticLPStepLT", "name": "A"}]}]})", "A", " _B c_ ",
+         R"({"cases": [{"steps": [{"type": "QVRStaticLPStepLT", "name": "B c"}]}]})"},
+    };
+    const Workshop shop;
+    for (const auto& row : rows) {
+        const std::string file = shop.Write("document.json", row.text);
+        const Told told = RunWith({"rename", file, row.feature, row.name});
+        EXPECT_EQ(told.code, 0) << told.err;
+        EXPECT_EQ(TextOfFile(file), row.expected);
+    }
+    EXPECT_EQ(shop.Files(), 1U) << "something was left beside the document";
+}
+
+TEST(RenamingFiles, TellsARefusalAndLeavesTheFile) {
+    const Workshop shop;
+    const std::string text = TextOfFile(Example("pump-flange-bracket.json"));
+    const std::string file = shop.Write("document.json", text);
+    const std::string output = shop.Path("other.json");
+    const struct {
+        const char* feature;
+        const char* name;
+        const char* messageId;
+        bool isPrinted; // a refusal without a registered error prints nothing
+    } rows[] = {
+        {"Static/Vorspannen", " Betriebsdruck_ ", "DuplicateNameERR_01", true},
+        {"Static/Vorspannen", "", "NameLengthERR_02", true},
+        {"Static/Vorspannen", "1. Schritt", "LeadingDigitERR_01", true},
+        {"Static/betriebsdruck", "betriebsdruck", "DuplicateNameERR_01", true}, // the name that it has
+        {"Thermal and Shock/flange static", "JOB-1", "DuplicateNameERR_02", true},
+        {"Imported/Job-1", "Job-2", "", false},
+        {"/cases/1/steps/2/sets/2/features/1", "x", "", false}, // cannot be named at all
+    };
+    for (const auto& row : rows) {
+        const Told told = RunWith({"rename", file, row.feature, row.name, "--json", "--output", output});
+        EXPECT_EQ(told.code, 1) << row.feature;
+        const auto said = nlohmann::json::parse(told.out); // nothing else is on standard output
+        EXPECT_EQ(said["renamed"], false);
+        EXPECT_EQ(said["messageId"], row.messageId) << told.out;
+        EXPECT_NE(said["message"], "");
+        EXPECT_EQ(said["printed"].get<std::string>().starts_with("NAME ERROR: "), row.isPrinted) << told.out;
+        EXPECT_FALSE(std::filesystem::exists(output));
+
+        const Told shown = RunWith({"rename", file, row.feature, row.name});
+        EXPECT_EQ(shown.code, 1);
+        EXPECT_EQ(shown.out.starts_with("NAME ERROR: "), row.isPrinted) << shown.out;
+        EXPECT_NE(shown.out.find(": refused"), std::string::npos) << shown.out;
+    }
+    EXPECT_EQ(TextOfFile(file), text);
+}
+
+TEST(RenamingFiles, TellsWhenNobodyGuardsTheName) {
+    const Workshop shop;
+    const std::string file = shop.Write("document.json", TextOfFile(Example("propose-a-pressure.json")));
+    const Told told = RunWith({"rename", file, "new-load", "Pressure-1"});
+    EXPECT_EQ(told.code, 0);
+    EXPECT_NE(told.out.find("\"\" -> \"Pressure-1\""), std::string::npos) << told.out;
+    EXPECT_NE(told.out.find("guards no names: DuplicateNameERR_02"), std::string::npos) << told.out;
+}
+
+TEST(RenamingFiles, KeepsPermissionsAndLinks) {
+    const Workshop shop;
+    const std::string file = shop.Write("document.json", R"({"cases": [{"name": "A"}]})");
+    const std::string link = shop.Path("link.json");
+    const std::string output = shop.Path("output.json");
+    ASSERT_EQ(chmod(file.c_str(), 0640), 0);
+    std::filesystem::create_symlink("document.json", link);
+    EXPECT_EQ(RunWith({"rename", link, "A", "B", "--output", output}).code, 0);
+    EXPECT_EQ(TextOfFile(file), R"({"cases": [{"name": "A"}]})");
+    EXPECT_EQ(TextOfFile(output), R"({"cases": [{"name": "B"}]})");
+    EXPECT_EQ(RunWith({"rename", link, "A", "C"}).code, 0);
+    EXPECT_TRUE(std::filesystem::is_symlink(link));
+    EXPECT_EQ(TextOfFile(file), R"({"cases": [{"name": "C"}]})");
+    for (const std::string& written : {file, output})
+        EXPECT_EQ(static_cast<int>(std::filesystem::status(written).permissions()), 0640) << written;
+}
+
+TEST(RenamingFiles, LeavesTheFileWhenItCannotBeWritten) {
+    const Workshop shop;
+    const std::string text = TextOfFile(Example("rename-a-step.json"));
+    const std::string file = shop.Write("document.json", text);
+    rlimit former{};
+    ASSERT_EQ(getrlimit(RLIMIT_FSIZE, &former), 0);
+    const rlimit tiny{100, former.rlim_max};
+    std::signal(SIGXFSZ, SIG_IGN);
+    ASSERT_EQ(setrlimit(RLIMIT_FSIZE, &tiny), 0);
+    const Told told = RunWith({"rename", file, "Perturbation", "Last"});
+    ASSERT_EQ(setrlimit(RLIMIT_FSIZE, &former), 0);
+    EXPECT_EQ(told.code, 2);
+    EXPECT_EQ(told.out, "") << "a change was told that did not happen";
+    EXPECT_NE(told.err.find(file + ": cannot be written: File too large"), std::string::npos) << told.err;
+    EXPECT_EQ(TextOfFile(file), text);
+    EXPECT_EQ(shop.Files(), 1U);
+}
+
+} // namespace
