@@ -14,6 +14,7 @@ TEST(Commands, EndWithTwoAndOneLineForWhatCannotBeUsed) {
     std::filesystem::resize_file(large, (std::uintmax_t{256} << 20) + 1);
     const std::string step = Example("rename-a-step.json");
     const std::string load = Example("propose-a-pressure.json");
+    const std::string pump = Example("pump-flange-bracket.json");
     const struct {
         std::vector<std::string> arguments;
         std::string expected;
@@ -29,6 +30,7 @@ TEST(Commands, EndWithTwoAndOneLineForWhatCannotBeUsed) {
         {{"audit", empty}, empty + ": the file is empty"},
         {{"audit", large}, large + ": larger than 256 MB"},
         {{"propose", load, "Step-1"}, "late type \"QVRGeneralStaticStepLT\", which has no base name"},
+        {{"propose", pump, "Flange Static", "--base", "Flange-"}, "jobs are numbered after \"Job-\" alone"},
         {{"rename", step, "Step-9", "x"}, step + ": no feature has the id, the path"},
         {{"rename", step, "step", "x", "--output", "/no/such/folder/x"}, "/no/such/folder/x: cannot be written"},
         {{"rename", step, "step", "x", "--output", "/tmp"}, "/tmp: cannot be written: it is no regular file"},
@@ -127,7 +129,8 @@ TEST(Commands, AuditTheWholeExample) {
 
 TEST(Commands, ProposeTheNextFreeName) {
     const Workshop shop;
-    const std::string cases = shop.Write("cases.json", R"({"cases": [
+    const std::string cases =
+        shop.Write("cases.json", R"({"meshManager": {"meshParts": [{"name": "Mesh-4"}]}, "cases": [
         {"name": "A", "steps": [{"type": "S", "sets": [{"type": "L", "features": [
             {"type": "QVRGravity", "name": "Gravity-1"}]}]}]},
         {"name": "B", "steps": [{"type": "S", "sets": [{"type": "L", "features": [
@@ -135,6 +138,7 @@ TEST(Commands, ProposeTheNextFreeName) {
         {"name": "C", "history": null, "sets": [{"type": "L", "features": [{"type": "QVRGravity", "id": "lost"}]}]}
         ]})");
     const std::string load = Example("propose-a-pressure.json");
+    const std::string pump = Example("pump-flange-bracket.json");
     const struct {
         std::vector<std::string> arguments;
         int code;
@@ -144,7 +148,9 @@ TEST(Commands, ProposeTheNextFreeName) {
         {{load, "new-load"}, 0, "Pressure-", "Pressure-3"},
         {{load, "new-load", "--base", "Last-"}, 0, "Last-", "Last-1"},
         {{load, "Step-1", "--base", "Step-"}, 0, "Step-", "Step-3"},
-        {{cases, "new"}, 0, "Gravity-", "Gravity-8"}, // in its own case, not in the current one
+        {{cases, "new"}, 0, "Gravity-", "Gravity-8"},                 // in its own case, not in the current one
+        {{pump, "Flange Static"}, 0, "Job-", "Job-2"},                // over all cases
+        {{cases, "Mesh-4", "--base", "Mesh-"}, 0, "Mesh-", "Mesh-5"}, // over the mesh manager
         {{cases, "lost"}, 1, "Gravity-", nullptr},
     };
     for (const auto& row : rows) {

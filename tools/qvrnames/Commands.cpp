@@ -25,7 +25,7 @@ std::uint32_t FindNamedFeature(const LoadedDocument& loaded, const std::string& 
 }
 
 ZFXUnicodeString TextOf(const std::string& argument) {
-    const ZFXUnicodeString text(argument.c_str());
+    ZFXUnicodeString text(argument.c_str());
     if (text.ConvertToChar() != argument) // what is no UTF-8 was read as U+FFFD
         throw BadInput("an argument is no UTF-8 text: " + std::string(text.ConvertToChar()));
     return text;

@@ -44,8 +44,7 @@ int RenameFeature(const RenameRequest& request, Console console);
 /// The document in the file; messages about it begin with the file's name.
 std::unique_ptr<LoadedDocument> OpenDocument(const std::string& file);
 /// FindFeature, for one that can have a name.
-std::uint32_t FindNamedFeature(const LoadedDocument& loaded, const std::string& file,
-                               const std::string& words);
+std::uint32_t FindNamedFeature(const LoadedDocument& loaded, const std::string& file, const std::string& words);
 /// BadInput when an argument is no UTF-8.
 ZFXUnicodeString TextOf(const std::string& argument);
 /// @}

@@ -2,6 +2,7 @@
 
 #include "BadInput.h"
 #include "Nearest.h"
+#include "Printing.h"
 
 #include <algorithm>
 #include <optional>
@@ -50,7 +51,7 @@ Entries Nearest(const LoadedDocument& loaded, const std::string& words) {
 std::string Candidates(const LoadedDocument& loaded, const Entries& entries) {
     std::string lines;
     for (std::size_t i = 0; i < std::min(entries.size(), kMostCandidates); ++i)
-        lines += "\n  " + PathOf(loaded, entries[i]) + "  (" + PointerOf(loaded, entries[i]) + ")";
+        lines += "\n  " + Printable(PathOf(loaded, entries[i])) + "  (" + PointerOf(loaded, entries[i]) + ")";
     if (entries.size() > kMostCandidates)
         lines += "\n  and " + std::to_string(entries.size() - kMostCandidates) + " more";
     return lines;
@@ -83,9 +84,13 @@ Entries FindByPath(const LoadedDocument& loaded, const std::string& words) {
 
 std::string PathOf(const LoadedDocument& loaded, std::uint32_t entry) {
     std::string path;
-    for (std::uint32_t at = entry; at != DocumentEntry::kNone; at = loaded.entries[at].parent)
-        if (loaded.entries[at].isNamed)
-            path = NameOf(loaded.entries[at]) + (path.empty() ? "" : "/" + path);
+    for (; entry != DocumentEntry::kNone; entry = loaded.entries[entry].parent) {
+        if (!loaded.entries[entry].isNamed)
+            continue;
+        if (!path.empty())
+            path.insert(0, "/");
+        path.insert(0, NameOf(loaded.entries[entry]));
+    }
     return path;
 }
 
@@ -93,8 +98,10 @@ std::string PointerOf(const LoadedDocument& loaded, std::uint32_t entry) {
     std::string pointer;
     for (; loaded.entries[entry].parent != DocumentEntry::kNone; entry = loaded.entries[entry].parent) {
         const DocumentEntry& at = loaded.entries[entry];
-        const std::string index = at.index == DocumentEntry::kNone ? "" : "/" + std::to_string(at.index);
-        pointer = std::string("/") + SpellingOf(at.key) + index + pointer;
+        if (at.index != DocumentEntry::kNone)
+            pointer.insert(0, "/" + std::to_string(at.index));
+        pointer.insert(0, SpellingOf(at.key));
+        pointer.insert(0, "/");
     }
     return pointer;
 }

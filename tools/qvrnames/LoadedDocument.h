@@ -24,7 +24,7 @@ struct DocumentEntry {
 /// as long as this lives. Entry 0 is the analysis model; a parent stands before what lies below it.
 struct LoadedDocument {
     /// BadInput for a text that describes no document.
-    explicit LoadedDocument(std::string text);
+    explicit LoadedDocument(std::string bytes);
 
     JsonText text;
     MemoryModel model;

@@ -50,7 +50,7 @@ void ObjectFields::ReadAttributes(MemoryFeature feature) const {
     attributes.ForEachMember([&](JsonValue key, JsonValue value) {
         const std::string name = ReadWord(key);
         if (name == "Alias")
-            key.Refuse("the attribute \"Alias\" is written as the key \"name\" of the object");
+            key.Refuse(R"(the attribute "Alias" is written as the key "name" of the object)");
         if (!known.insert(name).second)
             key.Refuse("the key \"" + name + "\" stands here twice");
         feature.Attribute(name.c_str(), ReadText(value));

@@ -6,6 +6,7 @@
 
 #include "QVRNameUtil.h"
 #include "analysis/WorkbenchUtilities.h"
+#include "analysis/ZFXIMSHMeshPart.h"
 
 #include <nlohmann/json.hpp>
 
@@ -13,13 +14,22 @@
 
 namespace {
 
+/// The base of every job, which has an operation of its own instead of a row among the bases.
+constexpr const char* kJobBase = "Job-";
+
+bool IsJob(const ZFXISpecObject_var& feature) { return feature != nullptr && feature->GetLateType() == "QVRJobLT"; }
+
 ZFXUnicodeString BaseOf(const ProposeRequest& request, ZFXISpecObject_var feature) {
     ZFXUnicodeString base = TextOf(request.base);
+    if (IsJob(feature) && !base.IsNull() && base != kJobBase)
+        throw BadInput(request.document + ": jobs are numbered after \"Job-\" alone; leave --base out");
     if (!base.IsNull())
         return base;
     QVRNameUtil::CreateBaseName(feature, base);
     if (!base.IsNull())
         return base;
+    if (IsJob(feature))
+        return kJobBase;
     const std::string type = feature == nullptr ? "" : feature->GetLateType().ConvertToChar();
     throw BadInput(request.document + ": \"" + request.feature + "\" is of the late type \"" + type +
                    "\", which has no base name; give one with --base");
@@ -33,6 +43,23 @@ ZFXISamAnalysisCase_var CaseOf(const ZFXISpecObject_var& feature) {
     return holder;
 }
 
+/// The next free name, in the scope that the feature's kind has; the base itself when there is none. Jobs and
+/// mesh parts are numbered over the whole document.
+ZFXUnicodeString NextName(ZFXISpecObject_var feature, const ZFXUnicodeString& base) {
+    ZFXUnicodeString name(base);
+    if (IsJob(feature)) {
+        QVRNameUtil::GetUniqueNameForJob(name);
+        return name;
+    }
+    if (ZFXIMSHMeshPart_var(feature) != nullptr) {
+        QVRNameUtil::GetUniqueNameForMeshPart(feature, name);
+        return name;
+    }
+    ZFXISamAnalysisCase_var analysisCase = CaseOf(feature);
+    QVRNameUtil::GetUniqueName(name, feature, analysisCase);
+    return name;
+}
+
 } // namespace
 
 int ProposeName(const ProposeRequest& request, Console console) {
@@ -40,9 +67,7 @@ int ProposeName(const ProposeRequest& request, Console console) {
     const std::uint32_t entry = FindNamedFeature(*loaded, request.document, request.feature);
     ZFXISpecObject_var feature = loaded->entries[entry].feature;
     const ZFXUnicodeString base = BaseOf(request, feature);
-    ZFXISamAnalysisCase_var analysisCase = CaseOf(feature);
-    ZFXUnicodeString name(base);
-    QVRNameUtil::GetUniqueName(name, feature, analysisCase);
+    const ZFXUnicodeString name = NextName(feature, base);
     const bool isProposed = name != base; // it has no other way to tell
     if (console.isJson) {
         nlohmann::ordered_json said{{"feature", TellingOf(*loaded, entry)},

@@ -2,10 +2,13 @@
 
 #include "BadInput.h"
 #include "Commands.h"
+#include "Printing.h"
 
 #include <CLI/CLI.hpp>
 
+#include <functional>
 #include <ostream>
+#include <sstream>
 
 namespace {
 
@@ -38,7 +41,7 @@ public:
     }
 
 private:
-    CLI::App* Add(const char* name, const char* description, const char* example, std::function<int()> command) {
+    CLI::App* Add(const char* name, const char* description, const char* example, const std::function<int()>& command) {
         CLI::App* added = m_app.add_subcommand(name, description);
         added->add_flag("--json", m_console.isJson, "Tell the result as one JSON value");
         added->footer(std::string("Example: qvrnames ") + example);
@@ -91,12 +94,20 @@ private:
 } // namespace
 
 int Run(int argc, const char* const* argv, std::ostream& out, std::ostream& err) {
+    std::string fault;
     try {
-        return CommandLine(out, err).Parse(argc, argv);
-    } catch (const BadInput& error) {
-        err << "qvrnames: " << error.what() << std::endl;
+        const int code = CommandLine(out, err).Parse(argc, argv);
+        if (out.flush())
+            return code;
+        fault = "the result cannot be written";
     } catch (const std::bad_alloc&) {
-        err << "qvrnames: there is not enough memory" << std::endl;
+        fault = "there is not enough memory";
+    } catch (const std::exception& error) {
+        fault = error.what();
     }
+    std::istringstream lines(fault);
+    err << "qvrnames: ";
+    for (std::string line; std::getline(lines, line);)
+        err << Printable(line) << std::endl;
     return kBadInput;
 }
