@@ -15,11 +15,12 @@ public:
 
     /// The stored alias; empty when it was never set or cannot be read.
     ZFXUnicodeString GetAlias();
-    /// Trims blanks, then underscores, at both ends, stores the rest and checks it on the feature: a job by
-    /// QVRNameUtil::IsNameUniqueAcrossCases alone, any other feature by QVRNameUtil::CheckName (a leading
-    /// digit is legal for "QVRShellSectionEnhLT"). After a refusal the former alias is back as it was, and
-    /// when the refusal registered an error, "NAME ERROR: " and its message are written as one line on
-    /// standard output. Without ZFXISpecAttrAccess or an "Alias" attribute nothing is stored.
+    /// Trims blanks, then underscores, at both ends, stores the rest and checks it on the feature: by
+    /// QVRNameUtil::CheckName (a leading digit is legal for "QVRShellSectionEnhLT"), whose answer for a job gives way
+    /// to that of QVRNameUtil::IsNameUniqueAcrossCases. After a refusal the former alias, as it was read, is back; when
+    /// the refusal registered an error, "NAME ERROR: " and its message are written as one line on standard output.
+    /// Without ZFXISpecAttrAccess or an "Alias" attribute nothing is stored; without ZFXISpecObject nothing is checked
+    /// or changed.
     void SetAlias(const ZFXUnicodeString& alias);
 
 private:

@@ -28,7 +28,7 @@ public:
     static ZFXMetaClass* meta_object;
 };
 
-/// Makes the adaptor that offers ZFXIAlias on `object`; null when there is no memory. `context` is handed on.
-/// [new reference]
+/// Makes the adaptor that offers ZFXIAlias on `object`; null without an object or without memory. `context` is handed
+/// on. [new reference]
 extern "C" QVR_NAME_UTILITY_EXPORT ZFXBaseUnknown* CreateTIEZFXIAliasQVREFeatureAlias(ZFXBaseUnknown* object,
                                                                                       void* context);

@@ -29,7 +29,7 @@ public:
 
     /// Reads the integers of `text` between separators and appends them to `numbers`, the last one first. The
     /// separator counts with its first character only: the rest of a longer one is read as part of the
-    /// number. What is no number is skipped. `text` keeps what stood before the first separator. An empty
-    /// separator separates nothing. Always S_OK.
+    /// number. What does not begin with a number is skipped. `text` keeps what stood before the first separator. An
+    /// empty separator separates nothing. Always S_OK.
     static HRESULT GetIntegerListFromString(ZFXUnicodeString& text, ZFXRawCollint& numbers, ZFXUnicodeString separator);
 };

@@ -22,7 +22,8 @@
 ///   caller's; lists that receive results are appended to.
 /// - Lengths are in UTF-16 code units, positions count from 0, list indexes from 1.
 /// - Names clash when they are identical or differ in letter case only.
-/// - A handle may be empty: it offers no interface. The library is used by one thread at a time.
+/// - A handle may be empty: it offers no interface.
+/// - The library is used by one thread at a time; the operations on texts alone may run on any thread.
 class QVR_NAME_UTILITY_EXPORT QVRNameUtil {
 public:
     QVRNameUtil();
@@ -62,8 +63,8 @@ public:
     /// Puts a name that holds a space in double quotes, unless it begins with one.
     static void QuoteIfNeeded(ZFXUnicodeString& name);
     /// `suffix` loses its characters that are illegal in file names; `name` becomes prefix + name + "_" +
-    /// suffix without spaces, cut to 80 units. Always S_OK. The arguments may be one object: each counts with
-    /// the text it had on entry.
+    /// suffix without spaces, cut to 80 units; the suffix goes in by its narrow form. Always S_OK. The arguments may be
+    /// one object: each counts with the text it had on entry.
     static HRESULT PadStrings(ZFXUnicodeString& name, ZFXUnicodeString& suffix, ZFXUnicodeString& prefix);
 
     // ---- Object names ----

@@ -31,7 +31,7 @@ public:
 
     /// The index of the first element equal to x at or after index `from`; 0 when there is none.
     int Locate(const Element& x, int from = 1) const {
-        const auto start = m_elements.begin() + std::clamp(from - 1, 0, Size());
+        const auto start = m_elements.begin() + (std::clamp(from, 1, Size() + 1) - 1);
         const auto found = std::find(start, m_elements.end(), x);
         return found == m_elements.end() ? 0 : static_cast<int>(found - m_elements.begin()) + 1;
     }
@@ -46,6 +46,7 @@ public:
     }
     void RemoveAll(ZFXCollec::MemoryHandling /*storage goes as well*/ = ZFXCollec::ReleaseAllocation) {
         std::vector<Element>().swap(m_elements);
+        m_outside = Element{};
     }
     /// Makes room for n elements at once.
     void Reserve(int n) { m_elements.reserve(static_cast<std::size_t>(std::max(n, 0))); }

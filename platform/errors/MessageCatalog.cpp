@@ -6,6 +6,7 @@
 #include <fstream>
 #include <map>
 #include <mutex>
+#include <system_error>
 
 namespace MessageCatalog {
 namespace {
@@ -16,7 +17,9 @@ std::string FolderBesideThisLibrary() {
     Dl_info info{};
     if (dladdr(reinterpret_cast<const void*>(&Find), &info) == 0 || info.dli_fname == nullptr)
         return "msgcatalog";
-    return (std::filesystem::path(info.dli_fname).parent_path() / "msgcatalog").string();
+    std::error_code ignored; // without a current folder the path stays as it is
+    const auto library = std::filesystem::absolute(info.dli_fname, ignored);
+    return (library.parent_path() / "msgcatalog").string();
 }
 
 std::string_view Trim(std::string_view text) noexcept {
@@ -50,6 +53,9 @@ Catalogs& State() {
     static auto* const state = new Catalogs; // refusals may be read until the process ends
     return *state;
 }
+
+/// Made at load: the library's path may be relative to the folder that is current then.
+[[maybe_unused]] const Catalogs& stateAtLoad = State();
 
 } // namespace
 

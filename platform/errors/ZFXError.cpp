@@ -4,6 +4,7 @@
 #include "object-model/ZFXMetaClass.h"
 
 #include <array>
+#include <atomic>
 #include <cstdarg>
 #include <functional>
 #include <iostream>
@@ -20,13 +21,12 @@ public:
     ~Registry() {
         for (ZFXError* error : m_errors)
             Free(error);
+        ended = true;
     }
 
-    HRESULT NextCode() noexcept {
-        // Failure bit and customer bit: apart from every code that a system defines, E_FAIL among them.
-        m_number = m_number % 0x0FFFFFFFU + 1;
-        return static_cast<HRESULT>(0xA0000000U | m_number);
-    }
+    /// The thread's registry is gone: objects that outlive it may still be refused something.
+    static thread_local bool ended;
+
     void Keep(ZFXError* error) {
         ZFXError*& place = m_errors[m_next];
         m_next = (m_next + 1) % m_errors.size();
@@ -48,12 +48,23 @@ private:
 
     std::array<ZFXError*, ZFXError::kRegistered> m_errors{};
     std::size_t m_next = 0;
-    std::uint32_t m_number = 0;
 };
 
-Registry& ThisThreadsErrors() {
+thread_local bool Registry::ended = false;
+
+/// The registry of this thread, or null once it has ended.
+Registry* ThisThreadsErrors() {
+    if (Registry::ended)
+        return nullptr;
     thread_local Registry registry;
-    return registry;
+    return &registry;
+}
+
+/// A code of its own for each error of the process, so that another thread's finds nothing here.
+HRESULT NextCode() noexcept {
+    static std::atomic<std::uint32_t> number{0};
+    // Failure bit and customer bit: apart from every code that a system defines, E_FAIL among them.
+    return static_cast<HRESULT>(0xA0000000U | (number.fetch_add(1, std::memory_order_relaxed) % 0x0FFFFFFFU + 1));
 }
 
 const char* OrEmpty(const char* text) noexcept { return text == nullptr ? "" : text; }
@@ -76,19 +87,34 @@ ZFXError::ZFXError(const char* msgId, const char* catalog) : m_msgId(OrEmpty(msg
 
 ZFXError::~ZFXError() = default;
 
+ZFXMetaClass* ZFXError::MetaObject() {
+    static ZFXMetaClass* const metaObject = fct_RetrieveMetaObject(
+        "ZFXError", ENUMTypeOfClass::Implementation, ZFXBaseUnknown::MetaObject(), nullptr, "ZFXPlatform", 0);
+    return metaObject;
+}
+
+ZFXMetaClass* ZFXError::GetMetaObject() const { return MetaObject(); }
+
 HRESULT ZFXError::GetReturn(int type, ZFXError* error, ZFXBaseUnknown* /*object*/, const char* sourceFile,
                             int sourceLine) {
     if (error == nullptr)
         return type == ZFXErrorTypeSuccess ? S_OK : E_FAIL;
-    Registry& registry = ThisThreadsErrors();
+    Registry* registry = ThisThreadsErrors();
+    if (registry == nullptr) {
+        error->Release();
+        return E_FAIL;
+    }
     error->SetSourceFileName(sourceFile);
     error->SetSourceLineNumber(sourceLine);
-    error->m_registeredCode = registry.NextCode();
-    registry.Keep(error);
+    error->m_registeredCode = NextCode();
+    registry->Keep(error);
     return error->m_registeredCode;
 }
 
-ZFXError* ZFXError::ZFXGetLastError(HRESULT code, ZFXBaseUnknown* /*object*/) { return ThisThreadsErrors().Find(code); }
+ZFXError* ZFXError::ZFXGetLastError(HRESULT code, ZFXBaseUnknown* /*object*/) {
+    const Registry* registry = ThisThreadsErrors();
+    return registry == nullptr ? nullptr : registry->Find(code);
+}
 
 int ZFXError::GetId() const { return m_registeredCode; }
 const char* ZFXError::GetMsgId() const { return m_msgId.c_str(); }
@@ -196,11 +222,8 @@ ZFXInputError::ZFXInputError(const char* msgId, const char* catalog) : ZFXError(
 ZFXInputError::~ZFXInputError() = default;
 
 ZFXMetaClass* ZFXInputError::MetaObject() {
-    static ZFXMetaClass* const metaObject =
-        fct_RetrieveMetaObject("ZFXInputError", ENUMTypeOfClass::Implementation,
-                               fct_RetrieveMetaObject("ZFXError", ENUMTypeOfClass::Implementation,
-                                                      ZFXBaseUnknown::MetaObject(), nullptr, "ZFXPlatform", 0),
-                               nullptr, "ZFXPlatform", 0);
+    static ZFXMetaClass* const metaObject = fct_RetrieveMetaObject("ZFXInputError", ENUMTypeOfClass::Implementation,
+                                                                   ZFXError::MetaObject(), nullptr, "ZFXPlatform", 0);
     return metaObject;
 }
 

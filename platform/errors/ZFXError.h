@@ -24,10 +24,13 @@ public:
     ZFXError(const char* msgId, const char* catalog);
     ~ZFXError() override;
 
-    /// Registers `error` for the calling thread and returns the code to hand back, which is negative, not
-    /// E_FAIL and no other registered error's. The registry takes over the caller's reference; it keeps the
-    /// last kRegistered errors of a thread and frees the oldest. Without an error: S_OK for type 1, else
-    /// E_FAIL. `object` is for a host's own records.
+    static ZFXMetaClass* MetaObject();
+    ZFXMetaClass* GetMetaObject() const override;
+
+    /// Registers `error`, of whatever type, for the calling thread and returns the code to hand back, which is
+    /// negative, not E_FAIL and no other error's. The registry takes over the caller's reference; it keeps the last
+    /// kRegistered errors of a thread, frees the oldest, and all of them when the thread ends (E_FAIL after that).
+    /// Without an error: S_OK for type 1, else E_FAIL. `object` is for a host's own records.
     static HRESULT GetReturn(int type, ZFXError* error, ZFXBaseUnknown* object, const char* sourceFile, int sourceLine);
     /// The error that this thread registered under the code, or null. [borrowed] It may be gone after the
     /// next GetReturn.
@@ -41,7 +44,7 @@ public:
     virtual void SetSourceFileName(const char* file);
     virtual int GetSourceLineNumber() const;
     virtual void SetSourceLineNumber(int line);
-    /// The message in UTF-8; valid as long as the error.
+    /// The message in UTF-8; valid until it is asked for again.
     virtual const char* GetMessageText();
     /// The whole message for the user: request, diagnostic and advice, each as the catalog gives it with the
     /// parameters set in; the message id where the catalog has nothing.

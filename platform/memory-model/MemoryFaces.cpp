@@ -104,7 +104,7 @@ HRESULT MemoryZFXISamAnalysisSet::ListMembers(ZFXListValZFXISpecObject_var& memb
     const MemoryObjects& objects = Object().ExtrasOrNone().members;
     members.Reserve(members.Size() + static_cast<int>(objects.size()));
     for (MemoryObject* member : objects)
-        members.Append(ZFXISpecObject_var::TakeOver(member->Spec()));
+        members.Append(Face<ZFXISpecObject>(member));
     return answer.code;
 }
 

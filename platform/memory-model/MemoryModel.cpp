@@ -54,8 +54,10 @@ MemoryFeature MemoryFeature::History() const { return MemoryFeature(FirstChildOf
 MemoryFeature& MemoryFeature::Alias(const ZFXUnicodeString& alias) { MEMORY_SENTENCE(m_object->alias = alias); }
 MemoryFeature& MemoryFeature::Unnamed() { MEMORY_SENTENCE(m_object->alias = ""); }
 MemoryFeature& MemoryFeature::Attribute(const char* name, const ZFXUnicodeString& value) {
-    if (std::string_view(name) == "Alias")
+    if (m_object != nullptr && std::string_view(name) == "Alias") {
+        m_object->aliasKey = true;
         return Alias(value);
+    }
     MEMORY_SENTENCE(m_object->Extras().attributes.insert_or_assign(name, value));
 }
 MemoryFeature& MemoryFeature::WithoutAttribute(const char* name) {

@@ -18,20 +18,18 @@ const MemoryLateType& MemoryLateType::Of(const ZFXUnicodeString& name) {
 }
 
 MemoryAnswer MemoryFaults::AskRules(MemoryRequest request, const MemoryObject* object) {
-    for (auto rule = m_rules.begin(); rule != m_rules.end(); ++rule) {
-        const bool meant = (rule->request == MemoryRequest::Any || rule->request == request) &&
-                           (rule->object == nullptr || rule->object == object);
-        if (!meant)
-            continue;
-        if (rule->countdown == kAlways)
-            return rule->answer;
-        if (--rule->countdown > 0)
-            continue;
-        const MemoryAnswer answer = rule->answer;
-        m_rules.erase(rule);
-        return answer;
-    }
-    return kSuccess;
+    MemoryAnswer answer = kSuccess;
+    bool answered = false;
+    // Every rule that is meant counts the request, whichever of them answers it: the first that is due.
+    std::erase_if(m_rules, [&](Rule& rule) {
+        const bool meant = (rule.request == MemoryRequest::Any || rule.request == request) &&
+                           (rule.object == nullptr || rule.object == object);
+        const bool due = meant && (rule.countdown == kAlways || --rule.countdown == 0);
+        if (due && !std::exchange(answered, true))
+            answer = rule.answer;
+        return due && rule.countdown != kAlways;
+    });
+    return answer;
 }
 
 MemoryObject::MemoryObject(MemoryDocumentObject* owner, MemoryKind objectKind, const MemoryLateType& type)
@@ -69,7 +67,7 @@ void MemoryObject::Offer(const IID& iid) {
     const auto number = static_cast<std::size_t>(ZFXNumberOf(iid));
     m_offered.set(number);
     m_withheld.reset(number);
-    Face(ZFXNumberOf(iid)); // made now, so that a query never makes anything
+    FaceOf(ZFXNumberOf(iid)); // made now, so that a query never makes anything
 }
 
 void MemoryObject::Withhold(const IID& iid) {
@@ -78,15 +76,12 @@ void MemoryObject::Withhold(const IID& iid) {
     m_withheld.set(number);
 }
 
-ZFXISpecObject* MemoryObject::Spec() {
-    if (!IsOffered(ZFXInterfaceNumber::ZFXISpecObject))
-        return nullptr;
-    AddRef();
-    return &m_spec;
+ZFXBaseUnknown* MemoryObject::OwnFace(ZFXInterfaceNumber number) {
+    return IsOffered(number) ? FaceOf(number) : nullptr;
 }
 
-MemoryObject* MemoryObject::NearestOffering(ZFXInterfaceNumber number) {
-    MemoryObject* at = this;
+MemoryObject* MemoryObject::NearestAbove(ZFXInterfaceNumber number) const {
+    MemoryObject* at = parent;
     while (at != nullptr && !at->IsOffered(number))
         at = at->parent;
     return at;
@@ -117,7 +112,7 @@ void MemoryObject::Detach() {
 }
 
 /// The face of that number. Offered ones have been made, so a query allocates nothing.
-ZFXBaseUnknown* MemoryObject::Face(ZFXInterfaceNumber number) {
+ZFXBaseUnknown* MemoryObject::FaceOf(ZFXInterfaceNumber number) {
     switch (number) {
     case ZFXInterfaceNumber::ZFXIAlias:
         return &m_aliasFace;
@@ -182,9 +177,7 @@ HRESULT MemoryObject::QueryInterface(const IID& iid, void** face) {
         *face = factory(this, nullptr);
         return *face == nullptr ? E_NOINTERFACE : S_OK;
     }
-    if (!IsOffered(number))
-        return E_NOINTERFACE;
-    ZFXBaseUnknown* own = Face(number);
+    ZFXBaseUnknown* own = OwnFace(number);
     if (own == nullptr)
         return E_NOINTERFACE;
     AddRef();

@@ -60,7 +60,7 @@ public:
     void Clear() { m_rules.clear(); }
 
     static constexpr MemoryAnswer kSuccess{S_OK, true};
-    static constexpr long kAlways = 0;
+    static constexpr long kAlways = -1;
 
 private:
     struct Rule {
@@ -180,10 +180,10 @@ public:
     void Offer(const IID& iid);
     void Withhold(const IID& iid);
     bool IsOffered(ZFXInterfaceNumber number) const { return m_offered.test(static_cast<std::size_t>(number)); }
-    /// The object as a feature, or null when it does not offer that. No request. [new reference]
-    ZFXISpecObject* Spec();
-    /// The nearest object at or above this one in the tree that offers the interface, or null.
-    MemoryObject* NearestOffering(ZFXInterfaceNumber number);
+    /// The nearest object above this one in the tree that offers the interface, or null.
+    MemoryObject* NearestAbove(ZFXInterfaceNumber number) const;
+    /// The object's own face of that number, or null when it does not offer it. No request. [borrowed]
+    ZFXBaseUnknown* OwnFace(ZFXInterfaceNumber number);
     /// An attribute of `owner` points at this object from now on.
     void AddPointing(MemoryObject* owner);
     /// Those that others hold, on the object or on an attribute that points at it.
@@ -205,7 +205,7 @@ public:
 
 private:
     using Interfaces = std::bitset<32>;
-    ZFXBaseUnknown* Face(ZFXInterfaceNumber number);
+    ZFXBaseUnknown* FaceOf(ZFXInterfaceNumber number);
     template <class Visit>
     void ForEachPointing(Visit visit) const {
         const ZFXListValZFXISpecAttribute_var& pointing = ExtrasOrNone().pointing;
@@ -223,6 +223,14 @@ private:
     MemoryZFXISamAnalysisEntity m_entity;
     MemoryQVRIPropagatingFeature m_propagating;
 };
+
+/// A handle on the object's own face, without a request; empty when there is no object or it does not offer it.
+template <class Interface>
+ZFXHandle<Interface> Face(MemoryObject* object) {
+    if (object == nullptr)
+        return {};
+    return ZFXHandle<Interface>(static_cast<Interface*>(object->OwnFace(ZFXNumberOf(Interface::ClassId()))));
+}
 
 template <class Interface>
 MemoryObject& MemoryFace<Interface>::Object() const noexcept {

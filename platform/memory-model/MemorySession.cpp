@@ -50,11 +50,13 @@ MemoryDocumentObject::MemoryDocumentObject(MemorySession& owner) : session(owner
     meshManager = Make(MemoryKind::MeshManager, "MSHMeshManager", "Mesh Manager", model);
 }
 
-MemoryDocumentObject::~MemoryDocumentObject() {
+void MemoryDocumentObject::Close() {
     for (MemoryObject* object : objects)
         object->Detach();
     for (MemoryObject* object : objects)
         object->Release();
+    objects.clear();
+    model = meshManager = currentCase = nullptr;
 }
 
 MemoryObject* MemoryDocumentObject::Make(MemoryKind kind, const ZFXUnicodeString& lateType,
@@ -75,8 +77,7 @@ MemoryObject* MemoryDocumentObject::Make(MemoryKind kind, const ZFXUnicodeString
         object->Offer(IID_ZFXISamAnalysisEntity);
         parent->Extras().members.push_back(object);
         object->holdingSets.push_back(parent);
-        if (kind == MemoryKind::Feature && parent->parent != nullptr &&
-            parent->NearestOffering(ZFXInterfaceNumber::QVRIStep) != nullptr)
+        if (kind == MemoryKind::Feature && object->NearestAbove(ZFXInterfaceNumber::QVRIStep) != nullptr)
             object->Offer(IID_QVRIPropagatingFeature);
     }
     if (parent->kind == MemoryKind::History)
@@ -96,8 +97,10 @@ MemorySession::MemorySession() { Install(this); }
 MemorySession::~MemorySession() {
     if (Installed() == this)
         Install(nullptr);
-    for (MemoryDocumentObject* document : documents)
+    for (MemoryDocumentObject* document : documents) {
+        document->Close();
         document->Release();
+    }
     for (const auto& [name, key] : keys)
         key->Release();
 }
@@ -148,7 +151,7 @@ HRESULT MemorySession::GetJobs(const ZFXListValZFXBaseUnknown_var& cases, ZFXLis
         for (MemoryObject* child : analysisCase->ExtrasOrNone().children)
             if (child->kind == MemoryKind::JobContainer)
                 for (MemoryObject* job : child->ExtrasOrNone().members)
-                    jobs.Append(ZFXISpecObject_var::TakeOver(job->Spec()));
+                    jobs.Append(Face<ZFXISpecObject>(job));
     }
     return answer.code;
 }
@@ -160,7 +163,7 @@ HRESULT MemorySession::GetAnalysisModel(ZFXISamAnalysisModel_var& model, const Z
         return answer.code;
     if (asked == nullptr)
         return E_FAIL;
-    model = ZFXISamAnalysisModel_var(asked->model);
+    model = Face<ZFXISamAnalysisModel>(asked->model);
     return answer.code;
 }
 
@@ -171,7 +174,7 @@ HRESULT MemorySession::GetMeshManager(ZFXIMSHMeshManager_var& manager, const ZFX
         return answer.code;
     if (asked == nullptr)
         return E_FAIL;
-    manager = ZFXIMSHMeshManager_var(asked->meshManager);
+    manager = Face<ZFXIMSHMeshManager>(asked->meshManager);
     return answer.code;
 }
 
@@ -188,8 +191,8 @@ HRESULT MemorySession::GetParentStep(const ZFXISpecObject_var& feature, ZFXISpec
         return answer.code;
     if (object == nullptr)
         return E_FAIL;
-    if (MemoryObject* found = object->NearestOffering(ZFXInterfaceNumber::QVRIStep))
-        step = ZFXISpecObject_var::TakeOver(found->Spec());
+    if (MemoryObject* found = object->NearestAbove(ZFXInterfaceNumber::QVRIStep))
+        step = Face<ZFXISpecObject>(found);
     return answer.code;
 }
 
@@ -198,11 +201,10 @@ HRESULT MemorySession::GetParentCaseFromObject(const ZFXISpecObject_var& feature
     const MemoryAnswer answer = faults.Ask(MemoryRequest::GetParentCaseFromObject, object);
     if (!answer.filled)
         return answer.code;
-    MemoryObject* found =
-        object == nullptr ? nullptr : object->NearestOffering(ZFXInterfaceNumber::ZFXISamAnalysisCase);
+    MemoryObject* found = object == nullptr ? nullptr : object->NearestAbove(ZFXInterfaceNumber::ZFXISamAnalysisCase);
     if (found == nullptr)
         return E_FAIL;
-    parent = ZFXISpecObject_var::TakeOver(found->Spec());
+    parent = Face<ZFXISpecObject>(found);
     return answer.code;
 }
 
@@ -222,6 +224,6 @@ HRESULT MemorySession::GetCurrentAnalysisCaseSP(ZFXISamAnalysisCase_var& analysi
     const MemoryAnswer answer = faults.Ask(MemoryRequest::GetCurrentAnalysisCaseSP, nullptr);
     const MemoryDocumentObject* asked = DocumentOr(document);
     if (answer.filled)
-        analysisCase = asked == nullptr ? ZFXISamAnalysisCase_var() : ZFXISamAnalysisCase_var(asked->currentCase);
+        analysisCase = Face<ZFXISamAnalysisCase>(asked == nullptr ? nullptr : asked->currentCase);
     return answer.code;
 }

@@ -7,7 +7,9 @@
 class MemoryDocumentObject final : public ZFXDocument {
 public:
     explicit MemoryDocumentObject(MemorySession& owner);
-    ~MemoryDocumentObject() override;
+
+    /// The model goes: every object is let go, and what others still hold stands alone.
+    void Close();
 
     /// A new object below `parent`, with what its kind brings.
     MemoryObject* Make(MemoryKind kind, const ZFXUnicodeString& lateType, const ZFXUnicodeString& alias,

@@ -5,7 +5,8 @@
 
 /// A dictionary entry: tells the platform that an interface is offered on the objects which `extension`
 /// extends, by the adaptors that `factory` makes. A module keeps the entry for as long as it is loaded: the
-/// entry is made with the object and withdrawn with it.
+/// entry is made with the object and withdrawn with it. Adaptors are released before their module is unloaded: their
+/// code goes with it.
 class ZFX_PLATFORM_EXPORT ZFXFillDictionary {
 public:
     /// A second factory and the flag are for a host's own records.

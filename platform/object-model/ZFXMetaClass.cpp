@@ -19,8 +19,8 @@ GUID IdOfName(std::string_view name) noexcept {
 }
 
 /// Never destroyed: modules and objects may outlive this library's own end.
-std::map<std::string, std::unique_ptr<ZFXMetaClass>, std::less<>>& Registry() {
-    static auto* const registry = new std::map<std::string, std::unique_ptr<ZFXMetaClass>, std::less<>>;
+std::map<std::string, std::unique_ptr<ZFXMetaClass>>& Registry() {
+    static auto* const registry = new std::map<std::string, std::unique_ptr<ZFXMetaClass>>;
     return *registry;
 }
 
@@ -53,21 +53,21 @@ int ZFXMetaClass::IsExtensionOf(const ZFXMetaClass* extended) const noexcept {
                                       extended->m_extensions.end();
 }
 
+void ZFXMetaClass::Declare(ENUMTypeOfClass kind, ZFXMetaClass* base) noexcept {
+    m_kind = kind;
+    m_base = base;
+    m_declared = true;
+}
+
 ZFXAdaptorFactory ZFXMetaClass::FindAdaptorFactory(const IID& iid) const noexcept {
     for (const ZFXMetaClass* extension : m_extensions)
-        for (const Adaptor& adaptor : extension->m_adaptors)
-            if (adaptor.iid == iid)
-                return adaptor.factory;
+        for (auto adaptor = extension->m_adaptors.rbegin(); adaptor != extension->m_adaptors.rend(); ++adaptor)
+            if (adaptor->iid == iid)
+                return adaptor->factory;
     return nullptr;
 }
 
-void ZFXMetaClass::SetAdaptorFactory(const IID& iid, ZFXAdaptorFactory factory) {
-    for (Adaptor& adaptor : m_adaptors) {
-        if (adaptor.iid == iid) {
-            adaptor.factory = factory;
-            return;
-        }
-    }
+void ZFXMetaClass::AddAdaptorFactory(const IID& iid, ZFXAdaptorFactory factory) {
     m_adaptors.push_back({iid, factory});
 }
 
@@ -77,20 +77,30 @@ void ZFXMetaClass::RemoveAdaptorFactory(const IID& iid, ZFXAdaptorFactory factor
 
 ZFXMetaClass* fct_RetrieveMetaObject(const char* name, ENUMTypeOfClass kind, ZFXMetaClass* base,
                                      const char* firstExtended, const char* /*framework*/, int /*level*/) {
-    if (name == nullptr)
-        return nullptr;
-    std::unique_ptr<ZFXMetaClass>& metaClass = Registry()[name];
+    ZFXMetaClass* metaClass = fct_FindMetaObject(name);
     if (metaClass == nullptr)
-        metaClass = std::make_unique<ZFXMetaClass>(nullptr, name, base, nullptr, static_cast<int>(kind));
+        return nullptr;
+    if (!metaClass->IsDeclared())
+        metaClass->Declare(kind, base);
     metaClass->SetExtensionOf(fct_FindMetaObject(firstExtended));
+    return metaClass;
+}
+
+ZFXMetaClass* fct_RetrieveAdaptorMetaObject(const IID& iid, const char* interfaceName, ZFXMetaClass* interfaceClass,
+                                            ZFXMetaClass* implementation) {
+    std::unique_ptr<ZFXMetaClass>& metaClass = Registry()[std::string(implementation->IsA()) + "/" + interfaceName];
+    if (metaClass == nullptr)
+        metaClass = std::make_unique<ZFXMetaClass>(&iid, interfaceName, interfaceClass, implementation,
+                                                   static_cast<int>(ENUMTypeOfClass::TIE));
     return metaClass.get();
 }
 
 ZFXMetaClass* fct_FindMetaObject(const char* name) {
     if (name == nullptr)
         return nullptr;
-    const auto known = Registry().find(std::string_view(name));
-    return known != Registry().end()
-               ? known->second.get()
-               : fct_RetrieveMetaObject(name, ENUMTypeOfClass::Implementation, nullptr, nullptr, nullptr, 0);
+    std::unique_ptr<ZFXMetaClass>& metaClass = Registry()[name];
+    if (metaClass == nullptr)
+        metaClass = std::make_unique<ZFXMetaClass>(nullptr, name, nullptr, nullptr,
+                                                   static_cast<int>(ENUMTypeOfClass::Implementation));
+    return metaClass.get();
 }

@@ -51,12 +51,16 @@ public:
     /// null.
     ZFXAdaptorFactory FindAdaptorFactory(const IID& iid) const noexcept;
 
-    /// The dictionary's side: which interface this extension offers, and how its adaptor is made. A second
-    /// entry for the same interface replaces the first.
-    void SetAdaptorFactory(const IID& iid, ZFXAdaptorFactory factory);
-    /// Withdraws the entry for the interface if it still names this factory.
+    /// The dictionary's side: which interface this extension offers, and how its adaptor is made. Of several entries
+    /// for one interface the latest that stands counts: a module may be loaded twice.
+    void AddAdaptorFactory(const IID& iid, ZFXAdaptorFactory factory);
+    /// Withdraws the entry for the interface that names this factory.
     void RemoveAdaptorFactory(const IID& iid, ZFXAdaptorFactory factory);
     int CountAdaptorFactories() const noexcept { return static_cast<int>(m_adaptors.size()); }
+
+    /// Whether it was declared, and not only asked for by its name. A declaration settles kind and base.
+    bool IsDeclared() const noexcept { return m_declared; }
+    void Declare(ENUMTypeOfClass kind, ZFXMetaClass* base) noexcept;
 
 private:
     struct Adaptor {
@@ -69,6 +73,7 @@ private:
     ZFXMetaClass* m_base;
     ZFXMetaClass* m_implementation;
     ENUMTypeOfClass m_kind;
+    bool m_declared = false;
     std::vector<ZFXMetaClass*> m_extensions; // of this late type
     std::vector<Adaptor> m_adaptors;         // offered by this extension
 };
@@ -77,6 +82,11 @@ private:
 /// is null. `framework` and `level` are for a host's own records. [borrowed]
 ZFX_PLATFORM_EXPORT ZFXMetaClass* fct_RetrieveMetaObject(const char* name, ENUMTypeOfClass kind, ZFXMetaClass* base,
                                                          const char* firstExtended, const char* framework, int level);
+/// The meta class of the adaptors that offer an interface for an implementation class, made on the first call.
+/// [borrowed]
+ZFX_PLATFORM_EXPORT ZFXMetaClass* fct_RetrieveAdaptorMetaObject(const IID& iid, const char* interfaceName,
+                                                                ZFXMetaClass* interfaceClass,
+                                                                ZFXMetaClass* implementation);
 /// The meta class of a class or late type; one is made for a name that is not known yet, so that the order in
 /// which modules are loaded does not matter. Null for a null name. [borrowed]
 ZFX_PLATFORM_EXPORT ZFXMetaClass* fct_FindMetaObject(const char* name);

@@ -15,9 +15,9 @@ struct ZFXTie {
 /// Makes a new implementation object with one reference, or null when there is no memory.
 using ZFXImplementationMaker = ZFXBaseUnknown* (*)();
 
-/// Builds an adaptor: takes a reference on `object`, makes the implementation and ties both together; the
-/// adaptor has one reference afterwards. Returns the implementation that the module's next adaptor may share:
-/// null, as each adaptor of this platform gets one of its own. When it cannot be made, `tie.implementation`
+/// Builds an adaptor: takes a reference on `object`, which is not null, makes the implementation and ties both
+/// together; the adaptor has one reference afterwards. Returns the implementation that the module's next adaptor may
+/// share: null, as each adaptor of this platform gets one of its own. When it cannot be made, `tie.implementation`
 /// stays null. `previous` and `context` are for a host that keeps its own.
 ZFX_PLATFORM_EXPORT ZFXBaseUnknown* Tie_Construct(ZFXBaseUnknown* adaptor, ZFXTie& tie, ZFXMetaClass* adaptorClass,
                                                   const CLSID& extension, ENUMTypeOfClass kind,

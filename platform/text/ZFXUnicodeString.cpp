@@ -30,9 +30,10 @@ ZFXUnicodeString::ZFXUnicodeString(const char* text) : ZFXUnicodeString() {
 }
 
 ZFXUnicodeString::ZFXUnicodeString(const ZFXUnicodeChar& c, std::size_t n) : ZFXUnicodeString() {
-    Reserve(static_cast<int>(n));
-    std::fill_n(Data(), n, char16_t{c.ConvertToUC2Bytes()});
-    m_length = static_cast<int>(n);
+    const auto count = static_cast<int>(std::min(n, Size(std::numeric_limits<int>::max())));
+    Reserve(count);
+    std::fill_n(Data(), count, char16_t{c.ConvertToUC2Bytes()});
+    m_length = count;
 }
 
 ZFXUnicodeString& ZFXUnicodeString::operator=(const ZFXUnicodeString& other) {
@@ -252,8 +253,8 @@ int ZFXUnicodeString::ReplaceSubString(int start, int count, const ZFXUnicodeStr
 void ZFXUnicodeString::Remove(int start, int count) { ReplaceSubString(start, count, ZFXUnicodeString()); }
 
 void ZFXUnicodeString::Resize(int n) {
-    if (n < m_length)
-        Replace(std::max(n, 0), m_length - std::max(n, 0), {});
+    if (n >= 0 && n < m_length)
+        Replace(n, m_length - n, {});
 }
 
 void ZFXUnicodeString::ToUpper() {

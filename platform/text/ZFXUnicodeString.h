@@ -28,8 +28,8 @@ public:
     ZFXUnicodeString(const char* text);
     /// n times c.
     ZFXUnicodeString(const ZFXUnicodeChar& c, std::size_t n);
-    explicit ZFXUnicodeString(std::u16string_view units) { Assign(units); }
-    ZFXUnicodeString(const ZFXUnicodeString& other) {
+    explicit ZFXUnicodeString(std::u16string_view units) : ZFXUnicodeString() { Assign(units); }
+    ZFXUnicodeString(const ZFXUnicodeString& other) : ZFXUnicodeString() {
         if (other.m_length <= kInlineUnits && other.IsInline())
             CopyInline(other);
         else
@@ -84,7 +84,8 @@ public:
         return ZFXUnicodeChar::FromUnit(i < static_cast<std::size_t>(m_length) ? Data()[i] : char16_t{0});
     }
 
-    /// The text in UTF-8, zero-terminated; valid until the string is changed or destroyed.
+    /// The text in UTF-8, zero-terminated (a U+0000 within ends it for its readers); valid until the string is
+    /// changed or destroyed.
     const char* ConvertToChar() const;
     operator const char*() const { return ConvertToChar(); }
     /// Reads a leading decimal integer in the manner of "%d": ASCII white space, one sign, digits; what
@@ -105,7 +106,7 @@ public:
     int ReplaceSubString(const ZFXUnicodeString& old, const ZFXUnicodeString& text);
     int ReplaceSubString(int start, int count, const ZFXUnicodeString& text);
     void Remove(int start, int count);
-    /// Keeps the first n units; a longer n changes nothing.
+    /// Keeps the first n units; a longer or negative n changes nothing.
     void Resize(int n);
     /// Unicode simple case mappings, character by character: the length stays.
     void ToUpper();

@@ -27,7 +27,10 @@ TEST(Error, IsFoundUnderItsOwnCodeUntilManyOthersCame) {
     EXPECT_STREQ(error->GetSourceFileName(), "File.cpp");
     EXPECT_EQ(error->GetSourceLineNumber(), 7);
     EXPECT_TRUE(error->IsAKindOf("ZFXInputError") && error->IsAKindOf("ZFXError"));
-    std::thread([&] { EXPECT_EQ(ZFXError::ZFXGetLastError(first, nullptr), nullptr); }).join();
+    std::thread([&] {
+        EXPECT_EQ(Said(Raise("Elsewhere")), "Elsewhere");
+        EXPECT_EQ(ZFXError::ZFXGetLastError(first, nullptr), nullptr);
+    }).join();
     const long before = ZFXBaseUnknown::LiveAllocations();
     for (int i = 0; i < 10 * ZFXError::kRegistered; ++i)
         Raise("Later");

@@ -102,6 +102,11 @@ TEST(MetaClass, IsOneForAName) {
     ZFXMetaClass* unknown = fct_FindMetaObject("A type that nobody declared yet");
     ASSERT_NE(unknown, nullptr);
     EXPECT_EQ(fct_FindMetaObject("A type that nobody declared yet"), unknown);
+    const ZFXMetaClass* declared =
+        fct_RetrieveMetaObject("A type that nobody declared yet", ENUMTypeOfClass::DataExtension,
+                               ZFXBaseUnknown::MetaObject(), nullptr, "Tests", 0);
+    EXPECT_EQ(declared, unknown); // asked for by name first, declared later
+    EXPECT_TRUE(declared->IsAKindOf("ZFXBaseUnknown") && declared->GetTypeOfClass() == ENUMTypeOfClass::DataExtension);
     ZFXMetaClass* extension = fct_RetrieveMetaObject("An extension", ENUMTypeOfClass::DataExtension,
                                                      ZFXBaseUnknown::MetaObject(), "A late type", "Tests", 0);
     EXPECT_TRUE(extension->IsExtensionOf(fct_FindMetaObject("A late type")));

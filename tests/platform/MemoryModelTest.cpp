@@ -94,6 +94,11 @@ TEST_F(MemoryModelTest, AnyRequestCanBeToldWhatToAnswer) {
     EXPECT_EQ(members(), std::pair(1, 0));
     EXPECT_EQ(members(), std::pair(1, 0));
     model.Heal();
+    model.AnswerOnce(MemoryRequest::Any, 2); // each rule counts every request that it is meant for
+    model.AnswerOnce(MemoryRequest::ListMembers, 3);
+    EXPECT_EQ(members(), std::pair(S_OK, 1));
+    EXPECT_EQ(members(), std::pair(E_UNEXPECTED, 0));
+    EXPECT_EQ(members(), std::pair(E_UNEXPECTED, 0));
     EXPECT_EQ(members(), std::pair(S_OK, 1));
     model.AnswerAlways(MemoryRequest::Cast);
     EXPECT_FALSE(ZFXIAlias_var(loads));
@@ -103,12 +108,15 @@ TEST(MemoryModelLife, ObjectsOutliveTheModelForWhoHoldsThem) {
     const long before = MemoryModel::LiveObjects();
     ZFXISpecObject_var held;
     ZFXISpecAttribute_var attribute;
+    ZFXBaseUnknown_var heldDocument;
     {
         MemoryModel model;
-        MemoryFeature step = model.NewDocument().Case("Static").Step("T", "Step-1");
+        MemoryDocument document = model.NewDocument();
+        MemoryFeature step = document.Case("Static").Step("T", "Step-1");
+        heldDocument = document.Document();
         held = step;
         attribute = (*held->ListPointingAttributes("ZFXISpecObject", "", ""))[1];
-        EXPECT_EQ(model.References(), 2);
+        EXPECT_EQ(model.References(), 3);
         EXPECT_EQ(step.References(), 2);
     }
     EXPECT_EQ(MemoryModel::LiveObjects(), before + 1);

@@ -140,6 +140,8 @@ TEST(UnicodeString, SearchesStripsAndCuts) {
     cut.Resize(500);
     EXPECT_EQ(cut.GetLengthInChar(), 72);
     cut.Resize(-1);
+    EXPECT_EQ(cut.GetLengthInChar(), 72);
+    cut.Resize(0);
     EXPECT_TRUE(cut.IsNull());
     EXPECT_EQ(String("ab")[7].ConvertToUC2Bytes(), 0);
 }

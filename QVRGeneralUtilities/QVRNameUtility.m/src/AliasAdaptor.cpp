@@ -6,9 +6,9 @@
 namespace {
 
 ZFXMetaClass* AdaptorClass() {
-    static ZFXMetaClass adaptorClass(&IID_ZFXIAlias, "ZFXIAlias", ZFXIAlias::MetaObject(),
-                                     QVREFeatureAlias::MetaObject(), static_cast<int>(ENUMTypeOfClass::TIE));
-    return &adaptorClass;
+    static ZFXMetaClass* const adaptorClass = fct_RetrieveAdaptorMetaObject(
+        IID_ZFXIAlias, "ZFXIAlias", ZFXIAlias::MetaObject(), QVREFeatureAlias::MetaObject());
+    return adaptorClass;
 }
 
 /// What Tie_Construct gave for the module's last adaptor, to be offered to the next.

@@ -49,6 +49,8 @@ void QVRBaseFeatureAlias::SetAlias(const ZFXUnicodeString& alias) {
         return;
     }
     SetAttribute(candidate); // the checks see the feature under its new name
+    if (candidate.IsNull() != 0 && GetAlias().IsNull() == 0)
+        SetAttribute(candidate); // an empty one is checked as what is stored, so it must be
     const ZFXUnicodeString lateType = feature->GetLateType();
     const unsigned char checkStartAndEnd = lateType == Vocabulary::QVRShellSectionEnhLT ? 0 : 1;
     HRESULT code = QVRNameUtil::CheckName(feature, candidate, checkStartAndEnd);

@@ -27,9 +27,10 @@ ZFXUnicodeString Lowered(ZFXUnicodeString text) {
 HRESULT QVRNameUtil::GetUniqueNameForJob(ZFXUnicodeString& name) {
     const ZFXListValZFXISpecObject_var jobs = AllJobs();
     const ZFXUnicodeString base = Lowered(Vocabulary::JobBase);
-    const int number = Numbering::NextNumber(
-        jobs.Size(), [&](int i) { return Numbering::NumberAfter(base, Lowered(NameOf(jobs[i]))); });
-    name = Numbering::Numbered(Vocabulary::JobBase, number);
+    Numbering::InUse numbers(jobs.Size());
+    for (int i = 1; i <= jobs.Size(); ++i)
+        numbers.Add(Numbering::NumberAfter(base, Lowered(NameOf(jobs[i]))));
+    name = Numbering::Numbered(Vocabulary::JobBase, numbers.Next());
     return S_OK;
 }
 

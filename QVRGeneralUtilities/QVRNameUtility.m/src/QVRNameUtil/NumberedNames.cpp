@@ -7,9 +7,10 @@
 #include "internal/Numbering.h"
 
 HRESULT QVRNameUtil::GetNextUniqueName(ZFXUnicodeString& name, const ZFXListValZFXBaseUnknown_var& scope) {
-    const int number =
-        Numbering::NextNumber(scope.Size(), [&](int i) { return Numbering::NumberAfter(name, NameOf(scope[i])); });
-    name = Numbering::Numbered(name, number);
+    Numbering::InUse numbers(scope.Size());
+    for (int i = 1; i <= scope.Size(); ++i)
+        numbers.Add(Numbering::NumberAfter(name, NameOf(scope[i])));
+    name = Numbering::Numbered(name, numbers.Next());
     return S_OK;
 }
 

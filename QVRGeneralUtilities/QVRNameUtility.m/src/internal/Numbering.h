@@ -16,22 +16,28 @@ int NumberAfter(const ZFXUnicodeString& base, const ZFXUnicodeString& name) noex
 /// The base with the number behind it.
 ZFXUnicodeString Numbered(const ZFXUnicodeString& base, int number);
 
-/// The number to propose next in a scope of `count` elements, of which element i (from 1) uses `numberOf(i)`:
-/// one more than the highest; when there is none above the highest, the lowest number that no element uses.
-template <class NumberOf>
-int NextNumber(int count, NumberOf numberOf) {
-    int highest = 0;
-    for (int i = 1; i <= count; ++i)
-        highest = std::max(highest, numberOf(i));
-    if (highest < std::numeric_limits<int>::max())
-        return highest + 1;
-    std::vector<bool> used(static_cast<std::size_t>(count) + 2); // count elements leave one of count + 1 numbers free
-    for (int i = 1; i <= count; ++i) {
-        const int number = numberOf(i);
-        if (number > 0 && number <= count)
-            used[static_cast<std::size_t>(number)] = true;
+/// The numbers that are in use in a scope.
+class InUse {
+public:
+    /// For a scope of at most `count` names.
+    explicit InUse(int count) : m_low(static_cast<std::size_t>(count) + 2) {}
+
+    void Add(int number) noexcept {
+        m_highest = std::max(m_highest, number);
+        if (number > 0 && static_cast<std::size_t>(number) < m_low.size())
+            m_low[static_cast<std::size_t>(number)] = true;
     }
-    return static_cast<int>(std::find(used.begin() + 1, used.end(), false) - used.begin());
-}
+    /// One more than the highest; when there is none above the highest, the lowest that is free. (Of one number more
+    /// than there are names one is free.)
+    int Next() const {
+        if (m_highest < std::numeric_limits<int>::max())
+            return m_highest + 1;
+        return static_cast<int>(std::find(m_low.begin() + 1, m_low.end(), false) - m_low.begin());
+    }
+
+private:
+    int m_highest = 0;
+    std::vector<bool> m_low;
+};
 
 } // namespace Numbering
