@@ -14,16 +14,16 @@ public:
     ~QVRBaseFeatureAlias() override;
 
     /// The stored alias; empty when it was never set or cannot be read.
-    ZFXUnicodeString GetAlias();
+    ZFXUnicodeString GetAlias() noexcept;
     /// Trims blanks, then underscores, at both ends, stores the rest and checks it on the feature: by
     /// QVRNameUtil::CheckName (a leading digit is legal for "QVRShellSectionEnhLT"), whose answer for a job gives way
     /// to that of QVRNameUtil::IsNameUniqueAcrossCases. After a refusal the former alias, as it was read, is back; when
     /// the refusal registered an error, "NAME ERROR: " and its message are written as one line on standard output.
     /// Without ZFXISpecAttrAccess or an "Alias" attribute nothing is stored; without ZFXISpecObject nothing is checked
     /// or changed.
-    void SetAlias(const ZFXUnicodeString& alias);
+    void SetAlias(const ZFXUnicodeString& alias) noexcept;
 
 private:
     /// Stores a value without any check.
-    void SetAttribute(const ZFXUnicodeString& value);
+    void SetAttribute(const ZFXUnicodeString& value) noexcept;
 };

@@ -12,18 +12,18 @@ public:
     QVREFeatureAlias();
     ~QVREFeatureAlias() override;
 
-    void SetAlias(const ZFXUnicodeString& alias);
-    ZFXUnicodeString GetAlias();
+    void SetAlias(const ZFXUnicodeString& alias) noexcept;
+    ZFXUnicodeString GetAlias() noexcept;
 
     /// The meta class, made and declared an extension of the late types by the first call. [borrowed]
-    static ZFXMetaClass* MetaObject();
-    ZFXMetaClass* GetMetaObject() const override;
-    static const GUID& ClassId();
-    static const char* ClassName();
-    const char* IsA() const override;
-    int IsAKindOf(const char* name) const override;
+    static ZFXMetaClass* MetaObject() noexcept;
+    ZFXMetaClass* GetMetaObject() const noexcept override;
+    static const GUID& ClassId() noexcept;
+    static const char* ClassName() noexcept;
+    const char* IsA() const noexcept override;
+    int IsAKindOf(const char* name) const noexcept override;
     /// A new object, or null when there is no memory. [new reference]
-    static ZFXBaseUnknown* CreateItself();
+    static ZFXBaseUnknown* CreateItself() noexcept;
 
     static ZFXMetaClass* meta_object;
 };

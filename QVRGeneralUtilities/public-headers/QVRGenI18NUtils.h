@@ -13,7 +13,7 @@
 class QVR_NAME_UTILITY_EXPORT QVRGenI18NUtils {
 public:
     /// The one object, made by the first call and never destroyed. [borrowed]
-    static QVRGenI18NUtils* Instance();
+    static QVRGenI18NUtils* Instance() noexcept;
     QVRGenI18NUtils(const QVRGenI18NUtils& other);
     QVRGenI18NUtils& operator=(const QVRGenI18NUtils&) = delete;
     virtual ~QVRGenI18NUtils();
@@ -21,41 +21,41 @@ public:
     // ---- Locales ----
 
     /// Runs IsEnglishMode.
-    void GetInitialLocales();
+    void GetInitialLocales() noexcept;
     /// Whether the user's default locale and the calling thread's input locale were both English when this
     /// was first asked. The first call writes one line on standard output for each of the two; later calls
     /// write nothing and answer the same, whatever the locales are by then. English are the 13 locale
     /// identifiers 0x0409, 0x0809 and so on to 0x3409, compared whole; of the input locale the low 16 bits.
-    unsigned char IsEnglishMode();
+    unsigned char IsEnglishMode() noexcept;
     /// What IsEnglishMode found out; 0 before its first call.
-    unsigned char IsInitialUserLocaleEnglish();
-    unsigned char IsInitialInputLocaleEnglish();
+    unsigned char IsInitialUserLocaleEnglish() noexcept;
+    unsigned char IsInitialInputLocaleEnglish() noexcept;
     /// The locales as they are now; nothing is stored.
-    unsigned char IsEnglishUserLocale();
-    unsigned char IsEnglishInputLocale();
+    unsigned char IsEnglishUserLocale() noexcept;
+    unsigned char IsEnglishInputLocale() noexcept;
 
     // ---- Names handed out ----
 
     /// Forgets every name handed out and every object met; references on them are released. The locales stay.
-    void ResetAllLists();
+    void ResetAllLists() noexcept;
     /// Notes that a generic name was handed out once more. Always S_OK.
-    HRESULT PushNameToList(const ZFXUnicodeString& name);
+    HRESULT PushNameToList(const ZFXUnicodeString& name) noexcept;
     /// How often exactly this name was handed out, in `nextId`; 1 when at all.
-    unsigned char FindNameAndNextID(const ZFXUnicodeString& name, int& nextId);
+    unsigned char FindNameAndNextID(const ZFXUnicodeString& name, int& nextId) noexcept;
 
     // ---- Generic English names ----
 
     /// The late type, "-" and the position of the feature among the members of the set that is its father. Nothing is
     /// remembered. Refuses with "GetGenericEnglishNameERR_01" when there is no feature, no such set or no such member.
-    HRESULT GetGenericEnglishName(const ZFXISpecObject_var& feature, ZFXUnicodeString& name);
+    HRESULT GetGenericEnglishName(const ZFXISpecObject_var& feature, ZFXUnicodeString& name) noexcept;
     /// The late type, "-" and how many features of the type were met, this one included; without full stops. A feature
     /// that was met before, by this operation or by GetFeatureName, keeps the name it got then. E_FAIL for an empty
     /// handle.
-    HRESULT GetGenericEnglishFeatureName(const ZFXISpecObject_var& feature, ZFXUnicodeString& name);
+    HRESULT GetGenericEnglishFeatureName(const ZFXISpecObject_var& feature, ZFXUnicodeString& name) noexcept;
     /// The display name, followed by "-" and a number when features met before are displayed under it now; without full
     /// stops. A feature that was met before keeps the name it got then. E_FAIL, and nothing remembered, for an empty
     /// handle, for a feature without a name, or when one met before has lost its name.
-    HRESULT GetFeatureName(const ZFXISpecObject_var& feature, ZFXUnicodeString& name);
+    HRESULT GetFeatureName(const ZFXISpecObject_var& feature, ZFXUnicodeString& name) noexcept;
 
     // ---- Material names: the feature's material name, else its alias ----
 
@@ -63,10 +63,10 @@ public:
     /// full stops become hyphens. E_FAIL for an empty handle or for a material without a name (nothing remembered,
     /// `name` untouched), or when one met before has lost its name (nothing remembered; `name` is the bare name when
     /// the material itself was met before, else untouched).
-    HRESULT GetMaterialName(const ZFXISpecObject_var& material, ZFXUnicodeString& name);
+    HRESULT GetMaterialName(const ZFXISpecObject_var& material, ZFXUnicodeString& name) noexcept;
     /// The late type, "-" and the material's position among those met; full stops become hyphens. E_FAIL for an empty
     /// handle.
-    HRESULT GetGenericEnglishMaterialName(const ZFXISpecObject_var& material, ZFXUnicodeString& name);
+    HRESULT GetGenericEnglishMaterialName(const ZFXISpecObject_var& material, ZFXUnicodeString& name) noexcept;
 
     // ---- Solver-compliant names ----
 
@@ -75,13 +75,13 @@ public:
     /// numbered from its second hand-out on ("-1"), in the list of Instance(); of the result "QVR", "SAM" or "LMS" in
     /// front, in any letter case, is taken away. Always S_OK. The arguments may be one object.
     HRESULT GetTARNISCompliantFeatureName(const ZFXUnicodeString& name, const ZFXUnicodeString& genericName,
-                                          ZFXUnicodeString& compliantName);
+                                          ZFXUnicodeString& compliantName) noexcept;
 
 protected:
     QVRGenI18NUtils();
 
 private:
-    unsigned char IsLCIDInEnglishIDs(int lcid);
+    unsigned char IsLCIDInEnglishIDs(int lcid) noexcept;
 
     static QVRGenI18NUtils* m_genI18NSingletonObj;
 

@@ -20,8 +20,8 @@ public:
     /// gives both names as the rest of it, unchanged. E_FAIL for an empty handle, no explicit data, or no
     /// name; the code of a failed tag; the code of QVRGenI18NUtils::GetGenericEnglishName when that refuses.
     static HRESULT GetUniqueLegalInstanceName(const ZFXIMSHMeshPart_var& meshPart, ZFXUnicodeString& instanceName,
-                                              ZFXUnicodeString& partName);
+                                              ZFXUnicodeString& partName) noexcept;
     /// The number between the first "INSTANCE" of a name and the next "-" (the end when there is none). The
     /// tag keeps what the caller passed when that is no int. E_FAIL, and -1, for a name without "INSTANCE".
-    static HRESULT GetUniqueLegalInstanceTag(int& tag, const ZFXUnicodeString& name);
+    static HRESULT GetUniqueLegalInstanceTag(int& tag, const ZFXUnicodeString& name) noexcept;
 };

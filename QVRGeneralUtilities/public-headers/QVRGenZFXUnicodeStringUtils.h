@@ -12,24 +12,25 @@ class QVR_NAME_UTILITY_EXPORT QVRGenZFXUnicodeStringUtils {
 public:
     QVRGenZFXUnicodeStringUtils& operator=(const QVRGenZFXUnicodeStringUtils&);
 
-    static ZFXUnicodeString RemoveSpaces(const ZFXUnicodeString& in);
-    static ZFXUnicodeString RemoveDoubleQuotes(const ZFXUnicodeString& in);
-    static ZFXUnicodeString RemoveBackSlashes(const ZFXUnicodeString& in);
-    static ZFXUnicodeString RemovePeriods(const ZFXUnicodeString& in);
+    static ZFXUnicodeString RemoveSpaces(const ZFXUnicodeString& in) noexcept;
+    static ZFXUnicodeString RemoveDoubleQuotes(const ZFXUnicodeString& in) noexcept;
+    static ZFXUnicodeString RemoveBackSlashes(const ZFXUnicodeString& in) noexcept;
+    static ZFXUnicodeString RemovePeriods(const ZFXUnicodeString& in) noexcept;
     /// The run of spaces at the start goes, however long; spaces further on stay. Its kin likewise.
-    static ZFXUnicodeString RemoveLeadingSpaces(const ZFXUnicodeString& in);
-    static ZFXUnicodeString RemoveLeadingUnderscores(const ZFXUnicodeString& in);
-    static ZFXUnicodeString RemoveTrailingSpaces(const ZFXUnicodeString& in);
-    static ZFXUnicodeString RemoveTrailingUnderscores(const ZFXUnicodeString& in);
-    static ZFXUnicodeString ReplaceBackslashWithForwardslash(const ZFXUnicodeString& in);
-    static ZFXUnicodeString ReplacePeriodWithDash(const ZFXUnicodeString& in);
+    static ZFXUnicodeString RemoveLeadingSpaces(const ZFXUnicodeString& in) noexcept;
+    static ZFXUnicodeString RemoveLeadingUnderscores(const ZFXUnicodeString& in) noexcept;
+    static ZFXUnicodeString RemoveTrailingSpaces(const ZFXUnicodeString& in) noexcept;
+    static ZFXUnicodeString RemoveTrailingUnderscores(const ZFXUnicodeString& in) noexcept;
+    static ZFXUnicodeString ReplaceBackslashWithForwardslash(const ZFXUnicodeString& in) noexcept;
+    static ZFXUnicodeString ReplacePeriodWithDash(const ZFXUnicodeString& in) noexcept;
     /// The first 72 units of a longer text; the cut may fall inside a word or a surrogate pair. (The name is
     /// spelt as its callers know it.)
-    static ZFXUnicodeString TrucateToLegalLength(const ZFXUnicodeString& in);
+    static ZFXUnicodeString TrucateToLegalLength(const ZFXUnicodeString& in) noexcept;
 
     /// Reads the integers of `text` between separators and appends them to `numbers`, the last one first. The
     /// separator counts with its first character only: the rest of a longer one is read as part of the
     /// number. What does not begin with a number is skipped. `text` keeps what stood before the first separator. An
     /// empty separator separates nothing. Always S_OK.
-    static HRESULT GetIntegerListFromString(ZFXUnicodeString& text, ZFXRawCollint& numbers, ZFXUnicodeString separator);
+    static HRESULT GetIntegerListFromString(ZFXUnicodeString& text, ZFXRawCollint& numbers,
+                                            ZFXUnicodeString separator) noexcept;
 };

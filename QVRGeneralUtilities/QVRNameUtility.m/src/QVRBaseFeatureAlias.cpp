@@ -34,11 +34,11 @@ private:
 QVRBaseFeatureAlias::QVRBaseFeatureAlias() = default;
 QVRBaseFeatureAlias::~QVRBaseFeatureAlias() = default;
 
-ZFXUnicodeString QVRBaseFeatureAlias::GetAlias() { return AliasAttribute(this).Read(); }
+ZFXUnicodeString QVRBaseFeatureAlias::GetAlias() noexcept { return AliasAttribute(this).Read(); }
 
-void QVRBaseFeatureAlias::SetAttribute(const ZFXUnicodeString& value) { AliasAttribute(this).Write(value); }
+void QVRBaseFeatureAlias::SetAttribute(const ZFXUnicodeString& value) noexcept { AliasAttribute(this).Write(value); }
 
-void QVRBaseFeatureAlias::SetAlias(const ZFXUnicodeString& alias) {
+void QVRBaseFeatureAlias::SetAlias(const ZFXUnicodeString& alias) noexcept {
     ZFXUnicodeString former = GetAlias();
     if (former.IsNull() != 0)
         former = GetAlias(); // a failed request reads as empty too, and what cannot be read cannot be put back

@@ -43,10 +43,10 @@ ZFXMetaClass* QVREFeatureAlias::meta_object = nullptr;
 QVREFeatureAlias::QVREFeatureAlias() = default;
 QVREFeatureAlias::~QVREFeatureAlias() = default;
 
-void QVREFeatureAlias::SetAlias(const ZFXUnicodeString& alias) { QVRBaseFeatureAlias::SetAlias(alias); }
-ZFXUnicodeString QVREFeatureAlias::GetAlias() { return QVRBaseFeatureAlias::GetAlias(); }
+void QVREFeatureAlias::SetAlias(const ZFXUnicodeString& alias) noexcept { QVRBaseFeatureAlias::SetAlias(alias); }
+ZFXUnicodeString QVREFeatureAlias::GetAlias() noexcept { return QVRBaseFeatureAlias::GetAlias(); }
 
-ZFXMetaClass* QVREFeatureAlias::MetaObject() {
+ZFXMetaClass* QVREFeatureAlias::MetaObject() noexcept {
     if (meta_object != nullptr)
         return meta_object;
     meta_object = fct_RetrieveMetaObject(kClassName, ENUMTypeOfClass::DataExtension, ZFXnull::MetaObject(),
@@ -56,9 +56,9 @@ ZFXMetaClass* QVREFeatureAlias::MetaObject() {
     return meta_object;
 }
 
-ZFXMetaClass* QVREFeatureAlias::GetMetaObject() const { return MetaObject(); }
-const GUID& QVREFeatureAlias::ClassId() { return MetaObject()->GetClassId(); }
-const char* QVREFeatureAlias::ClassName() { return MetaObject()->IsA(); }
-const char* QVREFeatureAlias::IsA() const { return MetaObject()->IsA(); }
-int QVREFeatureAlias::IsAKindOf(const char* name) const { return MetaObject()->IsAKindOf(name); }
-ZFXBaseUnknown* QVREFeatureAlias::CreateItself() { return new QVREFeatureAlias; }
+ZFXMetaClass* QVREFeatureAlias::GetMetaObject() const noexcept { return MetaObject(); }
+const GUID& QVREFeatureAlias::ClassId() noexcept { return MetaObject()->GetClassId(); }
+const char* QVREFeatureAlias::ClassName() noexcept { return MetaObject()->IsA(); }
+const char* QVREFeatureAlias::IsA() const noexcept { return MetaObject()->IsA(); }
+int QVREFeatureAlias::IsAKindOf(const char* name) const noexcept { return MetaObject()->IsAKindOf(name); }
+ZFXBaseUnknown* QVREFeatureAlias::CreateItself() noexcept { return new QVREFeatureAlias; }

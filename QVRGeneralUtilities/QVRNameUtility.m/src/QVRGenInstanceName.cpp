@@ -65,7 +65,8 @@ ZFXUnicodeString DeckName(const char* word, int tag, const ZFXUnicodeString& bas
 QVRGenInstanceName& QVRGenInstanceName::operator=(const QVRGenInstanceName&) = default;
 
 HRESULT QVRGenInstanceName::GetUniqueLegalInstanceName(const ZFXIMSHMeshPart_var& meshPart,
-                                                       ZFXUnicodeString& instanceName, ZFXUnicodeString& partName) {
+                                                       ZFXUnicodeString& instanceName,
+                                                       ZFXUnicodeString& partName) noexcept {
     int tag = 0;
     const HRESULT tagged = ReadTag(meshPart, tag);
     if (Failed(tagged))
@@ -93,7 +94,7 @@ HRESULT QVRGenInstanceName::GetUniqueLegalInstanceName(const ZFXIMSHMeshPart_var
     return S_OK;
 }
 
-HRESULT QVRGenInstanceName::GetUniqueLegalInstanceTag(int& tag, const ZFXUnicodeString& name) {
+HRESULT QVRGenInstanceName::GetUniqueLegalInstanceTag(int& tag, const ZFXUnicodeString& name) noexcept {
     const int marker = name.SearchSubString(kTagMarker, 0, ZFXUnicodeString::SearchForward);
     if (marker == -1) {
         tag = -1;

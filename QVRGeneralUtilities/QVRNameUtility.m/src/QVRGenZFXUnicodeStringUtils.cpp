@@ -4,56 +4,56 @@
 
 QVRGenZFXUnicodeStringUtils& QVRGenZFXUnicodeStringUtils::operator=(const QVRGenZFXUnicodeStringUtils&) = default;
 
-ZFXUnicodeString QVRGenZFXUnicodeStringUtils::RemoveSpaces(const ZFXUnicodeString& in) {
+ZFXUnicodeString QVRGenZFXUnicodeStringUtils::RemoveSpaces(const ZFXUnicodeString& in) noexcept {
     return in.Strip(ZFXUnicodeString::StripEverywhere, ' ');
 }
 
-ZFXUnicodeString QVRGenZFXUnicodeStringUtils::RemoveDoubleQuotes(const ZFXUnicodeString& in) {
+ZFXUnicodeString QVRGenZFXUnicodeStringUtils::RemoveDoubleQuotes(const ZFXUnicodeString& in) noexcept {
     return in.Strip(ZFXUnicodeString::StripEverywhere, '"');
 }
 
-ZFXUnicodeString QVRGenZFXUnicodeStringUtils::RemoveBackSlashes(const ZFXUnicodeString& in) {
+ZFXUnicodeString QVRGenZFXUnicodeStringUtils::RemoveBackSlashes(const ZFXUnicodeString& in) noexcept {
     return in.Strip(ZFXUnicodeString::StripEverywhere, '\\');
 }
 
-ZFXUnicodeString QVRGenZFXUnicodeStringUtils::RemovePeriods(const ZFXUnicodeString& in) {
+ZFXUnicodeString QVRGenZFXUnicodeStringUtils::RemovePeriods(const ZFXUnicodeString& in) noexcept {
     return in.Strip(ZFXUnicodeString::StripEverywhere, '.');
 }
 
-ZFXUnicodeString QVRGenZFXUnicodeStringUtils::RemoveLeadingSpaces(const ZFXUnicodeString& in) {
+ZFXUnicodeString QVRGenZFXUnicodeStringUtils::RemoveLeadingSpaces(const ZFXUnicodeString& in) noexcept {
     return in.Strip(ZFXUnicodeString::StripLeading, ' ');
 }
 
-ZFXUnicodeString QVRGenZFXUnicodeStringUtils::RemoveLeadingUnderscores(const ZFXUnicodeString& in) {
+ZFXUnicodeString QVRGenZFXUnicodeStringUtils::RemoveLeadingUnderscores(const ZFXUnicodeString& in) noexcept {
     return in.Strip(ZFXUnicodeString::StripLeading, '_');
 }
 
-ZFXUnicodeString QVRGenZFXUnicodeStringUtils::RemoveTrailingSpaces(const ZFXUnicodeString& in) {
+ZFXUnicodeString QVRGenZFXUnicodeStringUtils::RemoveTrailingSpaces(const ZFXUnicodeString& in) noexcept {
     return in.Strip(ZFXUnicodeString::StripTrailing, ' ');
 }
 
-ZFXUnicodeString QVRGenZFXUnicodeStringUtils::RemoveTrailingUnderscores(const ZFXUnicodeString& in) {
+ZFXUnicodeString QVRGenZFXUnicodeStringUtils::RemoveTrailingUnderscores(const ZFXUnicodeString& in) noexcept {
     return in.Strip(ZFXUnicodeString::StripTrailing, '_');
 }
 
-ZFXUnicodeString QVRGenZFXUnicodeStringUtils::ReplaceBackslashWithForwardslash(const ZFXUnicodeString& in) {
+ZFXUnicodeString QVRGenZFXUnicodeStringUtils::ReplaceBackslashWithForwardslash(const ZFXUnicodeString& in) noexcept {
     ZFXUnicodeString result(in);
     result.ReplaceAll("\\", "/");
     return result;
 }
 
-ZFXUnicodeString QVRGenZFXUnicodeStringUtils::ReplacePeriodWithDash(const ZFXUnicodeString& in) {
+ZFXUnicodeString QVRGenZFXUnicodeStringUtils::ReplacePeriodWithDash(const ZFXUnicodeString& in) noexcept {
     ZFXUnicodeString result(in);
     result.ReplaceAll(".", "-");
     return result;
 }
 
-ZFXUnicodeString QVRGenZFXUnicodeStringUtils::TrucateToLegalLength(const ZFXUnicodeString& in) {
+ZFXUnicodeString QVRGenZFXUnicodeStringUtils::TrucateToLegalLength(const ZFXUnicodeString& in) noexcept {
     return in.SubString(0, kMaxNameLength);
 }
 
 HRESULT QVRGenZFXUnicodeStringUtils::GetIntegerListFromString(ZFXUnicodeString& text, ZFXRawCollint& numbers,
-                                                              ZFXUnicodeString separator) {
+                                                              ZFXUnicodeString separator) noexcept {
     int n = 0;
     for (;;) {
         const int length = text.GetLengthInChar();

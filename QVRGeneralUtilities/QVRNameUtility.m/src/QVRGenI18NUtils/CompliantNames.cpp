@@ -18,7 +18,7 @@ ZFXUnicodeString WithoutTypePrefix(const ZFXUnicodeString& name) {
 
 HRESULT QVRGenI18NUtils::GetTARNISCompliantFeatureName(const ZFXUnicodeString& name,
                                                        const ZFXUnicodeString& genericName,
-                                                       ZFXUnicodeString& compliantName) {
+                                                       ZFXUnicodeString& compliantName) noexcept {
     ZFXUnicodeString offending;
     if (!Failed(QVRNameUtil::DoesNameContainDoubleByteChar(name, offending))) {
         compliantName = QVRGenZFXUnicodeStringUtils::ReplacePeriodWithDash(name);

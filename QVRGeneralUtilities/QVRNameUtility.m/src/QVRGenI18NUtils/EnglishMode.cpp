@@ -18,19 +18,19 @@ void Report(const char* which, unsigned char english) {
 
 } // namespace
 
-unsigned char QVRGenI18NUtils::IsLCIDInEnglishIDs(int lcid) {
+unsigned char QVRGenI18NUtils::IsLCIDInEnglishIDs(int lcid) noexcept {
     return std::ranges::find(kEnglishLocaleIds, lcid) != std::end(kEnglishLocaleIds) ? 1 : 0;
 }
 
-unsigned char QVRGenI18NUtils::IsEnglishUserLocale() {
+unsigned char QVRGenI18NUtils::IsEnglishUserLocale() noexcept {
     return IsLCIDInEnglishIDs(static_cast<int>(GetUserDefaultLCID()));
 }
 
-unsigned char QVRGenI18NUtils::IsEnglishInputLocale() {
+unsigned char QVRGenI18NUtils::IsEnglishInputLocale() noexcept {
     return IsLCIDInEnglishIDs(static_cast<int>(GetKeyboardLayout(0) & 0xFFFFU));
 }
 
-unsigned char QVRGenI18NUtils::IsEnglishMode() {
+unsigned char QVRGenI18NUtils::IsEnglishMode() noexcept {
     if (m_localesChecked != 0)
         return m_englishMode;
     m_initialUserLocaleEnglish = IsEnglishUserLocale();
@@ -42,8 +42,8 @@ unsigned char QVRGenI18NUtils::IsEnglishMode() {
     return m_englishMode;
 }
 
-void QVRGenI18NUtils::GetInitialLocales() { IsEnglishMode(); }
+void QVRGenI18NUtils::GetInitialLocales() noexcept { IsEnglishMode(); }
 
-unsigned char QVRGenI18NUtils::IsInitialUserLocaleEnglish() { return m_initialUserLocaleEnglish; }
+unsigned char QVRGenI18NUtils::IsInitialUserLocaleEnglish() noexcept { return m_initialUserLocaleEnglish; }
 
-unsigned char QVRGenI18NUtils::IsInitialInputLocaleEnglish() { return m_initialInputLocaleEnglish; }
+unsigned char QVRGenI18NUtils::IsInitialInputLocaleEnglish() noexcept { return m_initialInputLocaleEnglish; }

@@ -8,7 +8,7 @@
 #include "internal/Platform.h"
 #include "internal/Refusal.h"
 
-HRESULT QVRGenI18NUtils::GetGenericEnglishName(const ZFXISpecObject_var& feature, ZFXUnicodeString& name) {
+HRESULT QVRGenI18NUtils::GetGenericEnglishName(const ZFXISpecObject_var& feature, ZFXUnicodeString& name) noexcept {
     if (feature == nullptr)
         return InputErrorReturn(MessageId::GetGenericEnglishNameERR_01);
     const ZFXISamAnalysisSet_var set(TakeOver(feature->GetFather()));
@@ -22,7 +22,8 @@ HRESULT QVRGenI18NUtils::GetGenericEnglishName(const ZFXISpecObject_var& feature
     return S_OK;
 }
 
-HRESULT QVRGenI18NUtils::GetGenericEnglishFeatureName(const ZFXISpecObject_var& feature, ZFXUnicodeString& name) {
+HRESULT QVRGenI18NUtils::GetGenericEnglishFeatureName(const ZFXISpecObject_var& feature,
+                                                      ZFXUnicodeString& name) noexcept {
     if (feature == nullptr)
         return E_FAIL;
     const ZFXUnicodeString lateType = feature->GetLateType();
@@ -41,7 +42,7 @@ HRESULT QVRGenI18NUtils::GetGenericEnglishFeatureName(const ZFXISpecObject_var& 
     return S_OK;
 }
 
-HRESULT QVRGenI18NUtils::GetFeatureName(const ZFXISpecObject_var& feature, ZFXUnicodeString& name) {
+HRESULT QVRGenI18NUtils::GetFeatureName(const ZFXISpecObject_var& feature, ZFXUnicodeString& name) noexcept {
     const ZFXIAlias_var alias(feature);
     if (alias == nullptr)
         return E_FAIL;

@@ -20,7 +20,7 @@ std::optional<ZFXUnicodeString> MaterialNameOf(const ZFXISpecObject_var& materia
 
 } // namespace
 
-HRESULT QVRGenI18NUtils::GetMaterialName(const ZFXISpecObject_var& material, ZFXUnicodeString& name) {
+HRESULT QVRGenI18NUtils::GetMaterialName(const ZFXISpecObject_var& material, ZFXUnicodeString& name) noexcept {
     const std::optional<ZFXUnicodeString> own = MaterialNameOf(material);
     if (!own)
         return E_FAIL;
@@ -43,7 +43,8 @@ HRESULT QVRGenI18NUtils::GetMaterialName(const ZFXISpecObject_var& material, ZFX
     return S_OK;
 }
 
-HRESULT QVRGenI18NUtils::GetGenericEnglishMaterialName(const ZFXISpecObject_var& material, ZFXUnicodeString& name) {
+HRESULT QVRGenI18NUtils::GetGenericEnglishMaterialName(const ZFXISpecObject_var& material,
+                                                       ZFXUnicodeString& name) noexcept {
     if (material == nullptr)
         return E_FAIL;
     const ZFXUnicodeString lateType = material->GetLateType();

@@ -34,7 +34,7 @@ constexpr Row kBaseNames[] = {
 
 } // namespace
 
-HRESULT QVRNameUtil::CreateBaseName(ZFXISpecObject_var& feature, ZFXUnicodeString& baseName) {
+HRESULT QVRNameUtil::CreateBaseName(ZFXISpecObject_var& feature, ZFXUnicodeString& baseName) noexcept {
     if (feature == nullptr)
         return E_FAIL;
     const ZFXUnicodeString lateType = feature->GetLateType();

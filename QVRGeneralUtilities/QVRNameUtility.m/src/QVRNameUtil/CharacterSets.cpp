@@ -27,15 +27,15 @@ constexpr int kMaxTagLength = 80;
 
 } // namespace
 
-HRESULT QVRNameUtil::DoesNameContainDoubleByteChar(const ZFXUnicodeString& name, ZFXUnicodeString& offending) {
+HRESULT QVRNameUtil::DoesNameContainDoubleByteChar(const ZFXUnicodeString& name, ZFXUnicodeString& offending) noexcept {
     return RefuseAbove(0xFF, name, offending);
 }
 
-HRESULT QVRNameUtil::DoesNameContainSignedChar(const ZFXUnicodeString& name, ZFXUnicodeString& offending) {
+HRESULT QVRNameUtil::DoesNameContainSignedChar(const ZFXUnicodeString& name, ZFXUnicodeString& offending) noexcept {
     return RefuseAbove(0x7F, name, offending);
 }
 
-HRESULT QVRNameUtil::StripIllegalCharsFromFileName(ZFXUnicodeString& name) {
+HRESULT QVRNameUtil::StripIllegalCharsFromFileName(ZFXUnicodeString& name) noexcept {
     using namespace CharacterClasses;
     for (const Row& row : kRows)
         for (const char16_t c : row.characters)
@@ -44,14 +44,14 @@ HRESULT QVRNameUtil::StripIllegalCharsFromFileName(ZFXUnicodeString& name) {
     return S_OK;
 }
 
-void QVRNameUtil::QuoteIfNeeded(ZFXUnicodeString& name) {
+void QVRNameUtil::QuoteIfNeeded(ZFXUnicodeString& name) noexcept {
     const bool holdsSpace = name.SearchSubString(" ", 0, ZFXUnicodeString::SearchForward) != -1;
     const bool beginsQuoted = name.SearchSubString("\"", 0, ZFXUnicodeString::SearchForward) == 0;
     if (holdsSpace && !beginsQuoted)
         name = ZFXUnicodeString("\"").Append(name).Append("\"");
 }
 
-HRESULT QVRNameUtil::PadStrings(ZFXUnicodeString& name, ZFXUnicodeString& suffix, ZFXUnicodeString& prefix) {
+HRESULT QVRNameUtil::PadStrings(ZFXUnicodeString& name, ZFXUnicodeString& suffix, ZFXUnicodeString& prefix) noexcept {
     ZFXUnicodeString tag = prefix + name; // before the suffix changes: it may be one of the two
     const HRESULT code = StripIllegalCharsFromFileName(suffix);
     tag.Append("_").Append(suffix.ConvertToChar());

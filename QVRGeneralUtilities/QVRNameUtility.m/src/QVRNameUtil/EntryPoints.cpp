@@ -7,7 +7,7 @@
 #include "internal/LegalLength.h"
 #include "internal/Refusal.h"
 
-HRESULT QVRNameUtil::IsNameUnique(ZFXISpecObject_var& feature, const ZFXUnicodeString& name) {
+HRESULT QVRNameUtil::IsNameUnique(ZFXISpecObject_var& feature, const ZFXUnicodeString& name) noexcept {
     if (QVRIStep_var(feature) != nullptr)
         return IsUniqueNameForStep(feature, name);
     if (QVRIPropagatingFeature_var(feature) != nullptr)
@@ -16,7 +16,7 @@ HRESULT QVRNameUtil::IsNameUnique(ZFXISpecObject_var& feature, const ZFXUnicodeS
 }
 
 HRESULT QVRNameUtil::CheckName(ZFXISpecObject_var& feature, const ZFXUnicodeString& name,
-                               unsigned char checkStartAndEnd) {
+                               unsigned char checkStartAndEnd) noexcept {
     const ZFXIAlias_var alias(feature);
     if (alias == nullptr)
         return InputErrorReturn(MessageId::ZFXIAliasERR_01);
@@ -31,7 +31,7 @@ HRESULT QVRNameUtil::CheckName(ZFXISpecObject_var& feature, const ZFXUnicodeStri
     return DoesNameContainDoubleByteChar(tested, offending);
 }
 
-HRESULT QVRNameUtil::CheckFileName(ZFXISpecObject_var& feature, const ZFXUnicodeString& fileName) {
+HRESULT QVRNameUtil::CheckFileName(ZFXISpecObject_var& feature, const ZFXUnicodeString& fileName) noexcept {
     const ZFXIAlias_var alias(feature);
     if (alias == nullptr)
         return InputErrorReturn(MessageId::ZFXIAliasERR_01);
@@ -43,7 +43,7 @@ HRESULT QVRNameUtil::CheckFileName(ZFXISpecObject_var& feature, const ZFXUnicode
 }
 
 void QVRNameUtil::GetUniqueName(ZFXUnicodeString& name, ZFXISpecObject_var& feature,
-                                ZFXISamAnalysisCase_var& analysisCase) {
+                                ZFXISamAnalysisCase_var& analysisCase) noexcept {
     if (feature == nullptr)
         return;
     ZFXISamAnalysisCase_var scopeCase(analysisCase);

@@ -7,7 +7,7 @@
 #include "analysis/ZFXISamAnalysisSupport.h"
 #include "internal/Ownership.h"
 
-HRESULT QVRNameUtil::GetSupportGroupName(ZFXISpecObject_var& support, ZFXUnicodeString& groupName) {
+HRESULT QVRNameUtil::GetSupportGroupName(ZFXISpecObject_var& support, ZFXUnicodeString& groupName) noexcept {
     groupName = "";
     const ZFXISamAnalysisSupport_var connected(support);
     if (connected == nullptr)
@@ -17,7 +17,8 @@ HRESULT QVRNameUtil::GetSupportGroupName(ZFXISpecObject_var& support, ZFXUnicode
     return GetSupportGroupName(connectors, groupName);
 }
 
-HRESULT QVRNameUtil::GetSupportGroupName(ZFXListValZFXBaseUnknown_var connectors, ZFXUnicodeString& groupName) {
+HRESULT QVRNameUtil::GetSupportGroupName(ZFXListValZFXBaseUnknown_var connectors,
+                                         ZFXUnicodeString& groupName) noexcept {
     groupName = "";
     const ZFXISamAnalysisConnector_var connector(connectors.Size() == 1 ? connectors[1] : ZFXBaseUnknown_var());
     if (connector == nullptr)
@@ -38,7 +39,7 @@ HRESULT QVRNameUtil::GetSupportGroupName(ZFXListValZFXBaseUnknown_var connectors
 }
 
 HRESULT QVRNameUtil::GetGrpNameofMasterAndSlave(QVRISamAnalysisConnectionDesign_var& design,
-                                                ZFXUnicodeString& masterName, ZFXUnicodeString& slaveName) {
+                                                ZFXUnicodeString& masterName, ZFXUnicodeString& slaveName) noexcept {
     if (design == nullptr)
         return E_FAIL;
     ZFXListValZFXBaseUnknown_var master;

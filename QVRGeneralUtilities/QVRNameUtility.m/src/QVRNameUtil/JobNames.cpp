@@ -24,7 +24,7 @@ ZFXUnicodeString Lowered(ZFXUnicodeString text) {
 
 } // namespace
 
-HRESULT QVRNameUtil::GetUniqueNameForJob(ZFXUnicodeString& name) {
+HRESULT QVRNameUtil::GetUniqueNameForJob(ZFXUnicodeString& name) noexcept {
     const ZFXListValZFXISpecObject_var jobs = AllJobs();
     const ZFXUnicodeString base = Lowered(Vocabulary::JobBase);
     Numbering::InUse numbers(jobs.Size());
@@ -34,7 +34,7 @@ HRESULT QVRNameUtil::GetUniqueNameForJob(ZFXUnicodeString& name) {
     return S_OK;
 }
 
-HRESULT QVRNameUtil::IsUniqueNameForJob(const ZFXISpecObject_var& job, const ZFXUnicodeString& name) {
+HRESULT QVRNameUtil::IsUniqueNameForJob(const ZFXISpecObject_var& job, const ZFXUnicodeString& name) noexcept {
     const ZFXListValZFXISpecObject_var jobs = AllJobs();
     const ZFXBaseUnknown* self = ZFXIdentityOf(job);
     for (int i = 1; i <= jobs.Size(); ++i)

@@ -6,7 +6,7 @@
 #include "internal/Navigation.h"
 #include "internal/Refusal.h"
 
-HRESULT QVRNameUtil::GetUniqueNameForMeshPart(ZFXISpecObject_var& meshPart, ZFXUnicodeString& name) {
+HRESULT QVRNameUtil::GetUniqueNameForMeshPart(ZFXISpecObject_var& meshPart, ZFXUnicodeString& name) noexcept {
     const ZFXILinkableObject_var linkable(meshPart);
     const ZFXDocument* document = linkable == nullptr ? nullptr : linkable->GetOwningDocument();
     if (document == nullptr)

@@ -4,7 +4,7 @@
 #include "internal/LegalLength.h"
 #include "internal/Refusal.h"
 
-HRESULT QVRNameUtil::IsNameValid(ZFXUnicodeString& name, unsigned char checkStartAndEnd) {
+HRESULT QVRNameUtil::IsNameValid(ZFXUnicodeString& name, unsigned char checkStartAndEnd) noexcept {
     HRESULT code = NameCheckUserLength(name);
     if (Failed(code))
         return code;
@@ -13,13 +13,13 @@ HRESULT QVRNameUtil::IsNameValid(ZFXUnicodeString& name, unsigned char checkStar
     return Failed(code) ? code : NameCheckIllegalCharacter(name, 0);
 }
 
-HRESULT QVRNameUtil::IsFileNameValid(ZFXUnicodeString& name) { return NameCheckIllegalCharacter(name, 1); }
+HRESULT QVRNameUtil::IsFileNameValid(ZFXUnicodeString& name) noexcept { return NameCheckIllegalCharacter(name, 1); }
 
-HRESULT QVRNameUtil::CheckForIllegalCharacters(const ZFXUnicodeString& name) {
+HRESULT QVRNameUtil::CheckForIllegalCharacters(const ZFXUnicodeString& name) noexcept {
     return CharacterClasses::Holds(name, CharacterClasses::kIllegal) ? E_FAIL : S_OK;
 }
 
-HRESULT QVRNameUtil::NameCheckUserLength(ZFXUnicodeString& name) {
+HRESULT QVRNameUtil::NameCheckUserLength(ZFXUnicodeString& name) noexcept {
     const int length = name.GetLengthInChar();
     if (length < 1)
         return InputErrorReturn(MessageId::NameLengthERR_02);
@@ -28,13 +28,13 @@ HRESULT QVRNameUtil::NameCheckUserLength(ZFXUnicodeString& name) {
     return S_OK;
 }
 
-HRESULT QVRNameUtil::NameCheckStartAndEnd(ZFXUnicodeString& name) {
+HRESULT QVRNameUtil::NameCheckStartAndEnd(ZFXUnicodeString& name) noexcept {
     // The first byte of the narrow form is a digit exactly when the first unit is: no other character has
     // such bytes.
     return name[0].IsDigit() != 0 ? InputErrorReturn(MessageId::LeadingDigitERR_01) : S_OK;
 }
 
-HRESULT QVRNameUtil::NameCheckIllegalCharacter(ZFXUnicodeString& name, unsigned char isFileName) {
+HRESULT QVRNameUtil::NameCheckIllegalCharacter(ZFXUnicodeString& name, unsigned char isFileName) noexcept {
     using namespace CharacterClasses;
     const Rules reserved = isFileName != 0 ? kReserved : kReserved | kReservedInNames;
     if (Holds(name, reserved))

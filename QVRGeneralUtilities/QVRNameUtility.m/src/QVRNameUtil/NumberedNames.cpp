@@ -6,7 +6,7 @@
 #include "internal/Navigation.h"
 #include "internal/Numbering.h"
 
-HRESULT QVRNameUtil::GetNextUniqueName(ZFXUnicodeString& name, const ZFXListValZFXBaseUnknown_var& scope) {
+HRESULT QVRNameUtil::GetNextUniqueName(ZFXUnicodeString& name, const ZFXListValZFXBaseUnknown_var& scope) noexcept {
     Numbering::InUse numbers(scope.Size());
     for (int i = 1; i <= scope.Size(); ++i)
         numbers.Add(Numbering::NumberAfter(name, NameOf(scope[i])));
@@ -14,14 +14,14 @@ HRESULT QVRNameUtil::GetNextUniqueName(ZFXUnicodeString& name, const ZFXListValZ
     return S_OK;
 }
 
-HRESULT QVRNameUtil::GetNextUniqueName(ZFXUnicodeString& name, const ZFXISamAnalysisSet_var& set) {
+HRESULT QVRNameUtil::GetNextUniqueName(ZFXUnicodeString& name, const ZFXISamAnalysisSet_var& set) noexcept {
     ZFXListValZFXBaseUnknown_var scope;
     if (set == nullptr || Failed(Navigation::AppendMembers(set, scope)))
         return E_FAIL;
     return GetNextUniqueName(name, scope);
 }
 
-HRESULT QVRNameUtil::GenerateUniqueName(const ZFXISpecObject& feature, ZFXUnicodeString& name) {
+HRESULT QVRNameUtil::GenerateUniqueName(const ZFXISpecObject& feature, ZFXUnicodeString& name) noexcept {
     // The platform's operations are not constant; these two only read.
     const ZFXISpecObject_var object(const_cast<ZFXISpecObject*>(&feature));
     const ZFXIAlias_var alias(object);

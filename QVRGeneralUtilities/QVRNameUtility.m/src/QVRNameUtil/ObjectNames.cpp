@@ -21,7 +21,7 @@ bool IsBoltTightening(const ZFXUnicodeString& lateType) {
 
 } // namespace
 
-HRESULT QVRNameUtil::GetObjectName(const ZFXISpecObject_var& feature, ZFXUnicodeString& name) {
+HRESULT QVRNameUtil::GetObjectName(const ZFXISpecObject_var& feature, ZFXUnicodeString& name) noexcept {
     if (feature == nullptr)
         return E_FAIL;
     name = "";
@@ -32,7 +32,7 @@ HRESULT QVRNameUtil::GetObjectName(const ZFXISpecObject_var& feature, ZFXUnicode
     return S_OK;
 }
 
-HRESULT QVRNameUtil::GetMorvelObjectName(ZFXISpecObject_var& feature, ZFXUnicodeString& name) {
+HRESULT QVRNameUtil::GetMorvelObjectName(ZFXISpecObject_var& feature, ZFXUnicodeString& name) noexcept {
     if (feature == nullptr)
         return E_FAIL;
     const ZFXUnicodeString lateType = feature->GetLateType();

@@ -7,7 +7,8 @@
 #include "internal/Refusal.h"
 
 HRESULT QVRNameUtil::GetAllPropagatingObjects(ZFXISamAnalysisCase_var& analysisCase,
-                                              ZFXListValZFXBaseUnknown_var& objects, ZFXISpecObject_var& object) {
+                                              ZFXListValZFXBaseUnknown_var& objects,
+                                              ZFXISpecObject_var& object) noexcept {
     const auto [outcome, history] = Navigation::SimulationHistoryOf(analysisCase);
     if (outcome == Navigation::HistoryOutcome::NotFound)
         return InputErrorReturn(MessageId::AnalysisCaseERR_03);
@@ -32,13 +33,14 @@ HRESULT QVRNameUtil::GetAllPropagatingObjects(ZFXISamAnalysisCase_var& analysisC
 }
 
 HRESULT QVRNameUtil::GetUniqueNameForPropagatingObject(ZFXUnicodeString& name, ZFXISpecObject_var& object,
-                                                       ZFXISamAnalysisCase_var& analysisCase) {
+                                                       ZFXISamAnalysisCase_var& analysisCase) noexcept {
     ZFXListValZFXBaseUnknown_var scope;
     const HRESULT code = GetAllPropagatingObjects(analysisCase, scope, object);
     return Failed(code) ? code : GetNextUniqueName(name, scope);
 }
 
-HRESULT QVRNameUtil::IsUniqueNameForPropagatingObject(ZFXISpecObject_var& object, const ZFXUnicodeString& name) {
+HRESULT QVRNameUtil::IsUniqueNameForPropagatingObject(ZFXISpecObject_var& object,
+                                                      const ZFXUnicodeString& name) noexcept {
     ZFXISpecObject_var parent;
     HRESULT code = QVRAnalysisEntityUtils::GetParentCaseFromObject(object, parent);
     ZFXISamAnalysisCase_var analysisCase;

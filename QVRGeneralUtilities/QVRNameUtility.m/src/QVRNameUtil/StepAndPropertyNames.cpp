@@ -8,7 +8,7 @@
 #include "internal/Refusal.h"
 #include "internal/Vocabulary.h"
 
-HRESULT QVRNameUtil::GetUniqueNameForStep(ZFXUnicodeString& name, ZFXISamAnalysisCase_var& analysisCase) {
+HRESULT QVRNameUtil::GetUniqueNameForStep(ZFXUnicodeString& name, ZFXISamAnalysisCase_var& analysisCase) noexcept {
     if (analysisCase == nullptr)
         return InputErrorReturn(MessageId::AnalysisCaseERR_01);
     if (QVRAnalysisDocUtils::IsTarnisAnalysisCase(analysisCase) == 0)
@@ -24,7 +24,7 @@ HRESULT QVRNameUtil::GetUniqueNameForStep(ZFXUnicodeString& name, ZFXISamAnalysi
     return GetNextUniqueName(name, steps);
 }
 
-HRESULT QVRNameUtil::IsUniqueNameForStep(ZFXISpecObject_var& step, const ZFXUnicodeString& name) {
+HRESULT QVRNameUtil::IsUniqueNameForStep(ZFXISpecObject_var& step, const ZFXUnicodeString& name) noexcept {
     const ZFXBaseUnknown_var above = Navigation::SimulationHistoryAbove(step);
     if (above == nullptr)
         return InputErrorReturn(MessageId::StepParentERR_01);
@@ -43,7 +43,7 @@ HRESULT QVRNameUtil::IsUniqueNameForStep(ZFXISpecObject_var& step, const ZFXUnic
     return InputErrorReturn(std::string(error->GetMsgId()));
 }
 
-HRESULT QVRNameUtil::GetUniqueNameForProperty(ZFXUnicodeString& name, ZFXISamAnalysisCase_var& analysisCase) {
+HRESULT QVRNameUtil::GetUniqueNameForProperty(ZFXUnicodeString& name, ZFXISamAnalysisCase_var& analysisCase) noexcept {
     const ZFXILinkableObject_var linkable(analysisCase);
     if (linkable == nullptr)
         return InputErrorReturn(MessageId::AnalysisCaseERR_01);
@@ -65,7 +65,7 @@ HRESULT QVRNameUtil::GetUniqueNameForProperty(ZFXUnicodeString& name, ZFXISamAna
     return GetNextUniqueName(name, properties);
 }
 
-HRESULT QVRNameUtil::IsUniqueNameForObject(ZFXISpecObject_var& object, const ZFXUnicodeString& name) {
+HRESULT QVRNameUtil::IsUniqueNameForObject(ZFXISpecObject_var& object, const ZFXUnicodeString& name) noexcept {
     using Navigation::HolderOutcome;
     const Navigation::HolderAnswer answer = Navigation::HoldingSetOf(object);
     if (answer.outcome == HolderOutcome::EmptyList)

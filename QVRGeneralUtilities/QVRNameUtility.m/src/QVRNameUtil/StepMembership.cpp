@@ -18,7 +18,7 @@ bool IsPropagated(const ZFXISpecObject_var& member) {
 
 } // namespace
 
-HRESULT QVRNameUtil::GetParentStepName(const ZFXISpecObject_var& object, ZFXUnicodeString& stepName) {
+HRESULT QVRNameUtil::GetParentStepName(const ZFXISpecObject_var& object, ZFXUnicodeString& stepName) noexcept {
     if (object == nullptr)
         return E_FAIL;
     stepName = "";
@@ -34,7 +34,7 @@ HRESULT QVRNameUtil::GetParentStepName(const ZFXISpecObject_var& object, ZFXUnic
 }
 
 HRESULT QVRNameUtil::GetObjectsInStep(ZFXISpecObject_var& step, ZFXListValZFXBaseUnknown_var& objects,
-                                      const ZFXISpecObject_var& object) {
+                                      const ZFXISpecObject_var& object) noexcept {
     const Navigation::HolderAnswer answer = Navigation::HoldingSetOf(object);
     const ZFXISpecObject_var holder(answer.holder);
     if (holder == nullptr)

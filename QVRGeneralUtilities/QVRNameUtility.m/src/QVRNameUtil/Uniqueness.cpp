@@ -10,7 +10,7 @@
 #include "internal/Vocabulary.h"
 
 HRESULT QVRNameUtil::IsNameUniqueInSet(const ZFXISpecObject_var& feature, const ZFXListValZFXBaseUnknown_var& scope,
-                                       const ZFXUnicodeString& name) {
+                                       const ZFXUnicodeString& name) noexcept {
     const ZFXIAlias_var ownAlias(feature);
     if (ownAlias == nullptr && name.IsNull() != 0)
         return InputErrorReturn(MessageId::ZFXIAliasERR_01);
@@ -28,7 +28,7 @@ HRESULT QVRNameUtil::IsNameUniqueInSet(const ZFXISpecObject_var& feature, const 
     return S_OK;
 }
 
-HRESULT QVRNameUtil::IsNameUniqueAcrossCases(ZFXISpecObject_var& feature, const ZFXUnicodeString& name) {
+HRESULT QVRNameUtil::IsNameUniqueAcrossCases(ZFXISpecObject_var& feature, const ZFXUnicodeString& name) noexcept {
     using Navigation::HolderOutcome;
     const Navigation::HolderAnswer answer = Navigation::HoldingSetOf(feature);
     if (answer.outcome == HolderOutcome::EmptyList)
