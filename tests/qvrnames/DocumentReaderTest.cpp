@@ -37,7 +37,7 @@ TEST(DocumentReader, TellsTheFirstFaultAndItsPlace) {
         {"{} {}", "line 1, column 4: syntax error"},
         {"{\"comment\": \"\xC3\x28\"}", "line 1, column 15: syntax error while parsing value - invalid string: "
                                         "ill-formed UTF-8 byte"},
-        {"{\"comment\": \"\\ud800\"}", "invalid string: surrogate"},
+        {R"({"comment": "\ud800"})", "invalid string: surrogate"},
         {R"({"comment": 1e999})", "number overflow"},
         {deep, "line 1, column 101: nested more deeply than 100 levels"},
         {R"({"a":"[[[","b":)" + deep, "line 1, column 115: nested more deeply than 100 levels"},
@@ -50,7 +50,7 @@ TEST(DocumentReader, TellsTheFirstFaultAndItsPlace) {
         {R"({"cases": {}})", "/cases (line 1, column 11): expected a list, found an object"},
         {R"({"cases": [{}, 7]})", "/cases/1 (line 1, column 16): expected an object, found a number"},
         {R"({"cases": [{"name": null}]})", "/cases/0/name (line 1, column 21): expected a text in quotes"},
-        {"{\"cases\": [{\"name\": \"a\\u0000b\"}]}", "expected a text without the character U+0000"},
+        {R"({"cases": [{"name": "a\u0000b"}]})", "expected a text without the character U+0000"},
         {R"({"cases": [{"current": "yes"}]})", "/cases/0/current (line 1, column 24): expected true or false"},
         {R"({"cases": [{"current": true}, {"current": true}]})",
          "/cases/1/current (line 1, column 43): another case is current already"},
@@ -250,7 +250,7 @@ TEST(DocumentReader, TakesTheKeysThatTheSchemaTells) {
     const std::string text = schema.dump();
     for (const ChildKey& child : kChildKeys) {
         const bool isTold = child.defaultType == nullptr || child.kind == MemoryKind::MeshManager ||
-                            text.find(std::string("\"default\":\"") + child.defaultType) != std::string::npos;
+                            text.find(std::string(R"("default":")") + child.defaultType) != std::string::npos;
         EXPECT_TRUE(isTold) << child.defaultType;
     }
 }
