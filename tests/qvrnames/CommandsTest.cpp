@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 #include <nlohmann/json.hpp>
 
+#include <algorithm>
 #include <set>
 
 namespace {
@@ -31,6 +32,8 @@ TEST(Commands, EndWithTwoAndOneLineForWhatCannotBeUsed) {
         {{"audit", large}, large + ": larger than 256 MB"},
         {{"propose", load, "Step-1"}, "late type \"QVRGeneralStaticStepLT\", which has no base name"},
         {{"propose", pump, "Flange Static", "--base", "Flange-"}, "jobs are numbered after \"Job-\" alone"},
+        {{"propose", load}, "FEATURE is required"},
+        {{"propose", load, "x", "--job"}, "leave FEATURE and --base out"},
         {{"rename", step, "Step-9", "x"}, step + ": no feature has the id, the path"},
         {{"rename", step, "step", "x", "--output", "/no/such/folder/x"}, "/no/such/folder/x: cannot be written"},
         {{"rename", step, "step", "x", "--output", "/tmp"}, "/tmp: cannot be written: it is no regular file"},
@@ -45,7 +48,7 @@ TEST(Commands, EndWithTwoAndOneLineForWhatCannotBeUsed) {
 }
 
 TEST(Commands, HelpWithAnExample) {
-    for (const char* command : {"check", "audit", "propose", "rename"}) {
+    for (const char* command : {"check", "audit", "deck", "propose", "rename"}) {
         const Told told = RunWith({command, "--help"});
         EXPECT_EQ(told.code, 0);
         EXPECT_NE(told.out.find(std::string("Example: qvrnames ") + command), std::string::npos) << told.out;
@@ -105,6 +108,8 @@ TEST(Commands, AuditTheWholeExample) {
                                           "DoubleByteCharErr_01",
                                           "DuplicateNameERR_01",
                                           "DuplicateNameERR_02",
+                                          "DuplicateNameERR_03",
+                                          "DuplicateZFXNameERR_01",
                                           "IllegalCharERR_01",
                                           "LeadingDigitERR_01",
                                           "NameLengthERR_01",
@@ -125,6 +130,54 @@ TEST(Commands, AuditTheWholeExample) {
                                 std::to_string(said["refusals"].size()) + " refusals\n";
     EXPECT_TRUE(table.out.ends_with("\n\n" + closing)) << table.out;
     EXPECT_EQ(RunWith({"audit", Example("rename-a-step.json")}).code, 0);
+}
+
+TEST(Commands, ShowWhatTheDeckCallsEverything) {
+    const std::string document = Example("pump-flange-bracket.json");
+    for (int run = 0; run < 2; ++run) { // each on fresh caches
+        const Told told = RunWith({"deck", document, "--json"});
+        EXPECT_EQ(told.code, 0);
+        const auto deck = nlohmann::json::parse(told.out);
+        const auto row = [&](const char* section, const std::string& feature) {
+            for (auto said : deck[section])
+                if (said["feature"] == feature) {
+                    said.erase("feature");
+                    said.erase("pointer");
+                    return said.dump();
+                }
+            return std::string("none");
+        };
+        EXPECT_EQ(row("features", "M12.unten"),
+                  R"({"displayName":"M12.unten","genericName":"SAMVirtBoltTightening-1","solverName":"M12-unten"})");
+        EXPECT_EQ(row("features", "Thermal and Shock/衝撃"),
+                  R"({"displayName":"衝撃","genericName":"QVRExplicitDynamicStepLT-1","solverName":"衝撃"})");
+        EXPECT_EQ(row("meshParts", "__Bolt_ _"),
+                  R"({"displayName":"__Bolt_ _","instanceName":"Instance5-Bolt","partName":"Part5-Bolt","tag":"5"})");
+        EXPECT_EQ(
+            row("meshParts", "OrphanMesh-Housing.1"),
+            R"({"displayName":"OrphanMesh-Housing.1","instanceName":"Housing.1","partName":"Housing.1","tag":null})");
+        EXPECT_EQ(row("materials", "Acier d'origine"),
+                  R"({"displayName":"Acier d'origine","genericName":"SAMUserMaterial-2","materialName":"Steel-1"})");
+        EXPECT_EQ(row("supports", "Foot Support"), R"({"displayName":"Foot Support","group":null})");
+        EXPECT_EQ(row("connectionDesigns", "Flange Joint"),
+                  R"({"displayName":"Flange Joint","masterGroup":"Bolt-Top","slaveGroup":"Fuß links"})");
+        EXPECT_EQ(deck["jobs"].size(), 4U);
+    }
+    const auto findings = nlohmann::json::parse(RunWith({"audit", document, "--deck", "--json"}).out)["refusals"];
+    const auto said = [&](const char* feature, const char* deckColumn, const std::string& words) {
+        return std::any_of(findings.begin(), findings.end(), [&](const auto& finding) {
+            return finding["feature"] == feature && finding.value("deck", "") == deckColumn &&
+                   (finding["messageId"] == words ||
+                    finding["message"].template get<std::string>().find(words) != std::string::npos);
+        });
+    };
+    EXPECT_TRUE(said("Thermal and Shock/衝撃", "SOLVER NAME", "DoubleByteCharErr_01")); // let through for a "QVR" type
+    EXPECT_TRUE(said("OrphanMesh-Housing.1", "INSTANCE", "IllegalCharERR_01"));
+    EXPECT_TRUE(said("Static/betriebsdruck", "SOLVER NAME", "gives this name to Static/Betriebsdruck as well"));
+    EXPECT_TRUE(said("Thermal and Shock/flange static", "", "DuplicateNameERR_03"));
+    EXPECT_TRUE(said("m12 OBEN", "", "DuplicateZFXNameERR_01"));
+    EXPECT_FALSE(said("Acier d'origine", "NAME", "as well"));
+    EXPECT_EQ(RunWith({"propose", document, "--job"}).out, "base name       Job-\nnext free name  Job-2\n");
 }
 
 TEST(Commands, ProposeTheNextFreeName) {

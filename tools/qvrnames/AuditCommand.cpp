@@ -1,4 +1,5 @@
 #include "Commands.h"
+#include "Deck.h"
 #include "FeaturePaths.h"
 #include "Printing.h"
 #include "Run.h"
@@ -35,6 +36,7 @@ struct Finding {
     std::uint32_t entry;
     std::string name;
     Verdict verdict;
+    std::string deckColumn = {}; ///< empty: the feature's own name
 };
 
 std::string NameOf(const ZFXISpecObject_var& feature) {
@@ -46,9 +48,10 @@ void PrintFindings(const LoadedDocument& loaded, const std::vector<Finding>& fin
                    std::ostream& out) {
     std::vector<std::vector<std::string>> rows{{"FEATURE", "NAME", "MESSAGE", "TEXT"}};
     for (const Finding& finding : findings)
-        rows.push_back({Printable(PathOf(loaded, finding.entry)), Printable(finding.name),
-                        finding.verdict.messageId.empty() ? "-" : finding.verdict.messageId,
-                        Printable(finding.verdict.message)});
+        rows.push_back(
+            {Printable(PathOf(loaded, finding.entry)),
+             Printable(finding.name) + (finding.deckColumn.empty() ? "" : "  (deck, " + finding.deckColumn + ")"),
+             finding.verdict.messageId.empty() ? "-" : finding.verdict.messageId, Printable(finding.verdict.message)});
     if (!findings.empty()) {
         PrintTable(out, rows);
         out << '\n';
@@ -67,14 +70,16 @@ void PrintFindingsAsJson(const LoadedDocument& loaded, const std::vector<Finding
                             {"name", finding.name},
                             {"messageId", finding.verdict.messageId},
                             {"message", finding.verdict.message}});
+        if (!finding.deckColumn.empty())
+            refusals.back()["deck"] = finding.deckColumn;
     }
     PrintJson(out, {{"featuresChecked", checked}, {"refusals", refusals}});
 }
 
 } // namespace
 
-int AuditDocument(const std::string& document, Console console) {
-    const auto loaded = OpenDocument(document);
+int AuditDocument(const AuditRequest& request, Console console) {
+    const auto loaded = OpenDocument(request.document);
     std::size_t named = 0;
     for (const DocumentEntry& entry : loaded->entries)
         named += entry.isNamed ? 1 : 0;
@@ -87,11 +92,14 @@ int AuditDocument(const std::string& document, Console console) {
         const ZFXISpecObject_var feature = loaded->entries[entry].feature;
         // An empty name stands for the feature's own, which is the same here.
         const std::string name = NameOf(feature);
-        Verdict verdict = JudgeName(feature, name.c_str());
-        if (verdict.IsRefusal())
-            findings.push_back({entry, name, std::move(verdict)});
+        for (Verdict verdict : {JudgeName(feature, name.c_str()), JudgeFurther(feature)})
+            if (verdict.IsRefusal())
+                findings.push_back({entry, name, std::move(verdict)});
         progress.Done(++checked);
     }
+    if (request.withDeck)
+        for (DeckFinding& finding : FindingsOf(DeckOf(*loaded), *loaded))
+            findings.push_back({finding.entry, finding.name, std::move(finding.verdict), std::move(finding.column)});
     (console.isJson ? PrintFindingsAsJson : PrintFindings)(*loaded, findings, checked, console.out);
     return findings.empty() ? kFine : kRefused;
 }

@@ -21,12 +21,19 @@ struct CheckRequest {
 };
 int CheckNames(const CheckRequest& request, Console console);
 
-int AuditDocument(const std::string& document, Console console);
+struct AuditRequest {
+    std::string document;
+    bool withDeck = false; ///< the names of the solver deck as well
+};
+int AuditDocument(const AuditRequest& request, Console console);
+
+int ShowDeck(const std::string& document, Console console);
 
 struct ProposeRequest {
     std::string document;
     std::string feature;
-    std::string base; ///< empty: that of the feature's late type
+    std::string base;   ///< empty: that of the feature's late type
+    bool isJob = false; ///< for a new job, and no feature
 };
 int ProposeName(const ProposeRequest& request, Console console);
 

@@ -60,9 +60,27 @@ ZFXUnicodeString NextName(ZFXISpecObject_var feature, const ZFXUnicodeString& ba
     return name;
 }
 
+/// The name of a job that is still to be made.
+int ProposeJobName(const ProposeRequest& request, Console console) {
+    if (!request.feature.empty() || !request.base.empty())
+        throw BadInput("--job stands for a new job: leave FEATURE and --base out");
+    const auto loaded = OpenDocument(request.document);
+    ZFXUnicodeString name;
+    QVRNameUtil::GetUniqueNameForJob(name);
+    if (console.isJson)
+        PrintJson(console.out, {{"base", kJobBase}, {"proposal", name.ConvertToChar()}});
+    else
+        PrintTable(console.out, {{"base name", kJobBase}, {"next free name", Printable(name.ConvertToChar())}});
+    return kFine;
+}
+
 } // namespace
 
 int ProposeName(const ProposeRequest& request, Console console) {
+    if (request.isJob)
+        return ProposeJobName(request, console);
+    if (request.feature.empty())
+        throw BadInput("FEATURE is required; see --help");
     const auto loaded = OpenDocument(request.document);
     const std::uint32_t entry = FindNamedFeature(*loaded, request.document, request.feature);
     ZFXISpecObject_var feature = loaded->entries[entry].feature;

@@ -25,6 +25,7 @@ public:
                      "Example: qvrnames audit pump.json");
         AddCheck();
         AddAudit();
+        AddDeck();
         AddPropose();
         AddRename();
     }
@@ -57,16 +58,24 @@ private:
     }
     void AddAudit() {
         CLI::App* app = Add("audit", "Check the name of every feature of a document.", "audit pump.json --json",
-                            [this] { return AuditDocument(m_rename.document, m_console); });
-        AddDocument(app, m_rename.document);
+                            [this] { return AuditDocument(m_audit, m_console); });
+        AddDocument(app, m_audit.document);
+        app->add_flag("--deck", m_audit.withDeck,
+                      "Check also the names in the solver deck: those that break a rule or are given twice");
+    }
+    void AddDeck() {
+        CLI::App* app = Add("deck", "Show what the solver deck would call everything.", "deck pump.json",
+                            [this] { return ShowDeck(m_deckDocument, m_console); });
+        AddDocument(app, m_deckDocument);
     }
     void AddPropose() {
         CLI::App* app = Add("propose", "Propose the next free name for a feature.",
                             "propose pump.json new-load\n         qvrnames propose pump.json Static/Step-1 "
-                            "--base \"Static Step-\"",
+                            "--base \"Static Step-\"\n         qvrnames propose pump.json --job",
                             [this] { return ProposeName(m_propose, m_console); });
         AddDocument(app, m_propose.document);
-        app->add_option("FEATURE", m_propose.feature, "The feature to be named")->required();
+        app->add_option("FEATURE", m_propose.feature, "The feature to be named");
+        app->add_flag("--job", m_propose.isJob, "Propose the name of a new job instead");
         app->add_option("--base", m_propose.base,
                         "What the number is put after; that of the feature's type when it is not given");
     }
@@ -86,6 +95,8 @@ private:
     CLI::App m_app{"Checks, proposes and changes names of features in an analysis document.", "qvrnames"};
     Console m_console;
     CheckRequest m_check;
+    AuditRequest m_audit;
+    std::string m_deckDocument;
     ProposeRequest m_propose;
     RenameRequest m_rename;
     std::function<int()> m_command;

@@ -36,6 +36,19 @@ Verdict JudgeName(const ZFXISpecObject_var& feature, const ZFXUnicodeString& nam
     return VerdictOf(QVRNameUtil::CheckName(judged, name, type == "QVRShellSectionEnhLT" ? 0 : 1));
 }
 
+Verdict JudgeFurther(const ZFXISpecObject_var& feature) {
+    ZFXISpecObject_var judged(feature);
+    ZFXUnicodeString name;
+    if (judged == nullptr || Failed(QVRNameUtil::GetObjectName(judged, name)))
+        return {};
+    const ZFXUnicodeString type = judged->GetLateType();
+    if (type == "QVRJobLT")
+        return VerdictOf(QVRNameUtil::IsUniqueNameForJob(judged, name));
+    if (type == "SAMBoltTightening" || type == "SAMVirtBoltTightening" || type == "SAMVirtSpringBoltTigh")
+        return VerdictOf(QVRNameUtil::GetMorvelObjectName(judged, name));
+    return {};
+}
+
 ZFXUnicodeString TrimmedName(const ZFXUnicodeString& name) {
     return name.Strip(ZFXUnicodeString::StripBoth).Strip(ZFXUnicodeString::StripBoth, '_');
 }

@@ -26,5 +26,9 @@ Verdict JudgeFileName(const ZFXUnicodeString& name);
 /// shell sections may begin with a digit, and for jobs nothing counts but that no case has the name.
 Verdict JudgeName(const ZFXISpecObject_var& feature, const ZFXUnicodeString& name);
 
+/// What else can be said of the name that a feature has: a job's against all jobs of the document, a bolt
+/// tightening's once made legal and against its siblings'. No refusal for any other feature.
+Verdict JudgeFurther(const ZFXISpecObject_var& feature);
+
 /// The name without the blanks and then the underscores at its ends, as the guard stores it.
 ZFXUnicodeString TrimmedName(const ZFXUnicodeString& name);

@@ -1,0 +1,57 @@
+#include "Commands.h"
+#include "Deck.h"
+#include "FeaturePaths.h"
+#include "Printing.h"
+#include "Run.h"
+
+#include <nlohmann/json.hpp>
+
+#include <ostream>
+
+namespace {
+
+void PrintSection(const DeckSection& section, const LoadedDocument& loaded, std::ostream& out) {
+    std::vector<std::vector<std::string>> rows{{section.title}};
+    for (const DeckColumn& column : section.columns)
+        rows.front().emplace_back(column.title);
+    for (const DeckRow& row : section.rows) {
+        rows.push_back({Printable(PathOf(loaded, row.entry))});
+        for (const std::optional<std::string>& name : row.names)
+            rows.back().push_back(Printable(name.value_or("-")));
+    }
+    PrintTable(out, rows);
+    out << '\n';
+}
+
+nlohmann::ordered_json AsJson(const DeckSection& section, const LoadedDocument& loaded) {
+    nlohmann::ordered_json rows = nlohmann::ordered_json::array();
+    for (const DeckRow& row : section.rows) {
+        nlohmann::ordered_json said{{"feature", PathOf(loaded, row.entry)}, {"pointer", PointerOf(loaded, row.entry)}};
+        for (std::size_t c = 0; c < section.columns.size(); ++c)
+            said[section.columns[c].key] =
+                row.names[c] ? nlohmann::ordered_json(*row.names[c]) : nlohmann::ordered_json();
+        rows.push_back(std::move(said));
+    }
+    return rows;
+}
+
+} // namespace
+
+int ShowDeck(const std::string& document, Console console) {
+    const auto loaded = OpenDocument(document);
+    const std::vector<DeckSection> deck = DeckOf(*loaded);
+    nlohmann::ordered_json said = nlohmann::ordered_json::object();
+    std::size_t objects = 0;
+    for (const DeckSection& section : deck) {
+        objects += section.rows.size();
+        if (console.isJson)
+            said[section.key] = AsJson(section, *loaded);
+        else if (!section.rows.empty())
+            PrintSection(section, *loaded, console.out);
+    }
+    if (console.isJson)
+        PrintJson(console.out, said);
+    else
+        console.out << objects << " objects named\n";
+    return kFine;
+}
