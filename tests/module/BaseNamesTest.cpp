@@ -2,16 +2,14 @@
 
 #include "support/DocumentTest.h"
 
+#include <tuple>
+
 namespace {
 
 class BaseNamesTest : public DocumentTest {};
 
 TEST_F(BaseNamesTest, FollowTheExactLateType) {
-    struct Row {
-        const char* lateType;
-        const char* baseName;
-    };
-    const Row rows[] = {
+    const std::tuple<const char*, const char*> rows[] = {
         {"QVRPressure", "Pressure-"},
         {"QVRConcentratedForce", "Point Load-"},
         {"QVRConcHeatFlux", "Point Heat Flux-"},
@@ -28,11 +26,11 @@ TEST_F(BaseNamesTest, FollowTheExactLateType) {
         {"QVRFieldOutputLT", "before"},
         {"", "before"},
     };
-    for (const Row& row : rows) {
-        ZFXISpecObject_var feature(document.Model().Feature(row.lateType, "x"));
+    for (const auto& [lateType, expectedBaseName] : rows) {
+        ZFXISpecObject_var feature(document.Model().Feature(lateType, "x"));
         ZFXUnicodeString baseName("before");
         EXPECT_EQ(QVRNameUtil::CreateBaseName(feature, baseName), S_OK);
-        EXPECT_EQ(Text(baseName), row.baseName) << row.lateType;
+        EXPECT_EQ(Text(baseName), expectedBaseName) << lateType;
     }
     ZFXISpecObject_var nothing;
     ZFXUnicodeString baseName("before");

@@ -4,6 +4,8 @@
 
 #include <gtest/gtest.h>
 
+#include <tuple>
+
 namespace {
 
 TEST(CharacterSets, OffendingUnitsAreListedForTheUser) {
@@ -43,12 +45,7 @@ TEST(CharacterSets, OffendingUnitsAreListedForTheUser) {
 }
 
 TEST(CharacterSets, NamesAreStrippedAndQuoted) {
-    struct Row {
-        const char* name;
-        const char* stripped;
-        const char* quoted;
-    };
-    const Row rows[] = {
+    const std::tuple<const char*, const char*, const char*> rows[] = {
         {"my job (1).inp", "myjob1.inp", "\"my job (1).inp\""},
         {" $*?,#!&~()[]{}|:;'`/><", "", "\" $*?,#!&~()[]{}|:;'`/><\""},
         {"a\"b\\c.d", "a\"b\\c.d", "a\"b\\c.d"},
@@ -57,13 +54,13 @@ TEST(CharacterSets, NamesAreStrippedAndQuoted) {
         {"x \"y", "x\"y", "\"x \"y\""},
         {"", "", ""},
     };
-    for (const Row& row : rows) {
-        ZFXUnicodeString stripped(row.name);
-        ZFXUnicodeString quoted(row.name);
+    for (const auto& [name, expectedStripped, expectedQuoted] : rows) {
+        ZFXUnicodeString stripped(name);
+        ZFXUnicodeString quoted(name);
         EXPECT_EQ(QVRNameUtil::StripIllegalCharsFromFileName(stripped), S_OK);
         QVRNameUtil::QuoteIfNeeded(quoted);
-        EXPECT_EQ(Text(stripped), row.stripped);
-        EXPECT_EQ(Text(quoted), row.quoted);
+        EXPECT_EQ(Text(stripped), expectedStripped);
+        EXPECT_EQ(Text(quoted), expectedQuoted);
     }
 }
 

@@ -5,38 +5,34 @@
 
 #include <gtest/gtest.h>
 
+#include <tuple>
+
 namespace {
 
 /// A fresh object: the one of the process examines its locales only once.
 class Fresh : public QVRGenI18NUtils {};
 
 TEST(EnglishMode, IsSettledByTheFirstQuestion) {
-    struct Row {
-        LCID user;
-        HKL input;
-        unsigned char userEnglish;
-        unsigned char inputEnglish;
-    };
-    const Row rows[] = {
+    const std::tuple<LCID, HKL, unsigned char, unsigned char> rows[] = {
         {0x0409, 0x04090409, 1, 1}, {0x0407, 0x04090409, 0, 1}, {0x3409, 0xF0030809, 1, 1}, {0x4009, 0x0411, 0, 0},
         {0x10409, 0x1009, 0, 1},    {0x0809, 0x040C, 1, 0},     {0x0009, 0x3809, 0, 0},
     };
-    for (const Row& row : rows) {
+    for (const auto& [user, input, userEnglish, inputEnglish] : rows) {
         Fresh utils;
-        ZFXSetLocales(row.user, row.input);
-        EXPECT_EQ(utils.IsEnglishUserLocale(), row.userEnglish) << row.user;
-        EXPECT_EQ(utils.IsEnglishInputLocale(), row.inputEnglish) << row.input;
+        ZFXSetLocales(user, input);
+        EXPECT_EQ(utils.IsEnglishUserLocale(), userEnglish) << user;
+        EXPECT_EQ(utils.IsEnglishInputLocale(), inputEnglish) << input;
         EXPECT_EQ(utils.IsInitialUserLocaleEnglish() + utils.IsInitialInputLocaleEnglish(),
                   0); // nobody asked yet
-        const std::string expected = std::string("The initial user locale is ") + (row.userEnglish ? "" : "NOT ") +
-                                     "English.\nThe initial input locale is " + (row.inputEnglish ? "" : "NOT ") +
+        const std::string expected = std::string("The initial user locale is ") + (userEnglish ? "" : "NOT ") +
+                                     "English.\nThe initial input locale is " + (inputEnglish ? "" : "NOT ") +
                                      "English.\n";
         EXPECT_EQ(Console([&] { utils.GetInitialLocales(); }), expected);
         ZFXSetLocales(0x0407, 0x0407); // comes too late
         utils.ResetAllLists();
-        EXPECT_EQ(Console([&] { EXPECT_EQ(utils.IsEnglishMode(), row.userEnglish & row.inputEnglish); }), "");
-        EXPECT_EQ(utils.IsInitialUserLocaleEnglish(), row.userEnglish);
-        EXPECT_EQ(utils.IsInitialInputLocaleEnglish(), row.inputEnglish);
+        EXPECT_EQ(Console([&] { EXPECT_EQ(utils.IsEnglishMode(), userEnglish & inputEnglish); }), "");
+        EXPECT_EQ(utils.IsInitialUserLocaleEnglish(), userEnglish);
+        EXPECT_EQ(utils.IsInitialInputLocaleEnglish(), inputEnglish);
         EXPECT_EQ(utils.IsEnglishUserLocale() + utils.IsEnglishInputLocale(), 0);
     }
     ZFXFollowMessageLocale();

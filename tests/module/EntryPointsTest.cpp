@@ -2,6 +2,8 @@
 
 #include "support/DocumentTest.h"
 
+#include <tuple>
+
 namespace {
 
 class EntryPointsTest : public DocumentTest {
@@ -12,35 +14,26 @@ protected:
 };
 
 TEST_F(EntryPointsTest, UniquenessIsJudgedBeforeTheText) {
-    struct Row {
-        const char* current;
-        ZFXUnicodeString name;
-        const char* check;
-        const char* file;
-    };
     const char* const duplicate = "DuplicateNameERR_02 -100";
     const char* const char1 = "IllegalCharERR_01 -100";
     const char* const char2 = "IllegalCharERR_02 -100";
-    const Row rows[] = {
+    // clang-format off
+    const std::tuple<const char*, ZFXUnicodeString, const char*, const char*> rows[] = {
         {"Current", "New", "S_OK", "S_OK"},
         {"Current", "taken", duplicate, "S_OK"}, // the file check compares the current name
-        {"TAKEN", "New", "S_OK", duplicate},
-        {"TAKEN", "", duplicate, duplicate},
-        {"", "", "NameLengthERR_02", "S_OK"},
-        {"1.", "", "LeadingDigitERR_01", char1},
-        {"Current", Repeated('x', 72), "S_OK", "S_OK"},
-        {"Current", Repeated('x', 73), "NameLengthERR_01", "S_OK"},
-        {"Current", "1st", "LeadingDigitERR_01", "S_OK"},
-        {"Current", "1.日", "LeadingDigitERR_01", char1},
-        {"Current", "a.日", char1, char1},
-        {"Current", "a b日", "DoubleByteCharErr_01", char2},
+        {"TAKEN", "New", "S_OK", duplicate}, {"TAKEN", "", duplicate, duplicate},
+        {"", "", "NameLengthERR_02", "S_OK"}, {"1.", "", "LeadingDigitERR_01", char1},
+        {"Current", Repeated('x', 72), "S_OK", "S_OK"}, {"Current", Repeated('x', 73), "NameLengthERR_01", "S_OK"},
+        {"Current", "1st", "LeadingDigitERR_01", "S_OK"}, {"Current", "1.日", "LeadingDigitERR_01", char1},
+        {"Current", "a.日", char1, char1}, {"Current", "a b日", "DoubleByteCharErr_01", char2},
         {"Current", "Träger", "S_OK", "S_OK"},
     };
-    for (const Row& row : rows) {
-        feature.Alias(row.current);
+    // clang-format on
+    for (const auto& [current, name, check, file] : rows) {
+        feature.Alias(current);
         ZFXISpecObject_var handle(feature);
-        EXPECT_EQ(Said(QVRNameUtil::CheckName(handle, row.name, 1)), row.check) << row.name;
-        EXPECT_EQ(Said(QVRNameUtil::CheckFileName(handle, row.name)), row.file) << row.name;
+        EXPECT_EQ(Said(QVRNameUtil::CheckName(handle, name, 1)), check) << name;
+        EXPECT_EQ(Said(QVRNameUtil::CheckFileName(handle, name)), file) << name;
     }
     ZFXISpecObject_var handle(feature.Alias("Current"));
     EXPECT_EQ(Said(QVRNameUtil::CheckName(handle, "1st", 0)), "S_OK");

@@ -2,6 +2,8 @@
 
 #include "support/DocumentTest.h"
 
+#include <tuple>
+
 namespace {
 
 /// Names that the singleton hands out; it is empty before and after each test.
@@ -113,31 +115,20 @@ TEST_F(GenericNamesTest, MaterialsAreWorkedOutAfresh) {
 }
 
 TEST_F(GenericNamesTest, SolverCompliantNamesFallBackOnGenericOnes) {
-    struct Row {
-        const char* name;
-        const char* generic;
-        const char* compliant;
-    };
-    const Row rows[] = {
-        {"Load.1", "SAMThickness", "Load-1"},
-        {"", "SAMThickness", ""},
-        {"厚", "SAMThickness", "Thickness"},
-        {"厚", "SAMThickness", "Thickness-1"},
-        {"板", "SAMThickness", "Thickness-2"},
-        {"厚", "QVRLayupLT", "厚"},
-        {"samx厚", "QVRLayupLT", "x厚"},
-        {"厚", "Lmsx", "x"},
-        {"厚", "QV", "QV"},
-        {"厚", "aQVR", "aQVR"},
+    // clang-format off
+    const std::tuple<const char*, const char*, const char*> rows[] = {
+        {"Load.1", "SAMThickness", "Load-1"}, {"", "SAMThickness", ""}, {"厚", "SAMThickness", "Thickness"},
+        {"厚", "SAMThickness", "Thickness-1"}, {"板", "SAMThickness", "Thickness-2"}, {"厚", "QVRLayupLT", "厚"},
+        {"samx厚", "QVRLayupLT", "x厚"}, {"厚", "Lmsx", "x"}, {"厚", "QV", "QV"}, {"厚", "aQVR", "aQVR"},
         {"厚", "aQVR", "aQVR-1"},
         {"厚", "a.b", "a.b"}, // full stops of a generic name stay
-        {"厚", "sam", ""},
-        {"厚", "qvrx", "x"},
+        {"厚", "sam", ""}, {"厚", "qvrx", "x"},
     };
-    for (const Row& row : rows) {
+    // clang-format on
+    for (const auto& [name, expectedGeneric, expectedCompliant] : rows) {
         ZFXUnicodeString compliant("before");
-        EXPECT_EQ(utils->GetTARNISCompliantFeatureName(row.name, row.generic, compliant), S_OK);
-        EXPECT_EQ(Text(compliant), row.compliant) << row.name << " " << row.generic;
+        EXPECT_EQ(utils->GetTARNISCompliantFeatureName(name, expectedGeneric, compliant), S_OK);
+        EXPECT_EQ(Text(compliant), expectedCompliant) << name << " " << expectedGeneric;
     }
     int count = 0;
     EXPECT_EQ(utils->FindNameAndNextID("SAMThickness", count), 1);

@@ -19,26 +19,14 @@ TEST_F(InstanceNameTest, DisplayNamesAreCleaned) {
         const char* display;
         const char* base; // behind the word, the tag and the dash
     };
+    // clang-format off
     const Row rows[] = {
-        {"Bracket.1", "Bracket-1"},
-        {"Root: Bracket", "Bracket"},
-        {":Bracket", "Bracket"},
-        {"a:b:Bracket", "racket"},
-        {"Root:", "oot:"},
-        {":", ":"},
-        {"a:b", ""},
-        {"__Bracket_ _", "Bracket"},
-        {" _Bracket ", "_Bracket"},
-        {"\"B\\C\"", "B/C"},
-        {"_ _", ""},
-        {"   ", ""},
-        {"\t", "\t"},
-        {"a\t_ ", "a\t"},
-        {"a(b)#", "a(b)#"},
-        {"orphanMesh-x", "orphanMesh-x"},
-        {"\"_x\"", "x"},
-        {"Träger", "Träger"},
+        {"Bracket.1", "Bracket-1"}, {"Root: Bracket", "Bracket"}, {":Bracket", "Bracket"}, {"a:b:Bracket", "racket"},
+        {"Root:", "oot:"}, {":", ":"}, {"a:b", ""}, {"__Bracket_ _", "Bracket"}, {" _Bracket ", "_Bracket"},
+        {"\"B\\C\"", "B/C"}, {"_ _", ""}, {"   ", ""}, {"\t", "\t"}, {"a\t_ ", "a\t"}, {"a(b)#", "a(b)#"},
+        {"orphanMesh-x", "orphanMesh-x"}, {"\"_x\"", "x"}, {"Träger", "Träger"},
     };
+    // clang-format on
     for (const Row& row : rows) {
         const std::string tail = *row.base == '\0' ? "" : std::string("-") + row.base;
         EXPECT_EQ(Name(document.MeshPart(row.display, 5)), "Instance5" + tail + "|Part5" + tail) << row.display;

@@ -17,28 +17,22 @@ TEST(NameValidation, TheFirstRuleThatFailsDecides) {
     const char* const length1 = "NameLengthERR_01";
     const char* const char1 = "IllegalCharERR_01 -100";
     const char* const char2 = "IllegalCharERR_02 -100";
+    // clang-format off
     const Row rows[] = {
-        {"", "NameLengthERR_02", "NameLengthERR_02", "S_OK", true},
-        {"a", "S_OK", "S_OK", "S_OK", true},
-        {Repeated('a', 72), "S_OK", "S_OK", "S_OK", true},
-        {Repeated('a', 73), length1, length1, "S_OK", true},
+        {"", "NameLengthERR_02", "NameLengthERR_02", "S_OK", true}, {"a", "S_OK", "S_OK", "S_OK", true},
+        {Repeated('a', 72), "S_OK", "S_OK", "S_OK", true}, {Repeated('a', 73), length1, length1, "S_OK", true},
         {Repeated('a', 72) + ".", length1, length1, char1, true},
-        {Repeated('a', 200), length1, length1, "S_OK", true},
-        {"1abc", "LeadingDigitERR_01", "S_OK", "S_OK", true},
-        {"1.c", "LeadingDigitERR_01", char1, char1, true},
-        {"abc1", "S_OK", "S_OK", "S_OK", true},
-        {"_x", "S_OK", "S_OK", "S_OK", true},
-        {" x", "S_OK", "S_OK", char2, true},
+        {Repeated('a', 200), length1, length1, "S_OK", true}, {"1abc", "LeadingDigitERR_01", "S_OK", "S_OK", true},
+        {"1.c", "LeadingDigitERR_01", char1, char1, true}, {"abc1", "S_OK", "S_OK", "S_OK", true},
+        {"_x", "S_OK", "S_OK", "S_OK", true}, {" x", "S_OK", "S_OK", char2, true},
         {"１", "S_OK", "S_OK", "S_OK", true}, // a digit of another script leads
-        {"Step.1", char1, char1, char1, true},
-        {"a\"b", char1, char1, char1, true},
-        {"dir\\job", char1, char1, "S_OK", true},
-        {"Static Step-1", "S_OK", "S_OK", char2, true},
+        {"Step.1", char1, char1, char1, true}, {"a\"b", char1, char1, char1, true},
+        {"dir\\job", char1, char1, "S_OK", true}, {"Static Step-1", "S_OK", "S_OK", char2, true},
         {"a.b c", char1, char1, char1, true}, // reserved characters are examined first
-        {"c a.b", char1, char1, char1, true},
-        {"a/b(c)*", "S_OK", "S_OK", char2, false},
+        {"c a.b", char1, char1, char1, true}, {"a/b(c)*", "S_OK", "S_OK", char2, false},
         {"日本", "S_OK", "S_OK", "S_OK", true},
     };
+    // clang-format on
     for (Row row : rows) {
         const ZFXUnicodeString before(row.name);
         EXPECT_EQ(Said(QVRNameUtil::IsNameValid(row.name, 1)), row.checked) << row.name;

@@ -3,17 +3,14 @@
 #include "QVRGenI18NUtils.h"
 #include "support/DocumentTest.h"
 
+#include <tuple>
+
 namespace {
 
 class NumberedNamesTest : public DocumentTest {};
 
 TEST_F(NumberedNamesTest, TheNextNumberFollowsTheHighest) {
-    struct Row {
-        std::vector<const char*> inUse;
-        const char* base;
-        const char* next;
-    };
-    const Row rows[] = {
+    const std::tuple<std::vector<const char*>, const char*, const char*> rows[] = {
         {{}, "Pressure-", "Pressure-1"},
         {{"Pressure-1", "Pressure-3"}, "Pressure-", "Pressure-4"}, // gaps stay
         {{"pressure-7", "Old Pressure-9", "Pressure-", "Pressure-x"}, "Pressure-", "Pressure-1"},
@@ -30,17 +27,17 @@ TEST_F(NumberedNamesTest, TheNextNumberFollowsTheHighest) {
         {{"P-2147483647", "P-2", "P-1", "P-3"}, "P-", "P-4"},
         {{"PressurePressure-3"}, "Pressure", "Pressure1"},
     };
-    for (const Row& row : rows) {
+    for (const auto& [inUse, base, next] : rows) {
         MemoryFeature set = document.Model().Set("S");
         ZFXListValZFXBaseUnknown_var scope;
-        for (const char* name : row.inUse)
+        for (const char* name : inUse)
             scope.Append(ZFXBaseUnknown_var(set.Feature("T", name)));
-        ZFXUnicodeString overList(row.base);
-        ZFXUnicodeString overSet(row.base);
+        ZFXUnicodeString overList(base);
+        ZFXUnicodeString overSet(base);
         EXPECT_EQ(QVRNameUtil::GetNextUniqueName(overList, scope), S_OK);
         EXPECT_EQ(QVRNameUtil::GetNextUniqueName(overSet, ZFXISamAnalysisSet_var(set)), S_OK);
-        EXPECT_EQ(Text(overList), row.next);
-        EXPECT_EQ(Text(overSet), row.next);
+        EXPECT_EQ(Text(overList), next);
+        EXPECT_EQ(Text(overSet), next);
     }
 }
 
@@ -61,12 +58,7 @@ TEST_F(NumberedNamesTest, ElementsWithoutANameCountForNothingAndAFailedListingFo
 
 TEST_F(NumberedNamesTest, FeaturesTheSolverCannotNameGoByTheirLateType) {
     QVRGenI18NUtils::Instance()->ResetAllLists();
-    struct Row {
-        const char* lateType;
-        const char* alias;
-        const char* name;
-    };
-    const Row rows[] = {
+    const std::tuple<const char*, const char*, const char*> rows[] = {
         {"SAMBoltTightening", "ボルト", "SAMBoltTightening"},
         {"SAMBoltTightening", "Träger", "Träger"},
         {"SAMBoltTightening", "螺栓", "SAMBoltTightening-1"},
@@ -75,11 +67,11 @@ TEST_F(NumberedNamesTest, FeaturesTheSolverCannotNameGoByTheirLateType) {
         {"QVRPressure", "圧力", "圧力"},
         {"xSAM", "日", "日"},
     };
-    for (const Row& row : rows) {
-        const ZFXISpecObject_var feature(document.Model().Feature(row.lateType, row.alias));
+    for (const auto& [lateType, alias, expectedName] : rows) {
+        const ZFXISpecObject_var feature(document.Model().Feature(lateType, alias));
         ZFXUnicodeString name("before");
         EXPECT_EQ(QVRNameUtil::GenerateUniqueName(*feature.Get(), name), S_OK);
-        EXPECT_EQ(Text(name), row.name);
+        EXPECT_EQ(Text(name), expectedName);
     }
     const ZFXISpecObject_var nameless(document.Model().Feature("SAMShell", "日").Without(IID_ZFXIAlias));
     ZFXUnicodeString name("before");

@@ -2,6 +2,8 @@
 
 #include "support/DocumentTest.h"
 
+#include <tuple>
+
 namespace {
 
 class StepNamesTest : public DocumentTest {
@@ -101,19 +103,14 @@ TEST_F(StepNamesTest, OtherFeaturesAreComparedInTheirSet) {
     EXPECT_EQ(Check(feature, "B"), "DuplicateNameERR_02 -100");
     EXPECT_EQ(Check(document.Model().Feature("T", "loose"), "b"), "S_OK");
     EXPECT_EQ(Check({}, "b"), "S_OK");
-    struct Row {
-        MemoryRequest request;
-        MemoryAnswer answer;
-        std::string said;
-    };
-    const Row rows[] = {
+    const std::tuple<MemoryRequest, MemoryAnswer, std::string> rows[] = {
         {MemoryRequest::GetParentSets, kFailsFilled, std::to_string(kCode)},
         {MemoryRequest::GetParentSets, {4, false}, "4"},
         {MemoryRequest::ListMembers, kFailsFilled, std::to_string(kCode)},
     };
-    for (const Row& row : rows) {
-        model.AnswerAlways(row.request, row.answer);
-        EXPECT_EQ(Check(feature, "b"), row.said);
+    for (const auto& [request, answer, said] : rows) {
+        model.AnswerAlways(request, answer);
+        EXPECT_EQ(Check(feature, "b"), said);
         model.Heal();
     }
     set.Without(IID_ZFXISamAnalysisSet);

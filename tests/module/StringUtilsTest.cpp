@@ -14,20 +14,17 @@ TEST(StringUtils, CleanNames) {
         const char* in;
         const char* out;
     };
+    // clang-format off
     const Row rows[] = {
-        {Utils::RemoveSpaces, "  a  b ", "ab"},
-        {Utils::RemoveDoubleQuotes, "\"a\"b", "ab"},
-        {Utils::RemoveBackSlashes, "\\a\\\\b/", "ab/"},
-        {Utils::RemovePeriods, ".1.2.", "12"},
-        {Utils::RemoveLeadingSpaces, "   a b ", "a b "},
-        {Utils::RemoveLeadingUnderscores, "__a_b_", "a_b_"},
-        {Utils::RemoveTrailingSpaces, " a b   ", " a b"},
-        {Utils::RemoveTrailingUnderscores, "_a_b__", "_a_b"},
+        {Utils::RemoveSpaces, "  a  b ", "ab"}, {Utils::RemoveDoubleQuotes, "\"a\"b", "ab"},
+        {Utils::RemoveBackSlashes, "\\a\\\\b/", "ab/"}, {Utils::RemovePeriods, ".1.2.", "12"},
+        {Utils::RemoveLeadingSpaces, "   a b ", "a b "}, {Utils::RemoveLeadingUnderscores, "__a_b_", "a_b_"},
+        {Utils::RemoveTrailingSpaces, " a b   ", " a b"}, {Utils::RemoveTrailingUnderscores, "_a_b__", "_a_b"},
         {Utils::ReplaceBackslashWithForwardslash, "\\a\\b", "/a/b"},
-        {Utils::ReplacePeriodWithDash, "1.2.3", "1-2-3"},
-        {Utils::RemoveSpaces, "", ""},
+        {Utils::ReplacePeriodWithDash, "1.2.3", "1-2-3"}, {Utils::RemoveSpaces, "", ""},
         {Utils::RemoveLeadingSpaces, "   ", ""},
     };
+    // clang-format on
     for (const Row& row : rows)
         EXPECT_EQ(Text(row.clean(row.in)), row.out);
     for (const int length : {0, 71, 72, 73, 200})
@@ -41,18 +38,14 @@ TEST(StringUtils, ReadIntegersFromTheEnd) {
         std::vector<int> numbers; // after the 7 that stood there
         const char* left;
     };
+    // clang-format off
     const Row rows[] = {
-        {"1,2,3", ",", {7, 3, 2, 1}, "1"},
-        {"10,20,x,30", ",", {7, 30, 20, 10}, "10"},
-        {"", ",", {7}, ""},
-        {"5", ",", {7, 5}, "5"},
-        {",,", ",", {7}, ""},
-        {"1, -2,3b", ",", {7, 3, -2, 1}, "1"},
+        {"1,2,3", ",", {7, 3, 2, 1}, "1"}, {"10,20,x,30", ",", {7, 30, 20, 10}, "10"}, {"", ",", {7}, ""},
+        {"5", ",", {7, 5}, "5"}, {",,", ",", {7}, ""}, {"1, -2,3b", ",", {7, 3, -2, 1}, "1"},
         {"1::2", "::", {7, 1}, "1"}, // the second colon is read as part of the number
-        {"1--2", "--", {7, -2, 1}, "1"},
-        {"1,2", "", {7, 1}, "1,2"},
-        {"a,99999999999,3", ",", {7, 3}, "a"},
+        {"1--2", "--", {7, -2, 1}, "1"}, {"1,2", "", {7, 1}, "1,2"}, {"a,99999999999,3", ",", {7, 3}, "a"},
     };
+    // clang-format on
     for (const Row& row : rows) {
         ZFXUnicodeString text(row.text);
         ZFXRawCollint numbers;

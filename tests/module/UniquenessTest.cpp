@@ -2,6 +2,8 @@
 
 #include "support/DocumentTest.h"
 
+#include <tuple>
+
 namespace {
 
 class UniquenessTest : public DocumentTest {};
@@ -12,15 +14,8 @@ TEST_F(UniquenessTest, TheFirstElementThatFailsDecides) {
     MemoryFeature twin = set.Feature("T", "LOAD-1");
     MemoryFeature other = set.Feature("T", "Load-2");
     MemoryFeature nameless = set.Feature("T", "x").Without(IID_ZFXIAlias);
-    struct Row {
-        const char* why;
-        std::vector<MemoryFeature> scope;
-        MemoryFeature feature;
-        const char* name;
-        const char* said;
-    };
     const char* const duplicate = "DuplicateNameERR_02 -100";
-    const Row rows[] = {
+    const std::tuple<const char*, std::vector<MemoryFeature>, MemoryFeature, const char*, const char*> rows[] = {
         {"nothing in scope", {}, feature, "Load-1", "S_OK"},
         {"itself only, twice", {feature, feature}, feature, "Load-1", "S_OK"},
         {"apart from case", {feature, twin}, feature, "Load-1", duplicate},
@@ -33,12 +28,11 @@ TEST_F(UniquenessTest, TheFirstElementThatFailsDecides) {
         {"no feature", {other}, {}, "Load-2", duplicate},
         {"an empty handle in the list", {MemoryFeature()}, feature, "x", "ZFXIAliasERR_01"},
     };
-    for (const Row& row : rows) {
+    for (const auto& [why, elements, judged, name, said] : rows) {
         ZFXListValZFXBaseUnknown_var scope;
-        for (const MemoryFeature& element : row.scope)
+        for (const MemoryFeature& element : elements)
             scope.Append(ZFXBaseUnknown_var(element));
-        EXPECT_EQ(Said(QVRNameUtil::IsNameUniqueInSet(ZFXISpecObject_var(row.feature), scope, row.name)), row.said)
-            << row.why;
+        EXPECT_EQ(Said(QVRNameUtil::IsNameUniqueInSet(ZFXISpecObject_var(judged), scope, name)), said) << why;
     }
 }
 
@@ -59,14 +53,9 @@ TEST_F(UniquenessTest, JobsAreComparedAcrossTheCasesOfTheirModel) {
     EXPECT_EQ(check(""), "S_OK");
 
     // Codes that are read, and lists that count whatever the code is.
-    struct Row {
-        MemoryRequest request;
-        MemoryAnswer answer;
-        const char* said;
-    };
     const std::string code = std::to_string(kCode);
     const char* const duplicate = "DuplicateNameERR_02 -100";
-    const Row rows[] = {
+    const std::tuple<MemoryRequest, MemoryAnswer, const char*> rows[] = {
         {MemoryRequest::GetParentSets, kFailsFilled, code.c_str()},
         {MemoryRequest::GetParentSets, kEmpty, "S_OK"},
         {MemoryRequest::GetParentSets, {3, false}, "3"},
@@ -77,9 +66,9 @@ TEST_F(UniquenessTest, JobsAreComparedAcrossTheCasesOfTheirModel) {
         {MemoryRequest::FindObjectsOfType, kFails, "S_OK"},
         {MemoryRequest::ListMembers, kFailsFilled, code.c_str()},
     };
-    for (const Row& row : rows) {
-        model.AnswerAlways(row.request, row.answer);
-        EXPECT_EQ(check("Job-2"), row.said) << static_cast<int>(row.request);
+    for (const auto& [request, answer, said] : rows) {
+        model.AnswerAlways(request, answer);
+        EXPECT_EQ(check("Job-2"), said) << static_cast<int>(request);
         model.Heal();
     }
     second.Without(IID_ZFXISamAnalysisScan);

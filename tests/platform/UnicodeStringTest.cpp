@@ -6,6 +6,7 @@
 
 #include <limits>
 #include <thread>
+#include <tuple>
 
 using String = ZFXUnicodeString;
 
@@ -30,12 +31,7 @@ TEST(UnicodeString, CopiesOwnTheirText) {
 }
 
 TEST(UnicodeString, NarrowTextIsUtf8BothWays) {
-    struct Row {
-        const char* in;
-        int length;
-        const char* out;
-    };
-    const Row rows[] = {
+    const std::tuple<const char*, int, const char*> rows[] = {
         {"abc", 3, "abc"},
         {"é", 1, "é"},
         {"日本", 2, "日本"},
@@ -46,12 +42,12 @@ TEST(UnicodeString, NarrowTextIsUtf8BothWays) {
         {"\xC0\xAF", 2, "\xEF\xBF\xBD\xEF\xBF\xBD"},                                 // more bytes than needed
         {"\xF4\x90\x80\x80", 4, "\xEF\xBF\xBD\xEF\xBF\xBD\xEF\xBF\xBD\xEF\xBF\xBD"}, // above U+10FFFF
     };
-    for (const Row& row : rows) {
-        const String text(row.in);
-        EXPECT_EQ(text.GetLengthInChar(), row.length) << row.in;
-        EXPECT_STREQ(text.ConvertToChar(), row.out);
-        EXPECT_EQ(text == row.in, 1) << row.in;
-        EXPECT_EQ(text == (std::string(row.in) + "x").c_str(), 0);
+    for (const auto& [in, length, out] : rows) {
+        const String text(in);
+        EXPECT_EQ(text.GetLengthInChar(), length) << in;
+        EXPECT_STREQ(text.ConvertToChar(), out);
+        EXPECT_EQ(text == in, 1) << in;
+        EXPECT_EQ(text == (std::string(in) + "x").c_str(), 0);
     }
     const unsigned short lone[] = {u'a', 0xD800, u'b'};
     String half;
@@ -66,36 +62,21 @@ TEST(UnicodeString, NarrowTextIsUtf8BothWays) {
 }
 
 TEST(UnicodeString, CompareTellsIdenticalFromEqualApartFromCase) {
-    struct Row {
-        const char* a;
-        const char* b;
-        int expected;
-    };
-    const Row rows[] = {
-        {"", "", 2},
-        {"Load-1", "Load-1", 2},
-        {"Load-1", "LOAD-1", 1},
-        {"Load-1", "Load-2", 0},
-        {"Load-1", "Load-10", 0},
-        {"a", "", 0},
-        {"@", "`", 0},
-        {"[", "{", 0},
-        {"É", "é", 1},
-        {"Σ", "ς", 1},
-        {"ß", "ẞ", 1},
-        {"ss", "ß", 0},
+    // clang-format off
+    const std::tuple<const char*, const char*, int> rows[] = {
+        {"", "", 2}, {"Load-1", "Load-1", 2}, {"Load-1", "LOAD-1", 1}, {"Load-1", "Load-2", 0},
+        {"Load-1", "Load-10", 0}, {"a", "", 0}, {"@", "`", 0}, {"[", "{", 0}, {"É", "é", 1}, {"Σ", "ς", 1},
+        {"ß", "ẞ", 1}, {"ss", "ß", 0},
         {"\u212A", "k", 1}, // Kelvin sign
         {"ſ", "S", 1},      // long s
-        {"𐐀x", "𐐨X", 1},
-        {"𐐀", "𐐩", 0},
-        {"İ", "i", 0},
-        {"日", "日", 2},
+        {"𐐀x", "𐐨X", 1}, {"𐐀", "𐐩", 0}, {"İ", "i", 0}, {"日", "日", 2},
     };
-    for (const Row& row : rows) {
-        EXPECT_EQ(String(row.a).Compare(row.b), row.expected) << row.a << " " << row.b;
-        EXPECT_EQ(String(row.b).Compare(row.a), row.expected) << row.b << " " << row.a;
-        const String longA = kLong + row.a;
-        EXPECT_EQ(longA.Compare(kLong + row.b), row.expected);
+    // clang-format on
+    for (const auto& [a, b, expected] : rows) {
+        EXPECT_EQ(String(a).Compare(b), expected) << a << " " << b;
+        EXPECT_EQ(String(b).Compare(a), expected) << b << " " << a;
+        const String longA = kLong + a;
+        EXPECT_EQ(longA.Compare(kLong + b), expected);
     }
     String cut("abc");
     cut.Remove(0, 3);
@@ -118,21 +99,15 @@ TEST(UnicodeString, SearchesStripsAndCuts) {
     EXPECT_EQ(Text(String(" \t a ").Strip(String::StripBoth)), "\t a");
     EXPECT_EQ(Text(String("---").Strip(String::StripBoth, '-')), "");
 
-    struct Row {
-        int start;
-        int length;
-        const char* sub;
-        const char* removed;
-    };
-    const Row rows[] = {
+    const std::tuple<int, int, const char*, const char*> rows[] = {
         {1, 2, "bc", "ad"}, {0, -1, "abcd", ""}, {2, -1, "cd", "ab"}, {2, 99, "cd", "ab"},
         {9, 1, "", "abcd"}, {-5, 1, "a", "bcd"}, {4, 0, "", "abcd"},
     };
-    for (const Row& row : rows) {
+    for (const auto& [start, length, sub, removed] : rows) {
         String text("abcd");
-        EXPECT_EQ(Text(text.SubString(row.start, row.length)), row.sub);
-        text.Remove(row.start, row.length);
-        EXPECT_EQ(Text(text), row.removed);
+        EXPECT_EQ(Text(text.SubString(start, length)), sub);
+        text.Remove(start, length);
+        EXPECT_EQ(Text(text), removed);
     }
     String cut(kLong);
     cut.Resize(72);
@@ -147,24 +122,17 @@ TEST(UnicodeString, SearchesStripsAndCuts) {
 }
 
 TEST(UnicodeString, ReplacesAlsoWithItself) {
-    struct Row {
-        const char* text;
-        const char* old;
-        const char* with;
-        const char* all;
-        const char* first;
-    };
-    const Row rows[] = {
+    const std::tuple<const char*, const char*, const char*, const char*, const char*> rows[] = {
         {"a.b.c", ".", "-", "a-b-c", "a-b.c"}, {"aaa", "aa", "a", "aa", "aa"}, {"aaaa", "a", "aa", "aaaaaaaa", "aaaaa"},
         {"abc", "x", "y", "abc", "abc"},       {"abc", "", "y", "abc", "abc"}, {"a a", " ", "", "aa", "aa"},
     };
-    for (const Row& row : rows) {
-        String all(row.text);
-        String first(row.text);
-        all.ReplaceAll(row.old, row.with);
-        first.ReplaceSubString(String(row.old), row.with);
-        EXPECT_EQ(Text(all), row.all) << row.text;
-        EXPECT_EQ(Text(first), row.first) << row.text;
+    for (const auto& [text, old, with, expectedAll, expectedFirst] : rows) {
+        String all(text);
+        String first(text);
+        all.ReplaceAll(old, with);
+        first.ReplaceSubString(String(old), with);
+        EXPECT_EQ(Text(all), expectedAll) << text;
+        EXPECT_EQ(Text(first), expectedFirst) << text;
     }
     for (String text : {String("ab"), kLong}) {
         const String copy(text);
