@@ -111,6 +111,11 @@ public:
     static HRESULT GetNextUniqueName(ZFXUnicodeString& name, const ZFXListValZFXBaseUnknown_var& scope) noexcept;
     /// The same over the members of a set. E_FAIL for an empty handle or when the members cannot be listed.
     static HRESULT GetNextUniqueName(ZFXUnicodeString& name, const ZFXISamAnalysisSet_var& set) noexcept;
+    /// The next `count` names behind the base in `name`, appended to `names` after one reading of the scope: exactly
+    /// those that as many calls of GetNextUniqueName would give if each proposal were taken at once. The base stays.
+    /// E_FAIL, and nothing appended, for a count below 1.
+    static HRESULT GetNextUniqueNames(ZFXUnicodeString& name, const ZFXListValZFXBaseUnknown_var& scope, int count,
+                                      ZFXListValZFXUnicodeString& names) noexcept;
     /// A name that a feature can go by: its own when no unit of it is above U+00FF (else the test registers
     /// its "DoubleByteCharErr_01", which is not returned) or when its late type does not begin with "SAM";
     /// else its late type, followed by "-" and a number from the second time on, until

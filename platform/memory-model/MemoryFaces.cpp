@@ -3,7 +3,7 @@
 #include "memory-model/MemoryObject.h"
 #include "memory-model/MemorySession.h"
 
-#include <string>
+#include <string_view>
 
 HRESULT MemoryPointingAttribute::QueryInterface(const IID& iid, void** face) {
     if (face == nullptr || iid != IID_ZFXISpecAttribute)
@@ -61,26 +61,27 @@ ZFXListValZFXISpecAttribute_var* MemoryZFXISpecObject::ListPointingAttributes(co
 ZFXISpecAttrKey* MemoryZFXISpecAttrAccess::GetAttrKey(const char* name) {
     if (!Object().Ask(MemoryRequest::GetAttrKey).filled || name == nullptr || Object().document == nullptr)
         return nullptr;
-    const std::string key(name);
-    const bool known = key == "Alias" ? Object().aliasKey : Object().ExtrasOrNone().attributes.contains(key);
-    return known ? Object().document->session.KeyOf(key) : nullptr;
+    MemorySession& session = Object().document->session;
+    if (std::string_view(name) == "Alias")
+        return Object().aliasKey ? session.AliasKey() : nullptr;
+    return Object().ExtrasOrNone().attributes.contains(name) ? session.KeyOf(name) : nullptr;
 }
 
 void MemoryZFXISpecAttrAccess::SetString(ZFXISpecAttrKey* key, const ZFXUnicodeString& value, int) {
     if (!Object().Ask(MemoryRequest::SetString).filled || key == nullptr)
         return;
-    const std::string& name = static_cast<MemoryAttrKey*>(key)->name;
-    (name == "Alias" ? Object().alias : Object().Extras().attributes[name]) = value;
+    const MemoryAttrKey& named = static_cast<MemoryAttrKey&>(*key);
+    (named.isAlias ? Object().alias : Object().Extras().attributes[named.name]) = value;
 }
 
 ZFXUnicodeString MemoryZFXISpecAttrAccess::GetString(ZFXISpecAttrKey* key, int) {
     if (!Object().Ask(MemoryRequest::GetString).filled || key == nullptr)
         return {};
-    const std::string& name = static_cast<MemoryAttrKey*>(key)->name;
-    if (name == "Alias")
+    const MemoryAttrKey& named = static_cast<MemoryAttrKey&>(*key);
+    if (named.isAlias)
         return Object().alias;
     const auto& attributes = Object().ExtrasOrNone().attributes;
-    const auto found = attributes.find(name);
+    const auto found = attributes.find(named.name);
     return found == attributes.end() ? ZFXUnicodeString() : found->second;
 }
 

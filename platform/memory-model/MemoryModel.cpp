@@ -168,7 +168,7 @@ void MemoryModel::Heal() { m_session->faults.Clear(); }
 long MemoryModel::LiveObjects() noexcept { return MemoryObject::live; }
 
 long MemoryModel::References() const {
-    long references = 0;
+    long references = -1; // the session's own on the key of the alias
     for (MemoryDocumentObject* document : m_session->documents)
         references += document->References();
     for (const auto& [name, key] : m_session->keys)

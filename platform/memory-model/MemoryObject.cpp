@@ -173,7 +173,9 @@ HRESULT MemoryObject::QueryInterface(const IID& iid, void** face) {
     if (!Ask(MemoryRequest::Cast).filled || m_withheld.test(static_cast<std::size_t>(number)))
         return E_NOINTERFACE;
     // An extension that a module declared for the late type comes before the object's own interface.
-    if (const ZFXAdaptorFactory factory = lateType->metaClass->FindAdaptorFactory(iid)) {
+    const ZFXAdaptorFactory factory =
+        lateType->metaClass->IsExtended() ? lateType->metaClass->FindAdaptorFactory(iid) : nullptr;
+    if (factory != nullptr) {
         *face = factory(this, nullptr);
         return *face == nullptr ? E_NOINTERFACE : S_OK;
     }

@@ -25,8 +25,9 @@ struct MemoryLateType {
 /// The key of one attribute name.
 class MemoryAttrKey final : public ZFXISpecAttrKey {
 public:
-    explicit MemoryAttrKey(std::string keyName) : name(std::move(keyName)) {}
+    explicit MemoryAttrKey(std::string keyName) : name(std::move(keyName)), isAlias(name == "Alias") {}
     const std::string name;
+    const bool isAlias; // asked for far more often than all others
     long References() { return static_cast<long>(Count()) - 1; }
 };
 

@@ -101,6 +101,7 @@ MemorySession::~MemorySession() {
         document->Close();
         document->Release();
     }
+    m_aliasKey->Release();
     for (const auto& [name, key] : keys)
         key->Release();
 }
@@ -111,6 +112,11 @@ MemoryAttrKey* MemorySession::KeyOf(const std::string& name) {
         key = new MemoryAttrKey(name);
     key->AddRef();
     return key;
+}
+
+MemoryAttrKey* MemorySession::AliasKey() {
+    m_aliasKey->AddRef();
+    return m_aliasKey;
 }
 
 MemoryObject* MemorySession::Find(const ZFXBaseUnknown* face) const {

@@ -42,6 +42,7 @@ public:
 
     /// The key of an attribute name. [new reference]
     MemoryAttrKey* KeyOf(const std::string& name);
+    MemoryAttrKey* AliasKey();
     /// The object behind a face, or null when it is none of this session's.
     MemoryObject* Find(const ZFXBaseUnknown* face) const;
     /// A document by its pointer; the current one for null. Null when there is none.
@@ -51,4 +52,7 @@ public:
     std::vector<MemoryDocumentObject*> documents;
     MemoryDocumentObject* current = nullptr;
     std::map<std::string, MemoryAttrKey*> keys;
+
+private:
+    MemoryAttrKey* m_aliasKey = KeyOf("Alias"); // one reference of its own
 };

@@ -62,7 +62,7 @@ public:
     /// The platform's allocator: null when there is no memory, so that a new expression gives null too.
     static void* operator new(std::size_t size) noexcept;
     static void operator delete(void* memory) noexcept;
-    /// Blocks of the platform's allocator that are in use, over all threads.
+    /// Blocks of the platform's allocator that this thread took and did not give back.
     static long LiveAllocations() noexcept;
 
 protected:

@@ -47,6 +47,8 @@ public:
     void SetExtensionOf(ZFXMetaClass* extended);
     /// Nonzero when this class extends objects of the late type.
     int IsExtensionOf(const ZFXMetaClass* extended) const noexcept;
+    /// Whether anything extends objects of this late type.
+    bool IsExtended() const noexcept { return !m_extensions.empty(); }
     /// The factory that offers an interface on objects of this late type through one of its extensions, or
     /// null.
     ZFXAdaptorFactory FindAdaptorFactory(const IID& iid) const noexcept;

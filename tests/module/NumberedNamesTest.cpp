@@ -3,6 +3,7 @@
 #include "QVRGenI18NUtils.h"
 #include "support/DocumentTest.h"
 
+#include <random>
 #include <tuple>
 
 namespace {
@@ -54,6 +55,31 @@ TEST_F(NumberedNamesTest, ElementsWithoutANameCountForNothingAndAFailedListingFo
               E_FAIL); // not the request's code
     EXPECT_EQ(QVRNameUtil::GetNextUniqueName(name, ZFXISamAnalysisSet_var()), E_FAIL);
     EXPECT_EQ(Text(name), "P-");
+}
+
+TEST_F(NumberedNamesTest, ABatchGivesWhatSingleProposalsWould) {
+    std::mt19937 random(20261122); // NOLINT: the same scopes every time
+    const char* const bases[] = {"P-", "p-", "P", "", "P-1", "P- "};
+    const char* const numbers[] = {"1",          "2",          "07",          "-3", "+4", " 5",
+                                   "2147483646", "2147483647", "99999999999", "x",  "3b", ""};
+    const auto any = [&](const auto& list) { return list[random() % std::size(list)]; };
+    for (int round = 0; round < 300; ++round) {
+        MemoryFeature set = document.Model().Set("S");
+        ZFXListValZFXBaseUnknown_var scope;
+        for (auto i = random() % 12; i > 0; --i)
+            scope.Append(ZFXBaseUnknown_var(set.Feature("T", ZFXUnicodeString(any(bases)) + any(numbers))));
+        ZFXUnicodeString base(any(bases));
+        ZFXListValZFXUnicodeString batch;
+        const int count = static_cast<int>(random() % 6);
+        EXPECT_EQ(QVRNameUtil::GetNextUniqueNames(base, scope, count, batch), count < 1 ? E_FAIL : S_OK);
+        ASSERT_EQ(batch.Size(), count);
+        for (int i = 1; i <= count; ++i) {
+            ZFXUnicodeString single(base);
+            QVRNameUtil::GetNextUniqueName(single, scope);
+            EXPECT_EQ(batch[i], single) << "base " << base;
+            scope.Append(ZFXBaseUnknown_var(set.Feature("T", single)));
+        }
+    }
 }
 
 TEST_F(NumberedNamesTest, FeaturesTheSolverCannotNameGoByTheirLateType) {

@@ -27,10 +27,10 @@ ZFXUnicodeString Lowered(ZFXUnicodeString text) {
 HRESULT QVRNameUtil::GetUniqueNameForJob(ZFXUnicodeString& name) noexcept {
     const ZFXListValZFXISpecObject_var jobs = AllJobs();
     const ZFXUnicodeString base = Lowered(Vocabulary::JobBase);
-    Numbering::InUse numbers(jobs.Size());
+    Numbering::InUse numbers(static_cast<std::size_t>(jobs.Size()) + 1);
     for (int i = 1; i <= jobs.Size(); ++i)
         numbers.Add(Numbering::NumberAfter(base, Lowered(NameOf(jobs[i]))));
-    name = Numbering::Numbered(Vocabulary::JobBase, numbers.Next());
+    name = Numbering::Numbered(Vocabulary::JobBase, numbers.Take());
     return S_OK;
 }
 

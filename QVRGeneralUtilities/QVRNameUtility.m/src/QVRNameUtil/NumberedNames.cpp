@@ -6,11 +6,30 @@
 #include "internal/Navigation.h"
 #include "internal/Numbering.h"
 
-HRESULT QVRNameUtil::GetNextUniqueName(ZFXUnicodeString& name, const ZFXListValZFXBaseUnknown_var& scope) noexcept {
-    Numbering::InUse numbers(scope.Size());
+namespace {
+
+/// The numbers behind the base in a scope, with room for some more.
+Numbering::InUse NumbersInUse(const ZFXUnicodeString& base, const ZFXListValZFXBaseUnknown_var& scope, int more) {
+    Numbering::InUse numbers(static_cast<std::size_t>(scope.Size()) + static_cast<std::size_t>(more));
     for (int i = 1; i <= scope.Size(); ++i)
-        numbers.Add(Numbering::NumberAfter(name, NameOf(scope[i])));
-    name = Numbering::Numbered(name, numbers.Next());
+        numbers.Add(Numbering::NumberAfter(base, NameOf(scope[i])));
+    return numbers;
+}
+
+} // namespace
+
+HRESULT QVRNameUtil::GetNextUniqueName(ZFXUnicodeString& name, const ZFXListValZFXBaseUnknown_var& scope) noexcept {
+    name = Numbering::Numbered(name, NumbersInUse(name, scope, 1).Take());
+    return S_OK;
+}
+
+HRESULT QVRNameUtil::GetNextUniqueNames(ZFXUnicodeString& name, const ZFXListValZFXBaseUnknown_var& scope, int count,
+                                        ZFXListValZFXUnicodeString& names) noexcept {
+    if (count < 1)
+        return E_FAIL;
+    Numbering::InUse numbers = NumbersInUse(name, scope, count);
+    for (int i = 0; i < count; ++i)
+        names.Append(Numbering::Numbered(name, numbers.Take()));
     return S_OK;
 }
 

@@ -3,6 +3,7 @@
 #include "text/ZFXUnicodeString.h"
 
 #include <algorithm>
+#include <cstddef>
 #include <limits>
 #include <vector>
 
@@ -19,25 +20,30 @@ ZFXUnicodeString Numbered(const ZFXUnicodeString& base, int number);
 /// The numbers that are in use in a scope.
 class InUse {
 public:
-    /// For a scope of at most `count` names.
-    explicit InUse(int count) : m_low(static_cast<std::size_t>(count) + 2) {}
+    /// For at most `count` numbers.
+    explicit InUse(std::size_t count) : m_low(count + 2) {}
 
     void Add(int number) noexcept {
         m_highest = std::max(m_highest, number);
         if (number > 0 && static_cast<std::size_t>(number) < m_low.size())
             m_low[static_cast<std::size_t>(number)] = true;
     }
-    /// One more than the highest; when there is none above the highest, the lowest that is free. (Of one number more
-    /// than there are names one is free.)
-    int Next() const {
-        if (m_highest < std::numeric_limits<int>::max())
-            return m_highest + 1;
-        return static_cast<int>(std::find(m_low.begin() + 1, m_low.end(), false) - m_low.begin());
+    /// Takes the next number: one more than the highest; when there is none above the highest, the lowest that is free.
+    /// (Of one number more than are in use one is free.)
+    int Take() {
+        if (m_highest < std::numeric_limits<int>::max()) {
+            Add(m_highest + 1);
+            return m_highest;
+        }
+        m_lowest = std::find(m_low.begin() + m_lowest, m_low.end(), false) - m_low.begin();
+        m_low[static_cast<std::size_t>(m_lowest)] = true;
+        return static_cast<int>(m_lowest);
     }
 
 private:
     int m_highest = 0;
     std::vector<bool> m_low;
+    std::ptrdiff_t m_lowest = 1; // all below are in use
 };
 
 } // namespace Numbering
