@@ -30,7 +30,8 @@ TEST(EnglishMode, IsSettledByTheFirstQuestion) {
         EXPECT_EQ(Console([&] { utils.GetInitialLocales(); }), expected);
         ZFXSetLocales(0x0407, 0x0407); // comes too late
         utils.ResetAllLists();
-        EXPECT_EQ(Console([&] { EXPECT_EQ(utils.IsEnglishMode(), userEnglish & inputEnglish); }), "");
+        const int both = userEnglish & inputEnglish;
+        EXPECT_EQ(Console([&] { EXPECT_EQ(utils.IsEnglishMode(), both); }), "");
         EXPECT_EQ(utils.IsInitialUserLocaleEnglish(), userEnglish);
         EXPECT_EQ(utils.IsInitialInputLocaleEnglish(), inputEnglish);
         EXPECT_EQ(utils.IsEnglishUserLocale() + utils.IsEnglishInputLocale(), 0);
