@@ -1,0 +1,66 @@
+#include "HeapCounter.h"
+
+#include <cerrno>
+#include <malloc.h>
+
+#define EXPORTED __attribute__((visibility("default")))
+
+extern "C" {
+void* __libc_malloc(std::size_t size);
+void* __libc_calloc(std::size_t count, std::size_t size);
+void* __libc_realloc(void* memory, std::size_t size);
+void* __libc_memalign(std::size_t alignment, std::size_t size);
+void __libc_free(void* memory);
+}
+
+namespace {
+
+bool isCounting = false;
+long blocks = 0;
+long bytes = 0;
+
+long SizeOf(void* memory) { return static_cast<long>(malloc_usable_size(memory) + sizeof(std::size_t)); }
+
+void* Taken(void* memory) {
+    if (isCounting && memory != nullptr) {
+        ++blocks;
+        bytes += SizeOf(memory);
+    }
+    return memory;
+}
+
+void GivenBack(void* memory) {
+    if (isCounting && memory != nullptr)
+        bytes -= SizeOf(memory);
+}
+
+} // namespace
+
+extern "C" {
+EXPORTED void* malloc(std::size_t size) noexcept { return Taken(__libc_malloc(size)); }
+EXPORTED void* calloc(std::size_t count, std::size_t size) noexcept { return Taken(__libc_calloc(count, size)); }
+EXPORTED void* realloc(void* memory, std::size_t size) noexcept {
+    GivenBack(memory);
+    return Taken(__libc_realloc(memory, size));
+}
+EXPORTED void* memalign(std::size_t alignment, std::size_t size) noexcept {
+    return Taken(__libc_memalign(alignment, size));
+}
+EXPORTED void* aligned_alloc(std::size_t alignment, std::size_t size) noexcept { return memalign(alignment, size); }
+EXPORTED int posix_memalign(void** memory, std::size_t alignment, std::size_t size) noexcept {
+    *memory = memalign(alignment, size);
+    return *memory == nullptr ? ENOMEM : 0;
+}
+EXPORTED void free(void* memory) noexcept {
+    GivenBack(memory);
+    __libc_free(memory);
+}
+}
+
+HeapCounter::HeapCounter() noexcept {
+    blocks = bytes = 0;
+    isCounting = true;
+}
+HeapCounter::~HeapCounter() { isCounting = false; }
+long HeapCounter::Blocks() noexcept { return blocks; }
+long HeapCounter::Bytes() noexcept { return bytes; }

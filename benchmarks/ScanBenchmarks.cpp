@@ -1,0 +1,97 @@
+#include "Benchmarks.h"
+#include "NamedThing.h"
+#include "QVRNameUtil.h"
+#include "Results.h"
+#include "Scopes.h"
+
+#include <cstring>
+
+namespace {
+
+using Scopes::AliasFrom;
+
+constexpr const char* kBase = "Pressure-";
+
+/// Free in every scope.
+ZFXUnicodeString FreeName() { return Scopes::NumberedName(kBase, Scopes::kLargest + 1); }
+
+class OneNamed final : public NamedThing {
+public:
+    explicit OneNamed(ZFXUnicodeString name) : m_name(std::move(name)) {}
+    const ZFXUnicodeString& Name() const noexcept override { return m_name; }
+
+private:
+    ZFXUnicodeString m_name;
+};
+
+NamedThings Things(int n) {
+    NamedThings things;
+    for (int i = 1; i <= n; ++i)
+        things.push_back(std::make_unique<OneNamed>(Scopes::NumberedName(kBase, i)));
+    return things;
+}
+
+void CheckUnique(benchmark::State& state, AliasFrom from, int n) {
+    const ZFXListValZFXBaseUnknown_var scope = Scopes::FirstFeatures(from, n);
+    const ZFXISpecObject_var feature = Scopes::Newcomer(from);
+    const ZFXUnicodeString name = FreeName();
+    for (auto _ : state)
+        if (Failed(QVRNameUtil::IsNameUniqueInSet(feature, scope, name)))
+            state.SkipWithError("the name clashes");
+}
+
+void Propose(benchmark::State& state, AliasFrom from, int n) {
+    const ZFXListValZFXBaseUnknown_var scope = Scopes::FirstFeatures(from, n);
+    const ZFXUnicodeString expected = Scopes::NumberedName(kBase, n + 1);
+    ZFXUnicodeString name;
+    for (auto _ : state) {
+        name = kBase;
+        static_cast<void>(QVRNameUtil::GetNextUniqueName(name, scope));
+        if (name.Compare(expected) != 2)
+            state.SkipWithError("the proposal is wrong");
+    }
+}
+
+void CompareFloor(benchmark::State& state, int n) {
+    const NamedThings things = Things(n);
+    const ZFXUnicodeString name = FreeName();
+    for (auto _ : state) {
+        int clashes = 0;
+        for (const auto& thing : things)
+            clashes += thing->Name().Compare(name) != 0 ? 1 : 0;
+        benchmark::DoNotOptimize(clashes);
+    }
+}
+
+void PrefixFloor(benchmark::State& state, int n) {
+    const NamedThings things = Things(n);
+    const ZFXUnicodeString text(kBase);
+    std::u16string_view base = text.Units();
+    for (auto _ : state) {
+        benchmark::DoNotOptimize(base);
+        int found = 0;
+        for (const auto& thing : things) {
+            const std::u16string_view name = thing->Name().Units();
+            found += name.size() >= base.size() && std::memcmp(name.data(), base.data(), base.size() * 2) == 0 ? 1 : 0;
+        }
+        benchmark::DoNotOptimize(found);
+    }
+}
+
+} // namespace
+
+void RegisterScanBenchmarks() {
+    for (const int n : Scopes::kSizes) {
+        for (const AliasFrom from : {AliasFrom::Platform, AliasFrom::Extension}) {
+            const std::string word = Scopes::WordOf(from);
+            benchmark::RegisterBenchmark(Sized("IsNameUniqueInSet/" + word, n).c_str(),
+                                         [=](benchmark::State& state) { CheckUnique(state, from, n); });
+            benchmark::RegisterBenchmark(Sized("GetNextUniqueName/" + word, n).c_str(),
+                                         [=](benchmark::State& state) { Propose(state, from, n); });
+        }
+        benchmark::RegisterBenchmark(Sized("Floor/compare", n).c_str(),
+                                     [=](benchmark::State& state) { CompareFloor(state, n); });
+        benchmark::RegisterBenchmark(Sized("Floor/prefix", n).c_str(),
+                                     [=](benchmark::State& state) { PrefixFloor(state, n); });
+    }
+}

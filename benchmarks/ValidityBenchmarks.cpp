@@ -1,0 +1,53 @@
+#include "Benchmarks.h"
+#include "QVRNameUtil.h"
+
+#include <array>
+#include <vector>
+
+namespace {
+
+/// Names of 8, 16 and so on to 72 units, all legal.
+std::vector<ZFXUnicodeString> LegalNames() {
+    const ZFXUnicodeString longest("Pressure on the upper flange of the pump bracket while it is tightened-7");
+    std::vector<ZFXUnicodeString> names;
+    for (int length = 8; length <= 72; length += 8)
+        names.push_back(longest.SubString(0, length));
+    return names;
+}
+
+std::array<bool, 256> IllegalUnits() {
+    std::array<bool, 256> isIllegal{};
+    for (const char unit : {'"', '.', '\\'})
+        isIllegal[static_cast<unsigned char>(unit)] = true;
+    return isIllegal;
+}
+
+/// The least that a judge of each unit can do. Not inlined: what it is held against is a call too.
+__attribute__((noinline)) bool HasIllegalUnit(std::u16string_view units, const std::array<bool, 256>& isIllegal) {
+    for (const char16_t unit : units)
+        if (unit < isIllegal.size() && isIllegal[unit])
+            return true;
+    return false;
+}
+
+void Validate(benchmark::State& state) {
+    std::vector<ZFXUnicodeString> names = LegalNames();
+    for (auto _ : state)
+        for (ZFXUnicodeString& name : names)
+            benchmark::DoNotOptimize(QVRNameUtil::IsNameValid(name, 1));
+}
+
+void LookUp(benchmark::State& state) {
+    const std::vector<ZFXUnicodeString> names = LegalNames();
+    const std::array<bool, 256> isIllegal = IllegalUnits();
+    for (auto _ : state)
+        for (const ZFXUnicodeString& name : names)
+            benchmark::DoNotOptimize(HasIllegalUnit(name.Units(), isIllegal));
+}
+
+} // namespace
+
+void RegisterValidityBenchmarks() {
+    benchmark::RegisterBenchmark("IsNameValid", Validate);
+    benchmark::RegisterBenchmark("IsNameValid/table", LookUp);
+}
