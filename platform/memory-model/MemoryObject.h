@@ -168,7 +168,7 @@ struct MemoryExtras {
 /// An object of a document: the implementation behind all its faces.
 class MemoryObject final : public ZFXBaseUnknown {
 public:
-    MemoryObject(MemoryDocumentObject* document, MemoryKind kind, const MemoryLateType& lateType);
+    MemoryObject(MemoryDocumentObject* owner, MemoryKind objectKind, const MemoryLateType& type);
     ~MemoryObject() override;
 
     using ZFXBaseUnknown::QueryInterface;

@@ -61,9 +61,9 @@ void ZFXMetaClass::Declare(ENUMTypeOfClass kind, ZFXMetaClass* base) noexcept {
 
 ZFXAdaptorFactory ZFXMetaClass::FindAdaptorFactory(const IID& iid) const noexcept {
     for (const ZFXMetaClass* extension : m_extensions)
-        for (auto adaptor = extension->m_adaptors.rbegin(); adaptor != extension->m_adaptors.rend(); ++adaptor)
-            if (adaptor->iid == iid)
-                return adaptor->factory;
+        for (const Adaptor& adaptor : extension->m_adaptors)
+            if (adaptor.iid == iid)
+                return adaptor.factory;
     return nullptr;
 }
 

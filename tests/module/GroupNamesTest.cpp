@@ -47,7 +47,6 @@ TEST_F(GroupNamesTest, OneConnectorNamesTheGroup) {
 }
 
 TEST_F(GroupNamesTest, BothSidesOfADesignNeedOneConnectorEach) {
-    MemoryFeature model_ = document.Model();
     const auto of = [](MemoryFeature design) {
         QVRISamAnalysisConnectionDesign_var handle(design);
         ZFXUnicodeString master("m");
@@ -55,9 +54,9 @@ TEST_F(GroupNamesTest, BothSidesOfADesignNeedOneConnectorEach) {
         const HRESULT code = QVRNameUtil::GetGrpNameofMasterAndSlave(handle, master, slave);
         return Said(code) + "|" + Text(master) + "|" + Text(slave);
     };
-    MemoryFeature design = model_.Add(MemoryKind::ConnectionDesign, "SAMFaceFaceContact", "d");
+    MemoryFeature design = document.Model().Add(MemoryKind::ConnectionDesign, "SAMFaceFaceContact", "d");
     EXPECT_EQ(of(design), "S_OK|m|s");
-    design.Master(Connector("A.1")).Slave(model_.Add(MemoryKind::Connector, "SAMConnector", "c"));
+    design.Master(Connector("A.1")).Slave(document.Model().Add(MemoryKind::Connector, "SAMConnector", "c"));
     EXPECT_EQ(of(design), "S_OK|A-1|"); // the side that failed is emptied, the design succeeds
     design.Answer(MemoryRequest::GetMasterAndSlaveConnectors, kFailsFilled);
     EXPECT_EQ(of(design), "S_OK|A-1|");

@@ -62,7 +62,7 @@ TEST(Error, SpeaksAsItsCatalogSays) {
     error->Release();
     std::filesystem::remove_all(folder);
     MessageCatalog::SetFolder("/nowhere");
-    ZFXInputError* silent = new ZFXInputError("Id", "Tests");
+    auto* silent = new ZFXInputError("Id", "Tests");
     EXPECT_EQ(Text(silent->GetNLSMessage()), "Id"); // without a catalog the id speaks for itself
     silent->Release();
 }

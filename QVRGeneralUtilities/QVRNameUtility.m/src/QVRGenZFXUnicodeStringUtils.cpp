@@ -52,8 +52,9 @@ ZFXUnicodeString QVRGenZFXUnicodeStringUtils::TrucateToLegalLength(const ZFXUnic
     return in.SubString(0, kMaxNameLength);
 }
 
-HRESULT QVRGenZFXUnicodeStringUtils::GetIntegerListFromString(ZFXUnicodeString& text, ZFXRawCollint& numbers,
-                                                              ZFXUnicodeString separator) noexcept {
+HRESULT QVRGenZFXUnicodeStringUtils::GetIntegerListFromString(
+    ZFXUnicodeString& text, ZFXRawCollint& numbers,
+    ZFXUnicodeString separator) noexcept { // NOLINT: callers know it by value
     int n = 0;
     for (;;) {
         const int length = text.GetLengthInChar();
