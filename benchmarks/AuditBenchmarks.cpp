@@ -14,11 +14,11 @@ namespace {
 
 constexpr int kSteps = 50, kSetsInStep = 10, kFeaturesInSet = 200;
 
-/// A document of 100,000 features with legal and unique names, each in the scope of its set, and one property that was
+/// A document of 100,000 features with legal and unique names, each in the scope of its set, and one amplitude that was
 /// never named.
 void WriteDocument(const std::filesystem::path& file) {
     std::ofstream out(file);
-    out << R"({"propertySet":{"features":[{"type":"QVRSpringLT","id":"new"}]},"cases":[{"name":"Static","steps":[)";
+    out << R"({"propertySet":{"features":[{"type":"QVRTabularAmplitudeLT","id":"new"}]},"cases":[{"name":"Static","steps":[)";
     int number = 0;
     for (int step = 1; step <= kSteps; ++step) {
         out << (step == 1 ? "" : ",\n") << R"({"type":"QVRStaticLPStepLT","name":"Step-)" << step << R"(","sets":[)";
@@ -86,5 +86,5 @@ void RegisterAuditBenchmarks(const std::filesystem::path& folder) {
     const std::string file = (folder / "qvr-bench-document.json").string();
     WriteDocument(file);
     RegisterProgram("Audit/audit", {"audit", file});
-    RegisterProgram("Audit/load", {"propose", file, "new"});
+    RegisterProgram("Audit/load", {"propose", file, "new", "--base", "Amplitude-"});
 }

@@ -29,12 +29,19 @@ long BlocksOf(Operation operation) {
     return HeapCounter::Blocks();
 }
 
-/// Blocks that each further name costs: those of a scope, less those of its first half.
+ZFXListValZFXBaseUnknown_var First(const ZFXListValZFXBaseUnknown_var& scope, int n) {
+    ZFXListValZFXBaseUnknown_var first;
+    for (int i = 1; i <= n; ++i)
+        first.Append(scope[i]);
+    return first;
+}
+
+/// Blocks that each further name costs: those of a scope, less those of its first half. A scope of one name comes
+/// first: what a process or a thread takes once is no part of it.
 template <class Operation>
 double BlocksPerName(const ZFXListValZFXBaseUnknown_var& scope, Operation operation) {
-    ZFXListValZFXBaseUnknown_var half;
-    for (int i = 1; i <= kNames; ++i)
-        half.Append(scope[i]);
+    const ZFXListValZFXBaseUnknown_var half = First(scope, kNames);
+    operation(First(scope, 1));
     const long ofAll = BlocksOf([&] { operation(scope); });
     const long ofHalf = BlocksOf([&] { operation(half); });
     return static_cast<double>(ofAll - ofHalf) / kNames;

@@ -18,7 +18,7 @@ void ResultCollector::ReportRuns(const std::vector<Run>& runs) {
         if (run.error_occurred)
             m_results.PutReason(name, run.error_message);
         else if (run.run_type == Run::RT_Aggregate && run.aggregate_name == "median")
-            // The processor's time is blind to other programs; benchmarks that time themselves have only the other.
+            // Benchmarks that time themselves hand in the processor's time too, which the library files as real.
             m_results.Put(name, run.run_name.time_type == "manual_time" ? run.GetAdjustedRealTime()
                                                                         : run.GetAdjustedCPUTime());
     }
