@@ -156,6 +156,9 @@ TEST(Commands, ShowWhatTheDeckCallsEverything) {
         EXPECT_EQ(
             row("meshParts", "OrphanMesh-Housing.1"),
             R"({"displayName":"OrphanMesh-Housing.1","instanceName":"Housing.1","partName":"Housing.1","tag":null})");
+        EXPECT_EQ(
+            row("features", "Thermal and Shock/衝撃/Data Output Request-2"), // one without a name before it
+            R"({"displayName":"Data Output Request-2","genericName":"QVRDatOutputLT-3","solverName":"Data Output Request-2"})");
         EXPECT_EQ(row("materials", "Acier d'origine"),
                   R"({"displayName":"Acier d'origine","genericName":"SAMUserMaterial-2","materialName":"Steel-1"})");
         EXPECT_EQ(row("supports", "Foot Support"), R"({"displayName":"Foot Support","group":null})");
@@ -163,7 +166,9 @@ TEST(Commands, ShowWhatTheDeckCallsEverything) {
                   R"({"displayName":"Flange Joint","masterGroup":"Bolt-Top","slaveGroup":"Fuß links"})");
         EXPECT_EQ(deck["jobs"].size(), 4U);
     }
-    const auto findings = nlohmann::json::parse(RunWith({"audit", document, "--deck", "--json"}).out)["refusals"];
+    const auto audit = nlohmann::json::parse(RunWith({"audit", document, "--deck", "--json"}).out);
+    auto findings = audit["refusals"];
+    findings.insert(findings.end(), audit["deckFaults"].begin(), audit["deckFaults"].end());
     const auto said = [&](const char* feature, const char* deckColumn, const std::string& words) {
         return std::any_of(findings.begin(), findings.end(), [&](const auto& finding) {
             return finding["feature"] == feature && finding.value("deck", "") == deckColumn &&
@@ -177,6 +182,7 @@ TEST(Commands, ShowWhatTheDeckCallsEverything) {
     EXPECT_TRUE(said("Thermal and Shock/flange static", "", "DuplicateNameERR_03"));
     EXPECT_TRUE(said("m12 OBEN", "", "DuplicateZFXNameERR_01"));
     EXPECT_FALSE(said("Acier d'origine", "NAME", "as well"));
+    EXPECT_FALSE(said("Thermal and Shock/Initial", "SOLVER NAME", "as well")); // the deck of another case
     EXPECT_EQ(RunWith({"propose", document, "--job"}).out, "base name       Job-\nnext free name  Job-2\n");
 }
 

@@ -14,8 +14,10 @@ inline std::string Said(HRESULT code) {
     if (code == E_FAIL)
         return "E_FAIL";
     if (ZFXError* error = ZFXError::ZFXGetLastError(code, nullptr)) {
-        const HRESULT carried = error->GetReturnCode();
-        return error->GetMsgId() + (carried == 0 ? "" : " " + std::to_string(carried));
+        std::string said = error->GetMsgId();
+        if (error->GetReturnCode() != 0)
+            said.append(" ").append(std::to_string(error->GetReturnCode()));
+        return said;
     }
     return std::to_string(code);
 }

@@ -39,41 +39,64 @@ struct Finding {
     std::string deckColumn = {}; ///< empty: the feature's own name
 };
 
+/// What an audit found: names that are refused, and names in the deck that the rules let through.
+struct Findings {
+    std::size_t checked = 0;
+    std::vector<Finding> refusals;
+    std::vector<Finding> deck;
+};
+
 std::string NameOf(const ZFXISpecObject_var& feature) {
     const ZFXIAlias_var alias(feature);
     return alias == nullptr ? "" : alias->GetAlias().ConvertToChar();
 }
 
-void PrintFindings(const LoadedDocument& loaded, const std::vector<Finding>& findings, std::size_t checked,
-                   std::ostream& out) {
+void PrintFindings(const LoadedDocument& loaded, const Findings& findings, bool withDeck, std::ostream& out) {
     std::vector<std::vector<std::string>> rows{{"FEATURE", "NAME", "MESSAGE", "TEXT"}};
-    for (const Finding& finding : findings)
-        rows.push_back(
-            {Printable(PathOf(loaded, finding.entry)),
-             Printable(finding.name) + (finding.deckColumn.empty() ? "" : "  (deck, " + finding.deckColumn + ")"),
-             finding.verdict.messageId.empty() ? "-" : finding.verdict.messageId, Printable(finding.verdict.message)});
-    if (!findings.empty()) {
+    for (const std::vector<Finding>* list : {&findings.refusals, &findings.deck})
+        for (const Finding& finding : *list)
+            rows.push_back(
+                {Printable(TellingOf(loaded, finding.entry)),
+                 Printable(finding.name) + (finding.deckColumn.empty() ? "" : "  (deck, " + finding.deckColumn + ")"),
+                 finding.verdict.messageId.empty() ? "-" : finding.verdict.messageId,
+                 Printable(finding.verdict.message)});
+    if (rows.size() > 1) {
         PrintTable(out, rows);
         out << '\n';
     }
-    out << checked << " features checked, " << findings.size() << " refusals\n";
+    out << findings.checked << " features checked, " << findings.refusals.size() << " refusals";
+    if (withDeck)
+        out << ", " << findings.deck.size() << " faults in the deck";
+    out << '\n';
 }
 
-void PrintFindingsAsJson(const LoadedDocument& loaded, const std::vector<Finding>& findings, std::size_t checked,
-                         std::ostream& out) {
-    nlohmann::ordered_json refusals = nlohmann::ordered_json::array();
+nlohmann::ordered_json AsJson(const LoadedDocument& loaded, const std::vector<Finding>& findings) {
+    nlohmann::ordered_json list = nlohmann::ordered_json::array();
     for (const Finding& finding : findings) {
         const MemoryFeature feature = loaded.entries[finding.entry].feature;
-        refusals.push_back({{"feature", PathOf(loaded, finding.entry)},
-                            {"pointer", PointerOf(loaded, finding.entry)},
-                            {"type", feature.LateType().ConvertToChar()},
-                            {"name", finding.name},
-                            {"messageId", finding.verdict.messageId},
-                            {"message", finding.verdict.message}});
+        list.push_back({{"feature", TellingOf(loaded, finding.entry)},
+                        {"pointer", PointerOf(loaded, finding.entry)},
+                        {"type", feature.LateType().ConvertToChar()},
+                        {"name", finding.name},
+                        {"messageId", finding.verdict.messageId},
+                        {"message", finding.verdict.message}});
         if (!finding.deckColumn.empty())
-            refusals.back()["deck"] = finding.deckColumn;
+            list.back()["deck"] = finding.deckColumn;
     }
-    PrintJson(out, {{"featuresChecked", checked}, {"refusals", refusals}});
+    return list;
+}
+
+/// The refusals of the name that a feature has. One fault is told once, whichever of the checks find it.
+void JudgeFeature(const LoadedDocument& loaded, std::uint32_t entry, std::vector<Finding>& refusals) {
+    const ZFXISpecObject_var feature = loaded.entries[entry].feature;
+    // An empty name stands for the feature's own, which is the same here.
+    const std::string name = NameOf(feature);
+    const Verdict first = JudgeName(feature, name.c_str());
+    const Verdict further = JudgeFurther(feature);
+    if (first.IsRefusal())
+        refusals.push_back({entry, name, first});
+    if (further.IsRefusal() && further.messageId != first.messageId)
+        refusals.push_back({entry, name, further});
 }
 
 } // namespace
@@ -84,22 +107,25 @@ int AuditDocument(const AuditRequest& request, Console console) {
     for (const DocumentEntry& entry : loaded->entries)
         named += entry.isNamed ? 1 : 0;
     Progress progress(console.err, named);
-    std::vector<Finding> findings;
-    std::size_t checked = 0;
+    Findings findings;
     for (std::uint32_t entry = 0; entry < loaded->entries.size(); ++entry) {
         if (!loaded->entries[entry].isNamed)
             continue;
-        const ZFXISpecObject_var feature = loaded->entries[entry].feature;
-        // An empty name stands for the feature's own, which is the same here.
-        const std::string name = NameOf(feature);
-        for (Verdict verdict : {JudgeName(feature, name.c_str()), JudgeFurther(feature)})
-            if (verdict.IsRefusal())
-                findings.push_back({entry, name, std::move(verdict)});
-        progress.Done(++checked);
+        JudgeFeature(*loaded, entry, findings.refusals);
+        progress.Done(++findings.checked);
     }
     if (request.withDeck)
         for (DeckFinding& finding : FindingsOf(DeckOf(*loaded), *loaded))
-            findings.push_back({finding.entry, finding.name, std::move(finding.verdict), std::move(finding.column)});
-    (console.isJson ? PrintFindingsAsJson : PrintFindings)(*loaded, findings, checked, console.out);
-    return findings.empty() ? kFine : kRefused;
+            findings.deck.push_back(
+                {finding.entry, finding.name, std::move(finding.verdict), std::move(finding.column)});
+    if (console.isJson) {
+        nlohmann::ordered_json said{{"featuresChecked", findings.checked},
+                                    {"refusals", AsJson(*loaded, findings.refusals)}};
+        if (request.withDeck)
+            said["deckFaults"] = AsJson(*loaded, findings.deck);
+        PrintJson(console.out, said);
+    } else {
+        PrintFindings(*loaded, findings, request.withDeck, console.out);
+    }
+    return findings.refusals.empty() && findings.deck.empty() ? kFine : kRefused;
 }

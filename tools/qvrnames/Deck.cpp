@@ -7,6 +7,8 @@
 #include "QVRNameUtil.h"
 
 #include <map>
+#include <string_view>
+#include <utility>
 
 namespace {
 
@@ -34,17 +36,24 @@ Names FeatureNames(const ZFXISpecObject_var& feature) {
     return {If(named, display), If(named, compliant), If(generated, generic)};
 }
 
-/// The tag is read from the instance name as the deck shows it, in capitals.
+/// The tag in an instance name as the deck shows it, in capitals; nothing when none can be read, which leaves the value
+/// that was passed.
+std::optional<std::string> TagIn(const ZFXUnicodeString& instance) {
+    ZFXUnicodeString capitals(instance);
+    capitals.ToUpper();
+    int tag = 0;
+    int again = 1;
+    if (Failed(QVRGenInstanceName::GetUniqueLegalInstanceTag(tag, capitals)) ||
+        Failed(QVRGenInstanceName::GetUniqueLegalInstanceTag(again, capitals)) || tag != again)
+        return std::nullopt;
+    return std::to_string(tag);
+}
+
 Names MeshPartNames(const ZFXISpecObject_var& feature) {
     ZFXUnicodeString instance;
     ZFXUnicodeString part;
     const HRESULT named = QVRGenInstanceName::GetUniqueLegalInstanceName(feature, instance, part);
-    ZFXUnicodeString capitals(instance);
-    capitals.ToUpper();
-    int tag = 0;
-    const HRESULT tagged = Failed(named) ? named : QVRGenInstanceName::GetUniqueLegalInstanceTag(tag, capitals);
-    return {DisplayName(feature), If(named, instance), If(named, part),
-            Failed(tagged) ? std::nullopt : std::optional(std::to_string(tag))};
+    return {DisplayName(feature), If(named, instance), If(named, part), Failed(named) ? std::nullopt : TagIn(instance)};
 }
 
 Names MaterialNames(const ZFXISpecObject_var& feature) {
@@ -92,6 +101,12 @@ Section SectionOf(const ZFXISpecObject_var& feature) {
     return feature->GetLateType() == "QVRJobLT" ? kJobs : kFeatures;
 }
 
+/// Whether the deck would hold the object: what has a name, and what lies in a set or is a step and may still get one.
+bool IsInDeck(const DocumentEntry& entry, const ZFXISpecObject_var& feature) {
+    return feature != nullptr && (entry.isNamed || SectionOf(feature) != kFeatures ||
+                                  QVRIStep_var(feature) != nullptr || ZFXISamAnalysisEntity_var(feature) != nullptr);
+}
+
 constexpr DeckColumn kDisplay{"DISPLAY NAME", "displayName", false};
 
 } // namespace
@@ -125,7 +140,7 @@ std::vector<DeckSection> DeckOf(const LoadedDocument& loaded) {
     QVRGenI18NUtils::Instance()->ResetAllLists();
     for (std::uint32_t entry = 0; entry < loaded.entries.size(); ++entry) {
         const ZFXISpecObject_var feature = loaded.entries[entry].feature;
-        if (!loaded.entries[entry].isNamed || feature == nullptr)
+        if (!IsInDeck(loaded.entries[entry], feature))
             continue;
         const Section section = SectionOf(feature);
         deck[section].rows.push_back({entry, kNamers[section](feature)});
@@ -136,7 +151,7 @@ std::vector<DeckSection> DeckOf(const LoadedDocument& loaded) {
 
 namespace {
 
-/// The letters of a name as its comparison with others sees them: near enough to find candidates.
+/// The letters of a name as its comparison with others sees them, or nearly so: equal names have one such form.
 std::string Lowered(const std::string& name) {
     ZFXUnicodeString text(name.c_str());
     text.ToUpper();
@@ -144,30 +159,60 @@ std::string Lowered(const std::string& name) {
     return text.ConvertToChar();
 }
 
+/// The case that an object lies under; the model for one that lies under none.
+std::uint32_t CaseOf(const LoadedDocument& loaded, std::uint32_t entry) {
+    while (entry != 0 && ZFXISamAnalysisCase_var(loaded.entries[entry].feature) == nullptr)
+        entry = loaded.entries[entry].parent;
+    return entry;
+}
+
+/// The first object of each name in one column. Features of different cases do not meet: each case has its deck.
+class Given {
+public:
+    explicit Given(const LoadedDocument& loaded) : m_loaded(loaded) {}
+
+    /// Another object that has the name already, as it is told beside `entry`; nothing for a new name.
+    std::optional<std::string> Take(const DeckSection& section, std::uint32_t entry, const std::string& name) {
+        const std::uint32_t analysisCase = std::string_view(section.key) == "features" ? CaseOf(m_loaded, entry) : 0;
+        for (const auto& [other, otherName] : m_first[{analysisCase, Lowered(name)}])
+            if (ZFXUnicodeString(otherName.c_str()).Compare(name.c_str()) != 0) {
+                const std::string telling = TellingOf(m_loaded, other);
+                return telling == TellingOf(m_loaded, entry) ? PointerOf(m_loaded, other) : telling;
+            }
+        m_first[{analysisCase, Lowered(name)}].emplace_back(entry, name);
+        return std::nullopt;
+    }
+
+private:
+    const LoadedDocument& m_loaded;
+    std::map<std::pair<std::uint32_t, std::string>, std::vector<std::pair<std::uint32_t, std::string>>> m_first;
+};
+
+/// What is wrong with the names of one column.
+void FindIn(const DeckSection& section, std::size_t column, const LoadedDocument& loaded,
+            std::vector<DeckFinding>& findings) {
+    Given given(loaded);
+    for (const DeckRow& row : section.rows) {
+        if (!row.names[column])
+            continue;
+        const std::string& name = *row.names[column];
+        const auto found = [&](Verdict verdict) {
+            findings.push_back({row.entry, section.columns[column].title, name, std::move(verdict)});
+        };
+        if (Verdict broken = JudgeText(name.c_str()); broken.IsRefusal())
+            found(std::move(broken));
+        if (const auto other = given.Take(section, row.entry, name))
+            found({E_FAIL, {}, "The deck gives this name to " + *other + " as well."});
+    }
+}
+
 } // namespace
 
 std::vector<DeckFinding> FindingsOf(const std::vector<DeckSection>& deck, const LoadedDocument& loaded) {
     std::vector<DeckFinding> findings;
-    for (const DeckSection& section : deck) {
-        for (std::size_t c = 0; c < section.columns.size(); ++c) {
-            if (!section.columns[c].isDeckName)
-                continue;
-            std::map<std::string, std::uint32_t> given; // the first of each name
-            for (const DeckRow& row : section.rows) {
-                if (!row.names[c])
-                    continue;
-                const std::string& name = *row.names[c];
-                const auto found = [&](Verdict verdict) {
-                    findings.push_back({row.entry, section.columns[c].title, name, std::move(verdict)});
-                };
-                if (Verdict broken = JudgeText(name.c_str()); broken.IsRefusal())
-                    found(std::move(broken));
-                const auto [first, isNew] = given.emplace(Lowered(name), row.entry);
-                if (!isNew)
-                    found(
-                        {E_FAIL, {}, "The deck gives this name to " + TellingOf(loaded, first->second) + " as well."});
-            }
-        }
-    }
+    for (const DeckSection& section : deck)
+        for (std::size_t column = 0; column < section.columns.size(); ++column)
+            if (section.columns[column].isDeckName)
+                FindIn(section, column, loaded, findings);
     return findings;
 }

@@ -15,9 +15,9 @@ void PrintSection(const DeckSection& section, const LoadedDocument& loaded, std:
     for (const DeckColumn& column : section.columns)
         rows.front().emplace_back(column.title);
     for (const DeckRow& row : section.rows) {
-        rows.push_back({Printable(PathOf(loaded, row.entry))});
+        rows.push_back({Printable(TellingOf(loaded, row.entry))});
         for (const std::optional<std::string>& name : row.names)
-            rows.back().push_back(Printable(name.value_or("-")));
+            rows.back().push_back(!name ? "-" : name->empty() ? "\"\"" : Printable(*name));
     }
     PrintTable(out, rows);
     out << '\n';
@@ -26,7 +26,8 @@ void PrintSection(const DeckSection& section, const LoadedDocument& loaded, std:
 nlohmann::ordered_json AsJson(const DeckSection& section, const LoadedDocument& loaded) {
     nlohmann::ordered_json rows = nlohmann::ordered_json::array();
     for (const DeckRow& row : section.rows) {
-        nlohmann::ordered_json said{{"feature", PathOf(loaded, row.entry)}, {"pointer", PointerOf(loaded, row.entry)}};
+        nlohmann::ordered_json said{{"feature", TellingOf(loaded, row.entry)},
+                                    {"pointer", PointerOf(loaded, row.entry)}};
         for (std::size_t c = 0; c < section.columns.size(); ++c)
             said[section.columns[c].key] =
                 row.names[c] ? nlohmann::ordered_json(*row.names[c]) : nlohmann::ordered_json();
