@@ -5,6 +5,8 @@
 #include "analysis/ZFXISpecObject.h"
 #include "text/ZFXUnicodeString.h"
 
+#include <memory>
+
 /// Whether the workbench runs in English mode, and which English names stand in for those that the solver
 /// cannot take. There is one object, and its caches keep names steady: what a feature was called once it is
 /// called again, until ResetAllLists.
@@ -82,6 +84,10 @@ protected:
 
 private:
     unsigned char IsLCIDInEnglishIDs(int lcid) noexcept;
+    /// Lists a feature with the name that it keeps; its late type is empty when it was not asked or did not answer.
+    void Remember(const ZFXISpecObject_var& feature, const ZFXUnicodeString& name, const ZFXUnicodeString& lateType);
+    /// Lists a material; its position.
+    int Meet(const ZFXISpecObject_var& material);
 
     static QVRGenI18NUtils* m_genI18NSingletonObj;
 
@@ -96,4 +102,7 @@ private:
     /// The name of each feature of m_featureObjects, position by position.
     ZFXListValZFXUnicodeString m_featureNames;
     ZFXListValZFXISpecObject_var m_featureObjects;
+    /// Where what stands in the lists, so that no list is searched.
+    struct Index;
+    std::unique_ptr<Index> m_index;
 };

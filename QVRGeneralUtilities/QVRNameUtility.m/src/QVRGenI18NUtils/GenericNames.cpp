@@ -1,5 +1,6 @@
 #include "QVRGenI18NUtils.h"
 
+#include "QVRGenI18NUtils/Index.h"
 #include "QVRGenZFXUnicodeStringUtils.h"
 #include "analysis/ZFXIAlias.h"
 #include "analysis/ZFXISamAnalysisSet.h"
@@ -27,18 +28,22 @@ HRESULT QVRGenI18NUtils::GetGenericEnglishFeatureName(const ZFXISpecObject_var& 
     if (feature == nullptr)
         return E_FAIL;
     const ZFXUnicodeString lateType = feature->GetLateType();
-    const int known = m_featureObjects.Locate(feature, 1);
+    const int known = m_index->features.Of(feature);
     if (known != 0) {
         name = m_featureNames[known];
         return S_OK;
     }
-    int count = 1;
-    for (int i = 1; i <= m_featureObjects.Size(); ++i)
-        if (m_featureObjects[i]->GetLateType() == lateType)
-            ++count;
-    name = QVRGenZFXUnicodeStringUtils::RemovePeriods(Numbering::Numbered(lateType + "-", count));
-    m_featureObjects.Append(feature);
-    m_featureNames.Append(name);
+    // Who was not asked yet, or did not answer, is asked now.
+    std::erase_if(m_index->withoutLateType, [this](int position) {
+        const ZFXUnicodeString learned = m_featureObjects[position]->GetLateType();
+        if (learned.IsNull() == 0)
+            m_index->lateTypes.Add(learned);
+        return learned.IsNull() == 0;
+    });
+    const int before =
+        lateType.IsNull() == 0 ? m_index->lateTypes.Of(lateType) : static_cast<int>(m_index->withoutLateType.size());
+    name = QVRGenZFXUnicodeStringUtils::RemovePeriods(Numbering::Numbered(lateType + "-", before + 1));
+    Remember(feature, name, lateType);
     return S_OK;
 }
 
@@ -47,7 +52,7 @@ HRESULT QVRGenI18NUtils::GetFeatureName(const ZFXISpecObject_var& feature, ZFXUn
     if (alias == nullptr)
         return E_FAIL;
     const ZFXUnicodeString display = alias->GetAlias();
-    const int known = m_featureObjects.Locate(feature, 1);
+    const int known = m_index->features.Of(feature);
     if (known != 0) {
         name = m_featureNames[known];
         return S_OK;
@@ -62,7 +67,18 @@ HRESULT QVRGenI18NUtils::GetFeatureName(const ZFXISpecObject_var& feature, ZFXUn
     }
     const ZFXUnicodeString numbered = count > 0 ? Numbering::Numbered(display + "-", count) : display;
     name = QVRGenZFXUnicodeStringUtils::RemovePeriods(numbered);
+    Remember(feature, name, {});
+    return S_OK;
+}
+
+void QVRGenI18NUtils::Remember(const ZFXISpecObject_var& feature, const ZFXUnicodeString& name,
+                               const ZFXUnicodeString& lateType) {
     m_featureObjects.Append(feature);
     m_featureNames.Append(name);
-    return S_OK;
+    const int position = m_featureObjects.Size();
+    m_index->features.Add(feature, position);
+    if (lateType.IsNull() == 0)
+        m_index->lateTypes.Add(lateType);
+    else
+        m_index->withoutLateType.push_back(position);
 }

@@ -1,5 +1,6 @@
 #include "QVRGenI18NUtils.h"
 
+#include "QVRGenI18NUtils/Index.h"
 #include "QVRGenZFXUnicodeStringUtils.h"
 #include "analysis/ZFXIAlias.h"
 #include "analysis/ZFXIMaterialFeature.h"
@@ -24,7 +25,7 @@ HRESULT QVRGenI18NUtils::GetMaterialName(const ZFXISpecObject_var& material, ZFX
     const std::optional<ZFXUnicodeString> own = MaterialNameOf(material);
     if (!own)
         return E_FAIL;
-    const int known = m_materialObjects.Locate(material, 1);
+    const int known = m_index->materials.Of(material);
     if (known != 0)
         name = *own;
     const int before = known != 0 ? known - 1 : m_materialObjects.Size();
@@ -37,7 +38,7 @@ HRESULT QVRGenI18NUtils::GetMaterialName(const ZFXISpecObject_var& material, ZFX
             ++count;
     }
     if (known == 0)
-        m_materialObjects.Append(material);
+        Meet(material);
     const ZFXUnicodeString numbered = count > 0 ? Numbering::Numbered(*own + "-", count) : *own;
     name = QVRGenZFXUnicodeStringUtils::ReplacePeriodWithDash(numbered);
     return S_OK;
@@ -48,11 +49,15 @@ HRESULT QVRGenI18NUtils::GetGenericEnglishMaterialName(const ZFXISpecObject_var&
     if (material == nullptr)
         return E_FAIL;
     const ZFXUnicodeString lateType = material->GetLateType();
-    int position = m_materialObjects.Locate(material, 1);
-    if (position == 0) {
-        m_materialObjects.Append(material);
-        position = m_materialObjects.Size();
-    }
+    int position = m_index->materials.Of(material);
+    if (position == 0)
+        position = Meet(material);
     name = QVRGenZFXUnicodeStringUtils::ReplacePeriodWithDash(Numbering::Numbered(lateType + "-", position));
     return S_OK;
+}
+
+int QVRGenI18NUtils::Meet(const ZFXISpecObject_var& material) {
+    m_materialObjects.Append(material);
+    m_index->materials.Add(material, m_materialObjects.Size());
+    return m_materialObjects.Size();
 }

@@ -1,5 +1,7 @@
 #include "QVRGenI18NUtils.h"
 
+#include "QVRGenI18NUtils/Index.h"
+
 QVRGenI18NUtils* QVRGenI18NUtils::m_genI18NSingletonObj = nullptr;
 
 QVRGenI18NUtils* QVRGenI18NUtils::Instance() noexcept {
@@ -8,8 +10,19 @@ QVRGenI18NUtils* QVRGenI18NUtils::Instance() noexcept {
     return m_genI18NSingletonObj;
 }
 
-QVRGenI18NUtils::QVRGenI18NUtils() = default;
-QVRGenI18NUtils::QVRGenI18NUtils(const QVRGenI18NUtils& other) = default;
+QVRGenI18NUtils::QVRGenI18NUtils() : m_index(std::make_unique<Index>()) {}
+
+QVRGenI18NUtils::QVRGenI18NUtils(const QVRGenI18NUtils& other)
+    : m_localesChecked(other.m_localesChecked),
+      m_englishMode(other.m_englishMode),
+      m_initialUserLocaleEnglish(other.m_initialUserLocaleEnglish),
+      m_initialInputLocaleEnglish(other.m_initialInputLocaleEnglish),
+      m_usedGenericNames(other.m_usedGenericNames),
+      m_materialObjects(other.m_materialObjects),
+      m_featureNames(other.m_featureNames),
+      m_featureObjects(other.m_featureObjects),
+      m_index(std::make_unique<Index>(*other.m_index)) {}
+
 QVRGenI18NUtils::~QVRGenI18NUtils() = default;
 
 void QVRGenI18NUtils::ResetAllLists() noexcept {
@@ -17,14 +30,16 @@ void QVRGenI18NUtils::ResetAllLists() noexcept {
     m_materialObjects.RemoveAll(ZFXCollec::ReleaseAllocation);
     m_featureNames.RemoveAll(ZFXCollec::ReleaseAllocation);
     m_featureObjects.RemoveAll(ZFXCollec::ReleaseAllocation);
+    *m_index = Index();
 }
 
 HRESULT QVRGenI18NUtils::PushNameToList(const ZFXUnicodeString& name) noexcept {
     m_usedGenericNames.Append(name);
+    m_index->usedNames.Add(name);
     return S_OK;
 }
 
 unsigned char QVRGenI18NUtils::FindNameAndNextID(const ZFXUnicodeString& name, int& nextId) noexcept {
-    nextId = m_usedGenericNames.NbOccur(name);
+    nextId = m_index->usedNames.Of(name);
     return nextId > 0 ? 1 : 0;
 }
