@@ -5,6 +5,7 @@
 #include "Scopes.h"
 
 #include <cstring>
+#include <string>
 
 namespace {
 
@@ -12,8 +13,11 @@ using Scopes::AliasFrom;
 
 constexpr const char* kBase = "Pressure-";
 
-/// Free in every scope.
-ZFXUnicodeString FreeName() { return Scopes::NumberedName(kBase, Scopes::kLargest + 1); }
+/// Free, and as long as nine in ten names of the scope: a name of another length is told apart by its length alone.
+ZFXUnicodeString FreeName(int n) {
+    const std::size_t digits = std::to_string(n - 1).size();
+    return ZFXUnicodeString(kBase) + ZFXUnicodeString('0', digits);
+}
 
 class OneNamed final : public NamedThing {
 public:
@@ -34,7 +38,7 @@ NamedThings Things(int n) {
 void CheckUnique(benchmark::State& state, AliasFrom from, int n) {
     const ZFXListValZFXBaseUnknown_var scope = Scopes::FirstFeatures(from, n);
     const ZFXISpecObject_var feature = Scopes::Newcomer(from);
-    const ZFXUnicodeString name = FreeName();
+    const ZFXUnicodeString name = FreeName(n);
     for (auto _ : state)
         if (Failed(QVRNameUtil::IsNameUniqueInSet(feature, scope, name)))
             state.SkipWithError("the name clashes");
@@ -54,7 +58,7 @@ void Propose(benchmark::State& state, AliasFrom from, int n) {
 
 void CompareFloor(benchmark::State& state, int n) {
     const NamedThings things = Things(n);
-    const ZFXUnicodeString name = FreeName();
+    const ZFXUnicodeString name = FreeName(n);
     for (auto _ : state) {
         int clashes = 0;
         for (const auto& thing : things)

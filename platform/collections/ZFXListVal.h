@@ -26,6 +26,9 @@ public:
         return m_outside;
     }
 
+    auto begin() const noexcept { return m_elements.begin(); }
+    auto end() const noexcept { return m_elements.end(); }
+
     void Append(const Element& x) { m_elements.push_back(x); }
     void Append(Element&& x) { m_elements.push_back(std::move(x)); }
 

@@ -33,7 +33,10 @@ MemoryAnswer MemoryFaults::AskRules(MemoryRequest request, const MemoryObject* o
 }
 
 MemoryObject::MemoryObject(MemoryDocumentObject* owner, MemoryKind objectKind, const MemoryLateType& type)
-    : document(owner), lateType(&type), kind(objectKind) {
+    : document(owner),
+      lateType(&type),
+      kind(objectKind),
+      m_faults(owner == nullptr ? nullptr : &owner->session.faults) {
     ++live;
     for (ZFXBaseUnknown* face : std::initializer_list<ZFXBaseUnknown*>{&m_spec, &m_aliasFace, &m_attributes,
                                                                        &m_linkable, &m_entity, &m_propagating})
@@ -57,10 +60,6 @@ MemoryExtras& MemoryObject::Extras() {
 const MemoryExtras& MemoryObject::ExtrasOrNone() const {
     static const MemoryExtras none;
     return m_extras == nullptr ? none : *m_extras;
-}
-
-MemoryAnswer MemoryObject::Ask(MemoryRequest request) {
-    return document == nullptr ? MemoryFaults::kSuccess : document->session.faults.Ask(request, this);
 }
 
 void MemoryObject::Offer(const IID& iid) {
@@ -99,6 +98,7 @@ long MemoryObject::References() {
 
 void MemoryObject::Detach() {
     document = nullptr;
+    m_faults = nullptr;
     parent = father = nullptr;
     holdingSets.clear();
     if (m_extras == nullptr)

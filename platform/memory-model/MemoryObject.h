@@ -177,7 +177,9 @@ public:
     MemoryExtras& Extras();
     /// What it has of the extras, or a shared empty one.
     const MemoryExtras& ExtrasOrNone() const;
-    MemoryAnswer Ask(MemoryRequest request);
+    MemoryAnswer Ask(MemoryRequest request) {
+        return m_faults == nullptr ? MemoryFaults::kSuccess : m_faults->Ask(request, this);
+    }
     void Offer(const IID& iid);
     void Withhold(const IID& iid);
     bool IsOffered(ZFXInterfaceNumber number) const { return m_offered.test(static_cast<std::size_t>(number)); }
@@ -214,6 +216,7 @@ private:
             visit(static_cast<MemoryPointingAttribute&>(*pointing[i].Get()));
     }
 
+    MemoryFaults* m_faults; // of the document's session; null once the document is closed
     Interfaces m_offered;
     Interfaces m_withheld;
     std::unique_ptr<MemoryExtras> m_extras;

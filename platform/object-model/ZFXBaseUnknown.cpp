@@ -116,15 +116,6 @@ HRESULT ZFXBaseUnknown::QueryInterface(const char* interfaceName, void** face) {
     return iid == nullptr ? E_NOINTERFACE : QueryInterface(*iid, face);
 }
 
-ULONG ZFXBaseUnknown::AddRef() { return ++m_count; }
-
-ULONG ZFXBaseUnknown::Release() {
-    const ULONG left = --m_count;
-    if (left == 0)
-        delete this;
-    return left;
-}
-
 HRESULT ZFXBaseUnknown::GetTypeInfoCount(unsigned int* count) {
     if (count == nullptr)
         return E_POINTER;
@@ -157,16 +148,6 @@ ZFXMetaClass* ZFXnull::MetaObject() {
 ZFXMetaClass* ZFXBaseUnknown::GetMetaObject() const { return MetaObject(); }
 const char* ZFXBaseUnknown::IsA() const { return GetMetaObject()->IsA(); }
 int ZFXBaseUnknown::IsAKindOf(const char* name) const { return GetMetaObject()->IsAKindOf(name); }
-
-ZFXBaseUnknown* ZFXBaseUnknown::GetImpl() const {
-    return m_implementation != nullptr ? m_implementation->GetImpl() : const_cast<ZFXBaseUnknown*>(this);
-}
-
-ZFXBaseUnknown* ZFXBaseUnknown::SetImpl(ZFXBaseUnknown* implementation) {
-    ZFXBaseUnknown* before = m_implementation;
-    m_implementation = implementation;
-    return before;
-}
 
 int ZFXBaseUnknown::IsNull() const { return 0; }
 int ZFXBaseUnknown::IsEqual(const ZFXBaseUnknown* other) const { return ZFXSameObject(this, other); }

@@ -5,6 +5,7 @@
 #include "base/ZFXResult.h"
 
 #include <cstddef>
+#include <utility>
 
 class ZFXMetaClass;
 
@@ -28,8 +29,13 @@ public:
     /// S_OK and the face with one reference for the caller, or a negative code and null. An object without an
     /// implementation of its own offers nothing but its root; an extension offers what its object offers.
     virtual HRESULT QueryInterface(const IID& iid, void** face);
-    virtual ULONG AddRef();
-    virtual ULONG Release();
+    virtual ULONG AddRef() { return ++m_count; }
+    virtual ULONG Release() {
+        const ULONG left = --m_count;
+        if (left == 0)
+            delete this;
+        return left;
+    }
     /// Automation is not offered by this platform: the count is 0, the other three answer E_NOTIMPL.
     virtual HRESULT GetTypeInfoCount(unsigned int* count);
     virtual HRESULT GetTypeInfo(unsigned int index, unsigned long locale, void** info);
@@ -47,9 +53,13 @@ public:
     /// Nonzero when the class, or one that it derives from, has this name.
     virtual int IsAKindOf(const char* name) const;
     /// The object behind this face or extension; the object itself when it is one. [borrowed]
-    virtual ZFXBaseUnknown* GetImpl() const;
+    virtual ZFXBaseUnknown* GetImpl() const {
+        return m_implementation != nullptr ? m_implementation->GetImpl() : const_cast<ZFXBaseUnknown*>(this);
+    }
     /// Makes this a face or extension of `implementation`; returns what it was of before. Takes no reference.
-    virtual ZFXBaseUnknown* SetImpl(ZFXBaseUnknown* implementation);
+    virtual ZFXBaseUnknown* SetImpl(ZFXBaseUnknown* implementation) {
+        return std::exchange(m_implementation, implementation);
+    }
     /// Nonzero when there is nothing behind it.
     virtual int IsNull() const;
     /// Nonzero when both designate the same object.

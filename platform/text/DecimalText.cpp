@@ -1,13 +1,29 @@
 #include "text/DecimalText.h"
 
+#include <algorithm>
 #include <charconv>
 #include <cstdint>
 #include <limits>
 
 namespace DecimalText {
 
+namespace {
+
+bool IsDigit(char16_t unit) noexcept { return unit >= u'0' && unit <= u'9'; }
+
+constexpr std::size_t kSafeDigits = 9; // fit any int
+
+} // namespace
+
 std::optional<int> Read(std::u16string_view text) noexcept {
     std::size_t at = 0;
+    // Mostly nothing but a few digits.
+    int small = 0;
+    for (const std::size_t end = std::min(text.size(), kSafeDigits); at < end && IsDigit(text[at]); ++at)
+        small = small * 10 + (text[at] - u'0');
+    if (at > 0 && (at == text.size() || !IsDigit(text[at])))
+        return small;
+    at = 0;
     while (at < text.size() && (text[at] == u' ' || (text[at] >= u'\t' && text[at] <= u'\r')))
         ++at;
     const bool negative = at < text.size() && text[at] == u'-';
@@ -17,7 +33,7 @@ std::optional<int> Read(std::u16string_view text) noexcept {
     const std::int64_t limit = std::int64_t{std::numeric_limits<int>::max()} + (negative ? 1 : 0);
     const std::size_t firstDigit = at;
     std::int64_t value = 0;
-    for (; at < text.size() && text[at] >= u'0' && text[at] <= u'9'; ++at) {
+    for (; at < text.size() && IsDigit(text[at]); ++at) {
         value = value * 10 + (text[at] - u'0');
         if (value > limit)
             return std::nullopt;

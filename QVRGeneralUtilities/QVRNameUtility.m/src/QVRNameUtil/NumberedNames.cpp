@@ -11,8 +11,8 @@ namespace {
 /// The numbers behind the base in a scope, with room for some more.
 Numbering::InUse NumbersInUse(const ZFXUnicodeString& base, const ZFXListValZFXBaseUnknown_var& scope, int more) {
     Numbering::InUse numbers(static_cast<std::size_t>(scope.Size()) + static_cast<std::size_t>(more));
-    for (int i = 1; i <= scope.Size(); ++i)
-        numbers.Add(Numbering::NumberAfter(base, NameOf(scope[i])));
+    for (const ZFXBaseUnknown_var& object : scope)
+        numbers.Add(Numbering::NumberAfter(base, NameOf(object)));
     return numbers;
 }
 

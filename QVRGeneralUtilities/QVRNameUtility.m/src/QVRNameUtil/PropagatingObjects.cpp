@@ -25,9 +25,9 @@ HRESULT QVRNameUtil::GetAllPropagatingObjects(ZFXISamAnalysisCase_var& analysisC
         code = GetObjectsInStep(step, inStep, object);
         if (Failed(code))
             continue; // this step gives nothing; the code of the last one is the answer
-        for (int i = 1; i <= inStep.Size(); ++i)
-            if (ZFXIdentityOf(inStep[i]) != self)
-                objects.Append(inStep[i]);
+        for (const ZFXBaseUnknown_var& other : inStep)
+            if (ZFXIdentityOf(other) != self)
+                objects.Append(other);
     }
     return code;
 }

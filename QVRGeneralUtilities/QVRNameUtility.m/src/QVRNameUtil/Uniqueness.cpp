@@ -16,10 +16,10 @@ HRESULT QVRNameUtil::IsNameUniqueInSet(const ZFXISpecObject_var& feature, const 
         return InputErrorReturn(MessageId::ZFXIAliasERR_01);
     const ZFXUnicodeString candidate = name.IsNull() != 0 ? ownAlias->GetAlias() : name;
     const ZFXBaseUnknown* self = ZFXIdentityOf(feature);
-    for (int i = 1; i <= scope.Size(); ++i) {
-        if (ZFXIdentityOf(scope[i]) == self)
+    for (const ZFXBaseUnknown_var& other : scope) {
+        if (ZFXIdentityOf(other) == self)
             continue;
-        const ZFXIAlias_var alias(scope[i]);
+        const ZFXIAlias_var alias(other);
         if (alias == nullptr)
             return InputErrorReturn(MessageId::ZFXIAliasERR_01);
         if (NamesClash(candidate, alias->GetAlias()))
