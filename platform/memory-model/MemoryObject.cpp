@@ -75,10 +75,6 @@ void MemoryObject::Withhold(const IID& iid) {
     m_withheld.set(number);
 }
 
-ZFXBaseUnknown* MemoryObject::OwnFace(ZFXInterfaceNumber number) {
-    return IsOffered(number) ? FaceOf(number) : nullptr;
-}
-
 MemoryObject* MemoryObject::NearestAbove(ZFXInterfaceNumber number) const {
     MemoryObject* at = parent;
     while (at != nullptr && !at->IsOffered(number))
@@ -109,55 +105,6 @@ void MemoryObject::Detach() {
     m_extras->group = nullptr;
     ForEachPointing([](MemoryPointingAttribute& attribute) { attribute.ForgetOwner(); });
     m_extras->pointing.RemoveAll();
-}
-
-/// The face of that number. Offered ones have been made, so a query allocates nothing.
-ZFXBaseUnknown* MemoryObject::FaceOf(ZFXInterfaceNumber number) {
-    switch (number) {
-    case ZFXInterfaceNumber::ZFXIAlias:
-        return &m_aliasFace;
-    case ZFXInterfaceNumber::ZFXISpecObject:
-        return &m_spec;
-    case ZFXInterfaceNumber::ZFXISpecAttrAccess:
-        return &m_attributes;
-    case ZFXInterfaceNumber::ZFXILinkableObject:
-        return &m_linkable;
-    case ZFXInterfaceNumber::ZFXISamAnalysisEntity:
-        return &m_entity;
-    case ZFXInterfaceNumber::QVRIPropagatingFeature:
-        return &m_propagating;
-    case ZFXInterfaceNumber::ZFXISamAnalysisModel:
-        return &Extras().faces.model;
-    case ZFXInterfaceNumber::ZFXISamAnalysisCase:
-        return &Extras().faces.analysisCase;
-    case ZFXInterfaceNumber::ZFXISamAnalysisSet:
-        return &Extras().faces.set;
-    case ZFXInterfaceNumber::ZFXISamAnalysisScan:
-        return &Extras().faces.scan;
-    case ZFXInterfaceNumber::ZFXISamAnalysisSupport:
-        return &Extras().faces.support;
-    case ZFXInterfaceNumber::ZFXISamAnalysisConnector:
-        return &Extras().faces.connector;
-    case ZFXInterfaceNumber::ZFXISamExplicit:
-        return &Extras().faces.explicitObject;
-    case ZFXInterfaceNumber::ZFXIMSHMeshManager:
-        return &Extras().faces.meshManager;
-    case ZFXInterfaceNumber::ZFXIMSHMeshPart:
-        return &Extras().faces.meshPart;
-    case ZFXInterfaceNumber::ZFXIMaterialFeature:
-        return &Extras().faces.material;
-    case ZFXInterfaceNumber::QVRIStep:
-        return &Extras().faces.step;
-    case ZFXInterfaceNumber::QVRISamGroupExt:
-        return &Extras().faces.group;
-    case ZFXInterfaceNumber::QVRISamAnalysisConnectionDesign:
-        return &Extras().faces.design;
-    case ZFXInterfaceNumber::ZFXISpecAttribute: // an attribute is no object of the document's tree
-    case ZFXInterfaceNumber::None:
-    case ZFXInterfaceNumber::Count:
-        break;
-    }
-    return nullptr;
 }
 
 HRESULT MemoryObject::QueryInterface(const IID& iid, void** face) {

@@ -228,6 +228,60 @@ private:
     MemoryQVRIPropagatingFeature m_propagating;
 };
 
+// Defined here, so that a number that is known costs no call.
+inline ZFXBaseUnknown* MemoryObject::OwnFace(ZFXInterfaceNumber number) {
+    return IsOffered(number) ? FaceOf(number) : nullptr;
+}
+
+/// The face of that number. Offered ones have been made, so a query allocates nothing.
+inline ZFXBaseUnknown* MemoryObject::FaceOf(ZFXInterfaceNumber number) {
+    switch (number) {
+    case ZFXInterfaceNumber::ZFXIAlias:
+        return &m_aliasFace;
+    case ZFXInterfaceNumber::ZFXISpecObject:
+        return &m_spec;
+    case ZFXInterfaceNumber::ZFXISpecAttrAccess:
+        return &m_attributes;
+    case ZFXInterfaceNumber::ZFXILinkableObject:
+        return &m_linkable;
+    case ZFXInterfaceNumber::ZFXISamAnalysisEntity:
+        return &m_entity;
+    case ZFXInterfaceNumber::QVRIPropagatingFeature:
+        return &m_propagating;
+    case ZFXInterfaceNumber::ZFXISamAnalysisModel:
+        return &Extras().faces.model;
+    case ZFXInterfaceNumber::ZFXISamAnalysisCase:
+        return &Extras().faces.analysisCase;
+    case ZFXInterfaceNumber::ZFXISamAnalysisSet:
+        return &Extras().faces.set;
+    case ZFXInterfaceNumber::ZFXISamAnalysisScan:
+        return &Extras().faces.scan;
+    case ZFXInterfaceNumber::ZFXISamAnalysisSupport:
+        return &Extras().faces.support;
+    case ZFXInterfaceNumber::ZFXISamAnalysisConnector:
+        return &Extras().faces.connector;
+    case ZFXInterfaceNumber::ZFXISamExplicit:
+        return &Extras().faces.explicitObject;
+    case ZFXInterfaceNumber::ZFXIMSHMeshManager:
+        return &Extras().faces.meshManager;
+    case ZFXInterfaceNumber::ZFXIMSHMeshPart:
+        return &Extras().faces.meshPart;
+    case ZFXInterfaceNumber::ZFXIMaterialFeature:
+        return &Extras().faces.material;
+    case ZFXInterfaceNumber::QVRIStep:
+        return &Extras().faces.step;
+    case ZFXInterfaceNumber::QVRISamGroupExt:
+        return &Extras().faces.group;
+    case ZFXInterfaceNumber::QVRISamAnalysisConnectionDesign:
+        return &Extras().faces.design;
+    case ZFXInterfaceNumber::ZFXISpecAttribute: // an attribute is no object of the document's tree
+    case ZFXInterfaceNumber::None:
+    case ZFXInterfaceNumber::Count:
+        break;
+    }
+    return nullptr;
+}
+
 /// A handle on the object's own face, without a request; empty when there is no object or it does not offer it.
 template <class Interface>
 ZFXHandle<Interface> Face(MemoryObject* object) {

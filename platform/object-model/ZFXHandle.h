@@ -31,6 +31,14 @@ public:
     ZFXHandle(const ZFXHandle<Other>& other) {
         Cast(other.Get());
     }
+    /// To a base the reference is handed on; to another interface this is the cast, and `other` keeps its own.
+    template <class Other>
+    ZFXHandle(ZFXHandle<Other>&& other) {
+        if constexpr (kIsFace<Other>)
+            m_face = other.GiveUp();
+        else
+            Cast(other.Get());
+    }
     ZFXHandle(const ZFXHandle& other) : m_face(other.m_face) {
         if (m_face != nullptr)
             m_face->AddRef();
@@ -61,6 +69,8 @@ public:
     Interface* operator->() const noexcept { return m_face; }
     Interface* Get() const noexcept { return m_face; }
 
+    /// The reference goes to the caller; the handle is empty afterwards.
+    Interface* GiveUp() noexcept { return std::exchange(m_face, nullptr); }
     void Swap(ZFXHandle& other) noexcept { std::swap(m_face, other.m_face); }
 
     /// Whether both designate the same object; two empty ones are equal.

@@ -152,9 +152,7 @@ int ZFXUnicodeString::operator==(const char* text) const noexcept {
 }
 
 int ZFXUnicodeString::CompareUnits(const char16_t* left, const char16_t* right, int length) noexcept {
-    if (std::memcmp(left, right, Size(length) * sizeof(char16_t)) == 0)
-        return 2;
-    return CaseMapping::EqualFolded(left, right, length) ? 1 : 0;
+    return CaseMapping::Compare(left, right, length);
 }
 
 ZFXUnicodeString ZFXUnicodeString::SubString(int start, int length) const {

@@ -5,6 +5,8 @@
 #include "internal/Platform.h"
 #include "internal/Vocabulary.h"
 
+#include <utility>
+
 namespace Navigation {
 
 HistoryAnswer SimulationHistoryOf(const ZFXISamAnalysisCase_var& analysisCase) {
@@ -55,7 +57,7 @@ HRESULT AppendMembers(const ZFXISamAnalysisSet_var& set, ZFXListValZFXBaseUnknow
     const HRESULT code = set->ListMembers(members, CLSID_ZFXBaseUnknown, kMemberFlag);
     scope.Reserve(scope.Size() + members.Size());
     for (int i = 1; i <= members.Size(); ++i)
-        scope.Append(members[i]);
+        scope.Append(std::move(members[i]));
     return code;
 }
 
