@@ -149,6 +149,14 @@ ZFXMetaClass* ZFXBaseUnknown::GetMetaObject() const { return MetaObject(); }
 const char* ZFXBaseUnknown::IsA() const { return GetMetaObject()->IsA(); }
 int ZFXBaseUnknown::IsAKindOf(const char* name) const { return GetMetaObject()->IsAKindOf(name); }
 
+ZFXBaseUnknown* ZFXBaseUnknown::GetImpl() const {
+    return m_implementation != nullptr ? m_implementation->GetImpl() : const_cast<ZFXBaseUnknown*>(this);
+}
+
+ZFXBaseUnknown* ZFXBaseUnknown::SetImpl(ZFXBaseUnknown* implementation) {
+    return std::exchange(m_implementation, implementation);
+}
+
 int ZFXBaseUnknown::IsNull() const { return 0; }
 int ZFXBaseUnknown::IsEqual(const ZFXBaseUnknown* other) const { return ZFXSameObject(this, other); }
 void ZFXBaseUnknown::ChangeComponentState(ZFXComponentState, ZFXBaseUnknown*) {}

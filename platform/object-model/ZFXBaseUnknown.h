@@ -5,7 +5,6 @@
 #include "base/ZFXResult.h"
 
 #include <cstddef>
-#include <utility>
 
 class ZFXMetaClass;
 
@@ -53,13 +52,9 @@ public:
     /// Nonzero when the class, or one that it derives from, has this name.
     virtual int IsAKindOf(const char* name) const;
     /// The object behind this face or extension; the object itself when it is one. [borrowed]
-    virtual ZFXBaseUnknown* GetImpl() const {
-        return m_implementation != nullptr ? m_implementation->GetImpl() : const_cast<ZFXBaseUnknown*>(this);
-    }
+    virtual ZFXBaseUnknown* GetImpl() const;
     /// Makes this a face or extension of `implementation`; returns what it was of before. Takes no reference.
-    virtual ZFXBaseUnknown* SetImpl(ZFXBaseUnknown* implementation) {
-        return std::exchange(m_implementation, implementation);
-    }
+    virtual ZFXBaseUnknown* SetImpl(ZFXBaseUnknown* implementation);
     /// Nonzero when there is nothing behind it.
     virtual int IsNull() const;
     /// Nonzero when both designate the same object.
