@@ -51,8 +51,13 @@ public:
         std::vector<Element>().swap(m_elements);
         m_outside = Element{};
     }
-    /// Makes room for n elements at once.
-    void Reserve(int n) { m_elements.reserve(static_cast<std::size_t>(std::max(n, 0))); }
+    /// Makes room for n elements at once; for some more when there was room for some, so that a list that grows by many
+    /// such calls is not moved by each.
+    void Reserve(int n) {
+        const auto wanted = static_cast<std::size_t>(std::max(n, 0));
+        if (wanted > m_elements.capacity())
+            m_elements.reserve(std::max(wanted, m_elements.capacity() / 2 * 3));
+    }
 
 private:
     bool Holds(int i) const noexcept { return i >= 1 && i <= Size(); }

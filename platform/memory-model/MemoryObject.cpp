@@ -33,10 +33,10 @@ MemoryAnswer MemoryFaults::AskRules(MemoryRequest request, const MemoryObject* o
 }
 
 MemoryObject::MemoryObject(MemoryDocumentObject* owner, MemoryKind objectKind, const MemoryLateType& type)
-    : document(owner),
+    : m_faults(owner == nullptr ? nullptr : &owner->session.faults),
       lateType(&type),
-      kind(objectKind),
-      m_faults(owner == nullptr ? nullptr : &owner->session.faults) {
+      document(owner),
+      kind(objectKind) {
     ++live;
     for (ZFXBaseUnknown* face : std::initializer_list<ZFXBaseUnknown*>{&m_spec, &m_aliasFace, &m_attributes,
                                                                        &m_linkable, &m_entity, &m_propagating})
@@ -57,9 +57,9 @@ MemoryExtras& MemoryObject::Extras() {
     return *m_extras;
 }
 
-const MemoryExtras& MemoryObject::ExtrasOrNone() const {
+const MemoryExtras& MemoryObject::NoExtras() {
     static const MemoryExtras none;
-    return m_extras == nullptr ? none : *m_extras;
+    return none;
 }
 
 void MemoryObject::Offer(const IID& iid) {

@@ -167,7 +167,20 @@ struct MemoryExtras {
 
 /// An object of a document: the implementation behind all its faces.
 class MemoryObject final : public ZFXBaseUnknown {
+    using Interfaces = std::bitset<32>;
+
+    // What a scan reads of each feature comes first, side by side: a scope is larger than the processor's caches.
+    MemoryFaults* m_faults; // of the document's session; null once the document is closed
+    Interfaces m_offered;
+    Interfaces m_withheld;
+    MemoryZFXISpecObject m_spec;
+    MemoryZFXIAlias m_aliasFace;
+    MemoryQVRIPropagatingFeature m_propagating;
+
 public:
+    const MemoryLateType* lateType;
+    ZFXUnicodeString alias;
+
     MemoryObject(MemoryDocumentObject* owner, MemoryKind objectKind, const MemoryLateType& type);
     ~MemoryObject() override;
 
@@ -176,7 +189,7 @@ public:
 
     MemoryExtras& Extras();
     /// What it has of the extras, or a shared empty one.
-    const MemoryExtras& ExtrasOrNone() const;
+    const MemoryExtras& ExtrasOrNone() const { return m_extras == nullptr ? NoExtras() : *m_extras; }
     MemoryAnswer Ask(MemoryRequest request) {
         return m_faults == nullptr ? MemoryFaults::kSuccess : m_faults->Ask(request, this);
     }
@@ -195,11 +208,9 @@ public:
     void Detach();
 
     MemoryDocumentObject* document;
-    const MemoryLateType* lateType;
     MemoryObject* parent = nullptr; // in the tree
     MemoryObject* father = nullptr; // what GetFather answers
     MemoryObjects holdingSets;
-    ZFXUnicodeString alias;
     MemoryKind kind;
     bool aliasKey = true;
     bool propagated = false;
@@ -207,8 +218,8 @@ public:
     static long live;
 
 private:
-    using Interfaces = std::bitset<32>;
     ZFXBaseUnknown* FaceOf(ZFXInterfaceNumber number);
+    static const MemoryExtras& NoExtras();
     template <class Visit>
     void ForEachPointing(Visit visit) const {
         const ZFXListValZFXISpecAttribute_var& pointing = ExtrasOrNone().pointing;
@@ -216,16 +227,10 @@ private:
             visit(static_cast<MemoryPointingAttribute&>(*pointing[i].Get()));
     }
 
-    MemoryFaults* m_faults; // of the document's session; null once the document is closed
-    Interfaces m_offered;
-    Interfaces m_withheld;
     std::unique_ptr<MemoryExtras> m_extras;
-    MemoryZFXISpecObject m_spec;
-    MemoryZFXIAlias m_aliasFace;
     MemoryZFXISpecAttrAccess m_attributes;
     MemoryZFXILinkableObject m_linkable;
     MemoryZFXISamAnalysisEntity m_entity;
-    MemoryQVRIPropagatingFeature m_propagating;
 };
 
 // Defined here, so that a number that is known costs no call.

@@ -28,6 +28,7 @@ HRESULT QVRNameUtil::GetNextUniqueNames(ZFXUnicodeString& name, const ZFXListVal
     if (count < 1)
         return E_FAIL;
     Numbering::InUse numbers = NumbersInUse(name, scope, count);
+    names.Reserve(names.Size() + count);
     for (int i = 0; i < count; ++i)
         names.Append(Numbering::Numbered(name, numbers.Take()));
     return S_OK;

@@ -6,6 +6,8 @@
 #include "internal/Platform.h"
 #include "internal/Refusal.h"
 
+#include <utility>
+
 HRESULT QVRNameUtil::GetAllPropagatingObjects(ZFXISamAnalysisCase_var& analysisCase,
                                               ZFXListValZFXBaseUnknown_var& objects,
                                               ZFXISpecObject_var& object) noexcept {
@@ -25,9 +27,9 @@ HRESULT QVRNameUtil::GetAllPropagatingObjects(ZFXISamAnalysisCase_var& analysisC
         code = GetObjectsInStep(step, inStep, object);
         if (Failed(code))
             continue; // this step gives nothing; the code of the last one is the answer
-        for (const ZFXBaseUnknown_var& other : inStep)
-            if (ZFXIdentityOf(other) != self)
-                objects.Append(other);
+        for (int i = 1; i <= inStep.Size(); ++i)
+            if (ZFXIdentityOf(inStep[i]) != self)
+                objects.Append(std::move(inStep[i]));
     }
     return code;
 }

@@ -7,6 +7,8 @@
 #include "internal/Platform.h"
 #include "internal/Vocabulary.h"
 
+#include <utility>
+
 namespace {
 
 /// Whether a member only came into its step from an earlier one. An initial temperature never counts as such.
@@ -56,7 +58,7 @@ HRESULT QVRNameUtil::GetObjectsInStep(ZFXISpecObject_var& step, ZFXListValZFXBas
                          kMemberFlag); // what the list holds counts, not the code
         for (int m = 1; m <= members.Size(); ++m)
             if (!IsPropagated(members[m]))
-                objects.Append(members[m]);
+                objects.Append(std::move(members[m]));
         code = S_OK;
     }
     return code;
