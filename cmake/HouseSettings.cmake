@@ -13,6 +13,15 @@ set(QVR_SANITIZERS "" CACHE STRING "Sanitizers to build with, such as address,un
 
 add_compile_options(-Wall -Wextra -Wpedantic -Wconversion -Wshadow -Werror)
 
+# What can be checked at little cost is checked, also in a release: writes past a buffer, the stack, the loader's tables.
+string(APPEND CMAKE_CXX_FLAGS_DEBUG " -D_GLIBCXX_ASSERTIONS")
+string(APPEND CMAKE_CXX_FLAGS_RELEASE " -D_FORTIFY_SOURCE=2 -fstack-protector-strong")
+add_link_options("$<$<CONFIG:Release>:LINKER:-z,relro,-z,now>")
+
+# A library's own functions are its own: it calls them directly, and what other libraries offer without a stub.
+add_compile_options("$<$<CONFIG:Release>:-fno-semantic-interposition;-fno-plt>")
+add_link_options("$<$<CONFIG:Release>:LINKER:-Bsymbolic-functions>")
+
 if(QVR_SANITIZERS)
   add_compile_options(-fsanitize=${QVR_SANITIZERS} -fno-sanitize-recover=all -fno-omit-frame-pointer)
   add_link_options(-fsanitize=${QVR_SANITIZERS})
