@@ -173,13 +173,21 @@ class MemoryObject final : public ZFXBaseUnknown {
     MemoryFaults* m_faults; // of the document's session; null once the document is closed
     Interfaces m_offered;
     Interfaces m_withheld;
-    MemoryZFXISpecObject m_spec;
-    MemoryZFXIAlias m_aliasFace;
-    MemoryQVRIPropagatingFeature m_propagating;
 
 public:
     const MemoryLateType* lateType;
+
+private:
+    MemoryZFXIAlias m_aliasFace;
+
+public:
     ZFXUnicodeString alias;
+
+private:
+    MemoryZFXISpecObject m_spec;
+    MemoryQVRIPropagatingFeature m_propagating;
+
+public:
 
     MemoryObject(MemoryDocumentObject* owner, MemoryKind objectKind, const MemoryLateType& type);
     ~MemoryObject() override;

@@ -5,14 +5,17 @@
 #include "internal/Names.h"
 #include "internal/Navigation.h"
 #include "internal/Numbering.h"
+#include "internal/Walk.h"
 
 namespace {
 
 /// The numbers behind the base in a scope, with room for some more.
 Numbering::InUse NumbersInUse(const ZFXUnicodeString& base, const ZFXListValZFXBaseUnknown_var& scope, int more) {
     Numbering::InUse numbers(static_cast<std::size_t>(scope.Size()) + static_cast<std::size_t>(more));
-    for (const ZFXBaseUnknown_var& object : scope)
+    Walk(scope, [&](const ZFXBaseUnknown_var& object) {
         numbers.Add(Numbering::NumberAfter(base, NameOf(object)));
+        return true;
+    });
     return numbers;
 }
 

@@ -8,6 +8,7 @@
 #include "internal/Platform.h"
 #include "internal/Refusal.h"
 #include "internal/Vocabulary.h"
+#include "internal/Walk.h"
 
 HRESULT QVRNameUtil::IsNameUniqueInSet(const ZFXISpecObject_var& feature, const ZFXListValZFXBaseUnknown_var& scope,
                                        const ZFXUnicodeString& name) noexcept {
@@ -16,16 +17,18 @@ HRESULT QVRNameUtil::IsNameUniqueInSet(const ZFXISpecObject_var& feature, const 
         return InputErrorReturn(MessageId::ZFXIAliasERR_01);
     const ZFXUnicodeString candidate = name.IsNull() != 0 ? ownAlias->GetAlias() : name;
     const ZFXBaseUnknown* self = ZFXIdentityOf(feature);
-    for (const ZFXBaseUnknown_var& other : scope) {
+    HRESULT code = S_OK;
+    Walk(scope, [&](const ZFXBaseUnknown_var& other) {
         if (ZFXIdentityOf(other) == self)
-            continue;
+            return true;
         const ZFXIAlias_var alias(other);
         if (alias == nullptr)
-            return InputErrorReturn(MessageId::ZFXIAliasERR_01);
-        if (NamesClash(candidate, alias->GetAlias()))
-            return InputErrorReturn(MessageId::DuplicateNameERR_02, {.returnCode = kNameRefused});
-    }
-    return S_OK;
+            code = InputErrorReturn(MessageId::ZFXIAliasERR_01);
+        else if (NamesClash(candidate, alias->GetAlias()))
+            code = InputErrorReturn(MessageId::DuplicateNameERR_02, {.returnCode = kNameRefused});
+        return !Failed(code);
+    });
+    return code;
 }
 
 HRESULT QVRNameUtil::IsNameUniqueAcrossCases(ZFXISpecObject_var& feature, const ZFXUnicodeString& name) noexcept {
