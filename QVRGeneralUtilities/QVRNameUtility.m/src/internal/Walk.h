@@ -3,6 +3,7 @@
 #include "object-model/ZFXHandle.h"
 
 #include <algorithm>
+#include <cstddef>
 
 /// Walks through a scope in its order: `visit` answers whether to go on. What is read a few steps later is fetched into
 /// the processor's caches meanwhile: a scope does not fit there, its objects lie anywhere, and reading one is mostly
