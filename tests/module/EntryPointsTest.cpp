@@ -66,8 +66,6 @@ TEST_F(EntryPointsTest, AProposalNeedsAFeatureAndACase) {
     EXPECT_EQ(Text(name), "Step-1");
     EXPECT_EQ(none, nullptr);
     name = "before";
-    model.AnswerOnce(MemoryRequest::GetCurrentAnalysisCaseSP, 1, kFailsFilled);
-    QVRNameUtil::GetUniqueName(name, handle, none);
     document.MakeCurrent({});
     QVRNameUtil::GetUniqueName(name, handle, none);
     model.CloseCurrent();

@@ -37,19 +37,11 @@ TEST_F(InstanceNameTest, DisplayNamesAreCleaned) {
               "Instance-12-" + std::string(60, 'x') + "|Part-12-" + std::string(64, 'x'));
 }
 
-TEST_F(InstanceNameTest, FailuresLeaveTheNames) {
-    EXPECT_EQ(Name({}), "E_FAIL|i|p");
+TEST_F(InstanceNameTest, WideNamesGoByTheirPosition) {
     document.MeshPart("x", 1);
     MemoryFeature part = document.MeshPart("部品", 2);
     EXPECT_EQ(Name(part), "Instance2-MSHPartOctree3D-2|Part2-MSHPartOctree3D-2");
     EXPECT_EQ(Name(part.Father({})), "GetGenericEnglishNameERR_01|i|p");
-    part.Alias("x").Answer(MemoryRequest::GetTag, kFails);
-    EXPECT_EQ(Name(part), std::to_string(kCode) + "|i|p");
-    part.Answer(MemoryRequest::GetExplicitChild, kFails);
-    EXPECT_EQ(Name(part), "E_FAIL|i|p");
-    model.Heal();
-    EXPECT_EQ(Name(document.MeshPart("x", 3).Without(IID_ZFXIAlias)), "E_FAIL|i|p");
-    EXPECT_EQ(Name(part.Without(IID_ZFXISamExplicit)), "E_FAIL|i|p");
 }
 
 TEST_F(InstanceNameTest, TagsAreReadBack) {

@@ -158,30 +158,15 @@ TEST(UnicodeString, ReadsAndWritesDecimalNumbers) {
         int result;
         int number; // 77 when the integer must stay as it was
     };
+    // clang-format off
     const Row rows[] = {
-        {"12", 1, 12},
-        {"abc", 0, 77},
-        {"", 0, 77},
-        {"2b", 1, 2},
-        {" \t\n5", 1, 5},
-        {"-4", 1, -4},
-        {"+4", 1, 4},
-        {"--4", 0, 77},
-        {"-", 0, 77},
-        {"- 4", 0, 77},
-        {"007", 1, 7},
-        {"1 2", 1, 1},
-        {"2147483647", 1, kMost},
-        {"2147483648", 0, 77},
-        {"-2147483648", 1, kLeast},
-        {"-2147483649", 0, 77},
-        {"99999999999999999999", 0, 77},
-        {"00000000000000000000012", 1, 12},
-        {"１", 0, 77}, // a digit of another script
-        {"\xC2\xA0"
-         "5",
-         0, 77}, // white space of another kind
+        {"12", 1, 12}, {"abc", 0, 77}, {"", 0, 77}, {"2b", 1, 2}, {" \t\n5", 1, 5}, {"-4", 1, -4}, {"+4", 1, 4},
+        {"--4", 0, 77}, {"-", 0, 77}, {"- 4", 0, 77}, {"007", 1, 7}, {"1 2", 1, 1}, {"2147483647", 1, kMost},
+        {"2147483648", 0, 77}, {"-2147483648", 1, kLeast}, {"-2147483649", 0, 77}, {"99999999999999999999", 0, 77},
+        {"00000000000000000000012", 1, 12}, {"１", 0, 77}, // a digit of another script
+        {"\xC2\xA0" "5", 0, 77}, // white space of another kind
     };
+    // clang-format on
     for (const Row& row : rows) {
         int number = 77;
         EXPECT_EQ(String(row.text).ConvertToNum(&number, "%d"), row.result) << row.text;
