@@ -27,6 +27,8 @@ TEST_F(EntryPointsTest, UniquenessIsJudgedBeforeTheText) {
         {"Current", "1st", "LeadingDigitERR_01", "S_OK"}, {"Current", "1.日", "LeadingDigitERR_01", char1},
         {"Current", "a.日", char1, char1}, {"Current", "a b日", "DoubleByteCharErr_01", char2},
         {"Current", "Träger", "S_OK", "S_OK"},
+        {"Current", ZFXUnicodeString(u"\xDC00"), "DoubleByteCharErr_01", "S_OK"},
+        {"____", "    ", "S_OK", char2}, {"Current", Repeated('1', kMillion), "NameLengthERR_01", "S_OK"},
     };
     // clang-format on
     for (const auto& [current, name, check, file] : rows) {
@@ -44,13 +46,6 @@ TEST_F(EntryPointsTest, UniquenessIsJudgedBeforeTheText) {
         EXPECT_EQ(Said(QVRNameUtil::CheckName(nameless, "x", 1)), "ZFXIAliasERR_01");
         EXPECT_EQ(Said(QVRNameUtil::CheckFileName(nameless, "x")), "ZFXIAliasERR_01");
     }
-}
-
-TEST_F(EntryPointsTest, ANameMayBeCheckedIntoItself) {
-    ZFXISpecObject_var handle(other);
-    ZFXUnicodeString name("Current");
-    EXPECT_EQ(Said(QVRNameUtil::CheckName(handle, name, 1)), "DuplicateNameERR_02 -100");
-    EXPECT_EQ(Text(name), "Current");
 }
 
 TEST_F(EntryPointsTest, AProposalNeedsAFeatureAndACase) {

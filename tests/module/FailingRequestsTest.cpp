@@ -87,12 +87,6 @@ protected:
             Ask("m", [&](auto& name) { return Util::GetGrpNameofMasterAndSlave(handle, name, slave); });
         return master + "|" + Text(slave);
     }
-    std::string Batch() {
-        ZFXListValZFXUnicodeString names;
-        const auto scope = ListOf({section, section2});
-        const std::string code = Ask("P-", [&](auto& base) { return Util::GetNextUniqueNames(base, scope, 2, names); });
-        return code + "|" + Text(names[1]) + " " + Text(names[2]);
-    }
     std::string Next() {
         const ZFXISamAnalysisSet_var handle(set);
         return Ask("P-", [&](auto& name) { return Util::GetNextUniqueName(name, handle); });
@@ -115,10 +109,6 @@ protected:
         const std::string first =
             Ask("i", [&](auto& name) { return QVRGenInstanceName::GetUniqueLegalInstanceName(handle, name, second); });
         return first + "|" + Text(second);
-    }
-    std::string Stored() {
-        const ZFXIAlias_var alias(step);
-        return alias == nullptr ? "none" : Text(alias->GetAlias());
     }
 };
 
@@ -152,8 +142,6 @@ TEST_F(FailingRequestsTest, GiveAStatedAnswerAndLeaveNothingBehind) {
           {"S_OK||Group-1", "Cast GetAlias GetGroup"}}},
         {"GetNextUniqueName", [&] { return Next(); }, "S_OK|P-3", {{"E_FAIL", "Cast ListMembers-+"},
           {"S_OK|P-1", "ListMembers0"}, {"S_OK|P-2", "Cast GetAttrKey GetString"}}},
-        {"GetNextUniqueNames", [&] { return Batch(); }, "S_OK|P-3 P-4",
-         {{"S_OK|P-2 P-3", "Cast GetAttrKey GetString"}}},
         {"GenerateUniqueName", [&] { return Generate(); }, "S_OK|SAMThickness", {{"E_FAIL", "Cast"},
           {"S_OK|", "GetAlias"}, {"S_OK|厚", "GetLateType"}}},
         {"CreateBaseName", [&] { return Ask(load, "x", Util::CreateBaseName); }, "S_OK|Pressure-", {{"E_FAIL", "Cast"},
@@ -220,7 +208,6 @@ TEST_F(FailingRequestsTest, GiveAStatedAnswerAndLeaveNothingBehind) {
           {"GetGenericEnglishNameERR_01|p", "Cast GetFather ListMembers-+0"},
           {"S_OK|Instance0-MSHPartOctree3D-2|Part0-MSHPartOctree3D-2", "GetTag0"},
           {"S_OK|Instance4--2|Part4--2", "GetLateType"}, {"S_OK|Instance4|Part4", "GetAlias"}, {"code|p", "GetTag-+"}}},
-        {"GetAlias", [&] { return Stored(); }, "Step-1", {{"", "Cast GetAttrKey GetString"}, {"none", "Cast"}}},
         {"SetAlias, refused", [&] { return Rename(step, "Step-1", "1.0"); }, "Step-1|NAME ERROR",
          {{"Step-1|", "Cast"}}},
         {"SetAlias, stored", [&] { return Rename(section, "P-1", " P-3_"); }, "P-3|",

@@ -69,6 +69,7 @@ TEST_F(FeatureAliasTest, OnlyTheListedTypesAreGuarded) {
 
 TEST_F(FeatureAliasTest, AnAdaptorIsAFaceOfItsFeatureAndKeepsItAlive) {
     ZFXIAlias_var alias(step);
+    const ZFXIAlias_var copy(alias); // counted by the adaptor
     EXPECT_EQ(step.References(), 1);
     EXPECT_TRUE(alias == step.Object() && ZFXISpecObject_var(alias) == step.Object());
     EXPECT_TRUE(ZFXIAlias_var(ZFXBaseUnknown_var(alias)) == alias);

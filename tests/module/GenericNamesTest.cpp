@@ -39,6 +39,8 @@ TEST_F(GenericNamesTest, ByPositionAmongTheFathersMembers) {
     const char* const refused = "GetGenericEnglishNameERR_01|before";
     EXPECT_EQ(Ask(kByPosition, document.Model()), refused);                   // no father
     EXPECT_EQ(Ask(kByPosition, document.Model().Feature("T", "z")), refused); // the father is no set
+    EXPECT_EQ(Ask(kByPosition, set.Father(set)), refused);                    // its own father, not its own member
+    EXPECT_EQ(Ask(kByPosition, set.Hold(set)), "S-3");
     MemoryFeature another = document.Model().Set("S");
     EXPECT_EQ(Ask(kByPosition, second.Father(another)), refused); // not among its members
     another.Hold(set.Feature("T", "w")).Hold(second);

@@ -33,6 +33,12 @@ TEST_F(InstanceNameTest, DisplayNamesAreCleaned) {
     }
     EXPECT_EQ(Name(document.MeshPart("OrphanMesh-Bracket. 1", 5)), "Bracket. 1|Bracket. 1");
     EXPECT_EQ(Name(document.MeshPart("OrphanMesh-", -1)), "|");
+    EXPECT_EQ(Name(document.MeshPart(Repeated(' ', kMillion) + "_x" + Repeated('_', kMillion), 2147483647)),
+              "Instance2147483647-_x|Part2147483647-_x");
+    ZFXUnicodeString both;
+    const ZFXIMSHMeshPart_var part(document.MeshPart("B", 5));
+    EXPECT_EQ(QVRGenInstanceName::GetUniqueLegalInstanceName(part, both, both), S_OK);
+    EXPECT_EQ(Text(both), "Part5-B"); // one object: written last
     EXPECT_EQ(Name(document.MeshPart(Repeated('x', 80), -12)),
               "Instance-12-" + std::string(60, 'x') + "|Part-12-" + std::string(64, 'x'));
 }

@@ -41,8 +41,9 @@ TEST_F(NumberedNamesTest, TheNextNumberFollowsTheHighest) {
 
 TEST_F(NumberedNamesTest, ElementsWithoutANameCountForNothing) {
     MemoryFeature set = document.Model().Set("S");
+    MemoryFeature two = set.Feature("T", "P-2");
     MemoryFeature nameless = set.Feature("T", "P-8").Without(IID_ZFXIAlias);
-    ZFXListValZFXBaseUnknown_var scope = ListOf({nameless, set.Feature("T", "P-2"), MemoryFeature()});
+    ZFXListValZFXBaseUnknown_var scope = ListOf({nameless, two, two, MemoryFeature()});
     ZFXUnicodeString name("P-");
     EXPECT_EQ(QVRNameUtil::GetNextUniqueName(name, scope), S_OK);
     EXPECT_EQ(Text(name), "P-3");

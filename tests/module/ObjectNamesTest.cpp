@@ -38,6 +38,9 @@ TEST_F(ObjectNamesTest, NamesAreGivenAsStoredOrMadeLegal) {
     EXPECT_EQ(Legal(bolt), "DuplicateZFXNameERR_01|Bolt-1"); // any failure of the comparison
     EXPECT_EQ(Legal(nameless), "ZFXIAliasERR_01|before");
     EXPECT_EQ(Legal(bolt.Father(load)), "ParentERR_01|Bolt-1");
+    EXPECT_EQ(Legal(bolt.Father(bolt)), "ParentERR_01|Bolt-1");
+    EXPECT_EQ(Legal(bolt.With(IID_ZFXISamAnalysisScan)), "S_OK|Bolt-1"); // its own father, without children
+    bolt.Without(IID_ZFXISamAnalysisScan);
     EXPECT_EQ(Legal(bolt.Alias("1")), "LeadingDigitERR_01|1"); // judged before the siblings
 
     ZFXUnicodeString name("before");

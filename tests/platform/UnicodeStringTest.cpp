@@ -8,6 +8,7 @@
 #include <thread>
 #include <tuple>
 
+using namespace std::string_view_literals;
 using String = ZFXUnicodeString;
 
 namespace {
@@ -78,6 +79,9 @@ TEST(UnicodeString, CompareTellsIdenticalFromEqualApartFromCase) {
         const String longA = kLong + a;
         EXPECT_EQ(longA.Compare(kLong + b), expected);
     }
+    EXPECT_EQ(String(u"a\0b"sv).Compare(String(u"A\0B"sv)), 1); // U+0000 ends no text
+    EXPECT_EQ(String(u"a\0b"sv).Compare(String(u"a\0c"sv)), 0);
+    EXPECT_EQ(String(u"\xD800").Compare(String(u"\xD801")), 0); // halves differ, though both are written U+FFFD
     String cut("abc");
     cut.Remove(0, 3);
     EXPECT_EQ(cut.Compare(""), 2); // what stands in the storage of an empty text means nothing
