@@ -5,7 +5,6 @@
 #include <gtest/gtest.h>
 
 #include <limits>
-#include <thread>
 #include <tuple>
 
 using namespace std::string_view_literals;
@@ -206,17 +205,6 @@ TEST(UnicodeChar, KnowsDigitsAndWhiteSpace) {
     EXPECT_EQ((c = "\\") == ZFXUnicodeChar('\\'), 1);
     EXPECT_EQ((c = "é").ConvertToUC2Bytes(), 0xE9);
     EXPECT_EQ((c = "").ConvertToUC2Bytes(), 0);
-}
-
-TEST(UnicodeString, ConstantOperationsRunOnSeveralThreads) {
-    const String shared("Träger");
-    std::thread other([&] {
-        for (int i = 0; i < 1000; ++i)
-            EXPECT_STREQ(String(shared).ConvertToChar(), shared.ConvertToChar());
-    });
-    for (int i = 0; i < 1000; ++i)
-        EXPECT_EQ(String(shared).Compare(shared.ConvertToChar()), 2);
-    other.join();
 }
 
 } // namespace
