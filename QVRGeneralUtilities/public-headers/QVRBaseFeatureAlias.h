@@ -7,7 +7,7 @@
 
 /// The alias of a feature, kept in its string attribute "Alias" and guarded: a new one is stored only when it
 /// passes the name rules. An object of this class is an extension of one feature; the feature interfaces that
-/// it is asked for are the feature's. It holds no state of its own.
+/// it is asked for are the feature's. It holds no state of its own. Used by one thread at a time.
 class QVR_NAME_UTILITY_EXPORT QVRBaseFeatureAlias : public ZFXBaseUnknown {
 public:
     QVRBaseFeatureAlias();

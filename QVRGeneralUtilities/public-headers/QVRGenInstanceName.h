@@ -7,6 +7,7 @@
 #include "text/ZFXUnicodeString.h"
 
 /// What a mesh part is called in the solver deck. The part's integer tag alone makes its names distinct.
+/// Used by one thread at a time.
 class QVR_NAME_UTILITY_EXPORT QVRGenInstanceName {
 public:
     /// Copies nothing: there is nothing to copy.

@@ -7,7 +7,7 @@
 #include "text/ZFXUnicodeString.h"
 
 /// Makes a name fit for the solver's input deck or for a file name. Each text function returns a new text and
-/// leaves its argument as it is; none of them fails.
+/// leaves its argument as it is; none of them fails. All may run on several threads at a time.
 class QVR_NAME_UTILITY_EXPORT QVRGenZFXUnicodeStringUtils {
 public:
     QVRGenZFXUnicodeStringUtils& operator=(const QVRGenZFXUnicodeStringUtils&);

@@ -156,6 +156,16 @@ void MemoryModel::MakeCurrent(MemoryDocument document) { m_session->current = do
 void MemoryModel::CloseCurrent() { m_session->current = nullptr; }
 long MemoryModel::Requests() const noexcept { return m_session->faults.Requests(); }
 
+const char* MemoryModel::LastTold() const noexcept {
+    constexpr const char* kNames[] = {
+        "",
+#define MEMORY_REQUEST(name) #name,
+#include "memory-model/MemoryRequests.def"
+#undef MEMORY_REQUEST
+    };
+    return kNames[static_cast<std::size_t>(m_session->faults.LastTold())];
+}
+
 void MemoryModel::AnswerOnce(MemoryRequest request, long n, MemoryAnswer answer) {
     m_session->faults.Add(request, nullptr, std::max(n, 1L), answer);
 }

@@ -25,8 +25,10 @@ MemoryAnswer MemoryFaults::AskRules(MemoryRequest request, const MemoryObject* o
         const bool meant = (rule.request == MemoryRequest::Any || rule.request == request) &&
                            (rule.object == nullptr || rule.object == object);
         const bool due = meant && (rule.countdown == kAlways || --rule.countdown == 0);
-        if (due && !std::exchange(answered, true))
+        if (due && !std::exchange(answered, true)) {
             answer = rule.answer;
+            m_lastTold = request;
+        }
         return due && rule.countdown != kAlways;
     });
     return answer;

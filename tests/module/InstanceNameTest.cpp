@@ -33,23 +33,21 @@ TEST_F(InstanceNameTest, DisplayNamesAreCleaned) {
     }
     EXPECT_EQ(Name(document.MeshPart("OrphanMesh-Bracket. 1", 5)), "Bracket. 1|Bracket. 1");
     EXPECT_EQ(Name(document.MeshPart("OrphanMesh-", -1)), "|");
+    EXPECT_EQ(Name(document.MeshPart(Repeated(' ', kMillion) + "_x" + Repeated('_', kMillion), 2147483647)),
+              "Instance2147483647-_x|Part2147483647-_x");
+    ZFXUnicodeString both;
+    const ZFXIMSHMeshPart_var part(document.MeshPart("B", 5));
+    EXPECT_EQ(QVRGenInstanceName::GetUniqueLegalInstanceName(part, both, both), S_OK);
+    EXPECT_EQ(Text(both), "Part5-B"); // one object: written last
     EXPECT_EQ(Name(document.MeshPart(Repeated('x', 80), -12)),
               "Instance-12-" + std::string(60, 'x') + "|Part-12-" + std::string(64, 'x'));
 }
 
-TEST_F(InstanceNameTest, FailuresLeaveTheNames) {
-    EXPECT_EQ(Name({}), "E_FAIL|i|p");
+TEST_F(InstanceNameTest, WideNamesGoByTheirPosition) {
     document.MeshPart("x", 1);
     MemoryFeature part = document.MeshPart("部品", 2);
     EXPECT_EQ(Name(part), "Instance2-MSHPartOctree3D-2|Part2-MSHPartOctree3D-2");
     EXPECT_EQ(Name(part.Father({})), "GetGenericEnglishNameERR_01|i|p");
-    part.Alias("x").Answer(MemoryRequest::GetTag, kFails);
-    EXPECT_EQ(Name(part), std::to_string(kCode) + "|i|p");
-    part.Answer(MemoryRequest::GetExplicitChild, kFails);
-    EXPECT_EQ(Name(part), "E_FAIL|i|p");
-    model.Heal();
-    EXPECT_EQ(Name(document.MeshPart("x", 3).Without(IID_ZFXIAlias)), "E_FAIL|i|p");
-    EXPECT_EQ(Name(part.Without(IID_ZFXISamExplicit)), "E_FAIL|i|p");
 }
 
 TEST_F(InstanceNameTest, TagsAreReadBack) {

@@ -28,11 +28,6 @@ TEST_F(JobNamesTest, JobsAreNumberedOverAllCasesWhateverTheirLetters) {
     EXPECT_EQ(Propose(), "Job-5");
     second.Job("jOB-2147483647");
     EXPECT_EQ(Propose(), "Job-3");
-    model.AnswerAlways(MemoryRequest::GetJobs, kFailsFilled);
-    EXPECT_EQ(Propose(), "Job-3");
-    model.AnswerAlways(MemoryRequest::GetAllAnalysisCases, kFails);
-    EXPECT_EQ(Propose(), "Job-1");
-    model.Heal();
 
     const ZFXISpecObject_var self(job);
     const char* const duplicate = "DuplicateNameERR_03";
@@ -59,19 +54,6 @@ TEST_F(JobNamesTest, MeshPartsAreNumberedOverTheMeshManager) {
     EXPECT_EQ(propose(seven), "S_OK|Mesh-8"); // counts itself
     const char* const refused = "MeshPartUniqueNameERR|Mesh-";
     EXPECT_EQ(propose({}), refused);
-    for (const MemoryRequest request :
-         {MemoryRequest::GetOwningDocument, MemoryRequest::GetMeshManager, MemoryRequest::ListMembers}) {
-        for (const MemoryAnswer& answer : {kFails, kFailsFilled}) {
-            if (request == MemoryRequest::GetOwningDocument && answer.filled)
-                continue; // has no code
-            model.AnswerAlways(request, answer);
-            EXPECT_EQ(propose(part), refused);
-            model.Heal();
-        }
-    }
-    model.AnswerAlways(MemoryRequest::GetMeshManager, kEmpty);
-    EXPECT_EQ(propose(part), refused);
-    model.Heal();
     document.MeshManager().Without(IID_ZFXISamAnalysisSet);
     EXPECT_EQ(propose(part), refused);
     EXPECT_EQ(propose(part.Without(IID_ZFXILinkableObject)), refused);

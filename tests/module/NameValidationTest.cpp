@@ -4,6 +4,8 @@
 
 #include <gtest/gtest.h>
 
+using namespace std::string_view_literals;
+
 namespace {
 
 TEST(NameValidation, TheFirstRuleThatFailsDecides) {
@@ -30,7 +32,10 @@ TEST(NameValidation, TheFirstRuleThatFailsDecides) {
         {"dir\\job", char1, char1, "S_OK", true}, {"Static Step-1", "S_OK", "S_OK", char2, true},
         {"a.b c", char1, char1, char1, true}, // reserved characters are examined first
         {"c a.b", char1, char1, char1, true}, {"a/b(c)*", "S_OK", "S_OK", char2, false},
-        {"日本", "S_OK", "S_OK", "S_OK", true},
+        {"日本", "S_OK", "S_OK", "S_OK", true}, {"    ", "S_OK", "S_OK", char2, true},
+        {"____", "S_OK", "S_OK", "S_OK", true}, {ZFXUnicodeString(u"\xD800"), "S_OK", "S_OK", "S_OK", true},
+        {ZFXUnicodeString(u"a\0."sv), char1, char1, char1, true}, // U+0000 ends no text
+        {Repeated('.', kMillion), length1, length1, char1, true}, {Repeated('/', kMillion), length1, length1, char2, false},
     };
     // clang-format on
     for (Row row : rows) {

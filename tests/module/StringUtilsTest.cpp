@@ -11,7 +11,7 @@ using Utils = QVRGenZFXUnicodeStringUtils;
 TEST(StringUtils, CleanNames) {
     struct Row {
         ZFXUnicodeString (*clean)(const ZFXUnicodeString&);
-        const char* in;
+        ZFXUnicodeString in;
         const char* out;
     };
     // clang-format off
@@ -22,12 +22,15 @@ TEST(StringUtils, CleanNames) {
         {Utils::RemoveTrailingSpaces, " a b   ", " a b"}, {Utils::RemoveTrailingUnderscores, "_a_b__", "_a_b"},
         {Utils::ReplaceBackslashWithForwardslash, "\\a\\b", "/a/b"},
         {Utils::ReplacePeriodWithDash, "1.2.3", "1-2-3"}, {Utils::RemoveSpaces, "", ""},
-        {Utils::RemoveLeadingSpaces, "   ", ""},
+        {Utils::RemoveLeadingSpaces, "   ", ""}, {Utils::RemoveTrailingUnderscores, Repeated('_', kMillion), ""},
+        {Utils::RemoveLeadingSpaces, Repeated(' ', kMillion) + "a ", "a "}, {Utils::RemovePeriods, Repeated('.', kMillion), ""},
     };
     // clang-format on
     for (const Row& row : rows)
         EXPECT_EQ(Text(row.clean(row.in)), row.out);
-    for (const int length : {0, 71, 72, 73, 200})
+    const ZFXUnicodeString cut = Utils::TrucateToLegalLength(Repeated('a', 71) + "😀"); // between the halves
+    EXPECT_EQ(Text(cut), std::string(71, 'a') + "\xEF\xBF\xBD");
+    for (const int length : {0, 71, 72, 73, 200, kMillion})
         EXPECT_EQ(Utils::TrucateToLegalLength(Repeated('a', length)), Repeated('a', std::min(length, 72)));
 }
 
@@ -44,6 +47,7 @@ TEST(StringUtils, ReadIntegersFromTheEnd) {
         {"5", ",", {7, 5}, "5"}, {",,", ",", {7}, ""}, {"1, -2,3b", ",", {7, 3, -2, 1}, "1"},
         {"1::2", "::", {7, 1}, "1"}, // the second colon is read as part of the number
         {"1--2", "--", {7, -2, 1}, "1"}, {"1,2", "", {7, 1}, "1,2"}, {"a,99999999999,3", ",", {7, 3}, "a"},
+        {"2147483647,-2147483648,2147483648,+4", ",", {7, 4, -2147483647 - 1, 2147483647}, "2147483647"},
     };
     // clang-format on
     for (const Row& row : rows) {

@@ -5,7 +5,6 @@
 
 #include <gtest/gtest.h>
 
-#include <map>
 #include <set>
 #include <string>
 
@@ -17,21 +16,10 @@ TEST(Vocabulary, HoldsEachWordOnceAndExactly) {
 #include "internal/Vocabulary.def"
 #undef WORD
     };
-    std::map<std::string, int> ends;
     std::set<std::string> distinct;
-    for (const std::string word : words) {
+    for (const char* word : words)
         EXPECT_TRUE(distinct.insert(word).second) << word;
-        ++ends[word.ends_with("LT")          ? "LT"
-               : word.starts_with("SAM")     ? "SAM"
-               : word.starts_with("MSHPart") ? "MSHPart"
-               : word.ends_with("-")         ? "-"
-                                             : "other"];
-    }
     EXPECT_EQ(distinct.size(), 240U);
-    EXPECT_EQ(ends["LT"], 72);
-    EXPECT_EQ(ends["SAM"], 33);
-    EXPECT_EQ(ends["MSHPart"], 21);
-    EXPECT_EQ(ends["-"], 55);
     for (const char* odd : {"Frontal Triangle", "Frontal triangle", "BasicUnitTepmerature", "SAMVirtSpringBoltTigh",
                             "-Copy-", "QVROruCatalog.ZFXfct", "2D Property Enhancement-"})
         EXPECT_TRUE(distinct.contains(odd)) << odd;

@@ -60,19 +60,14 @@ TEST(Commands, CheckNamesByTheirText) {
     const struct {
         std::vector<std::string> arguments;
         const char* messageId; // empty: legal
+        // clang-format off
     } rows[] = {
-        {{"Step 1"}, ""},
-        {{"Schweißnaht"}, ""},
-        {{longest}, ""},
-        {{longest + "x"}, "NameLengthERR_01"},
-        {{""}, "NameLengthERR_02"},
-        {{"1 Step"}, "LeadingDigitERR_01"},
-        {{"Step.1"}, "IllegalCharERR_01"},
-        {{"衝撃"}, "DoubleByteCharErr_01"},
-        {{"--file-name", "a\\b"}, ""},
-        {{"--file-name", "a b"}, "IllegalCharERR_02"},
+        {{"Step 1"}, ""}, {{"Schweißnaht"}, ""}, {{longest}, ""}, {{longest + "x"}, "NameLengthERR_01"},
+        {{""}, "NameLengthERR_02"}, {{"1 Step"}, "LeadingDigitERR_01"}, {{"Step.1"}, "IllegalCharERR_01"},
+        {{"衝撃"}, "DoubleByteCharErr_01"}, {{"--file-name", "a\\b"}, ""}, {{"--file-name", "a b"}, "IllegalCharERR_02"},
         {{"--file-name", "a.b"}, "IllegalCharERR_01"},
     };
+    // clang-format on
     for (const auto& row : rows) {
         std::vector<std::string> arguments{"check", "--json"};
         arguments.insert(arguments.end(), row.arguments.begin(), row.arguments.end());
@@ -103,21 +98,13 @@ TEST(Commands, AuditTheWholeExample) {
         const auto pointer = nlohmann::json::json_pointer(refusal["pointer"].get<std::string>());
         EXPECT_EQ(text.at(pointer).at("name"), refusal["name"]);
     }
-    const std::set<std::string> everyKind{"",
-                                          "AnalysisCaseERR_03",
-                                          "DoubleByteCharErr_01",
-                                          "DuplicateNameERR_01",
-                                          "DuplicateNameERR_02",
-                                          "DuplicateNameERR_03",
-                                          "DuplicateZFXNameERR_01",
-                                          "IllegalCharERR_01",
-                                          "LeadingDigitERR_01",
-                                          "NameLengthERR_01",
-                                          "NameLengthERR_02",
-                                          "ObjectParentERR_01",
-                                          "StepParentERR_01",
-                                          "StepParentERR_02",
-                                          "ZFXIAliasERR_01"};
+    // clang-format off
+    const std::set<std::string> everyKind{
+        "", "AnalysisCaseERR_03", "DoubleByteCharErr_01", "DuplicateNameERR_01", "DuplicateNameERR_02",
+        "DuplicateNameERR_03", "DuplicateZFXNameERR_01", "IllegalCharERR_01", "LeadingDigitERR_01",
+        "NameLengthERR_01", "NameLengthERR_02", "ObjectParentERR_01", "StepParentERR_01", "StepParentERR_02",
+        "ZFXIAliasERR_01"};
+    // clang-format on
     EXPECT_EQ(ids, everyKind);
     for (const char* legal : {"3mm Blech", "Static", "Static/Initial/Schweißnaht", "Reibung 0,12"})
         EXPECT_FALSE(refused.contains(legal)) << legal;

@@ -224,23 +224,16 @@ std::set<std::string> KeysIn(const nlohmann::json& schema, const nlohmann::json&
 
 TEST(DocumentReader, TakesTheKeysThatTheSchemaTells) {
     const auto schema = nlohmann::json::parse(TextOfFile(QVRNAMES_FOLDER "/document.schema.json"));
+    // clang-format off
     const std::pair<const char*, MemoryKind> rows[] = {
-        {"case", MemoryKind::Case},
-        {"history", MemoryKind::History},
-        {"step", MemoryKind::Step},
-        {"set", MemoryKind::Set},
-        {"propertySet", MemoryKind::Set},
-        {"jobContainer", MemoryKind::JobContainer},
-        {"feature", MemoryKind::Feature},
-        {"job", MemoryKind::Feature},
-        {"meshManager", MemoryKind::MeshManager},
-        {"meshPart", MemoryKind::MeshPart},
-        {"material", MemoryKind::Material},
-        {"group", MemoryKind::Group},
-        {"support", MemoryKind::Support},
-        {"connector", MemoryKind::Connector},
+        {"case", MemoryKind::Case}, {"history", MemoryKind::History}, {"step", MemoryKind::Step},
+        {"set", MemoryKind::Set}, {"propertySet", MemoryKind::Set}, {"jobContainer", MemoryKind::JobContainer},
+        {"feature", MemoryKind::Feature}, {"job", MemoryKind::Feature}, {"meshManager", MemoryKind::MeshManager},
+        {"meshPart", MemoryKind::MeshPart}, {"material", MemoryKind::Material}, {"group", MemoryKind::Group},
+        {"support", MemoryKind::Support}, {"connector", MemoryKind::Connector},
         {"connectionDesign", MemoryKind::ConnectionDesign},
     };
+    // clang-format on
     const auto sorted = [](const std::vector<std::string>& keys) {
         return std::set<std::string>(keys.begin(), keys.end());
     };

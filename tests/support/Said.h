@@ -35,4 +35,5 @@ std::string Console(Action action) {
 /// Texts in tables: UTF-8 in, UTF-8 out.
 inline std::string Text(const ZFXUnicodeString& text) { return text.ConvertToChar(); }
 
+inline constexpr int kMillion = 1'000'000;
 inline ZFXUnicodeString Repeated(char c, int times) { return {ZFXUnicodeChar(c), static_cast<std::size_t>(times)}; }
