@@ -190,7 +190,6 @@ private:
     MemoryQVRIPropagatingFeature m_propagating;
 
 public:
-
     MemoryObject(MemoryDocumentObject* owner, MemoryKind objectKind, const MemoryLateType& type);
     ~MemoryObject() override;
 

@@ -15,9 +15,11 @@ void Walk(const ZFXListValZFXBaseUnknown_var& scope, Visit visit) {
     const auto end = scope.end();
     for (auto at = scope.begin(); at != end; ++at) {
         const auto* later = reinterpret_cast<const char*>((at + std::min(kSteps, end - at - 1))->Get());
-        __builtin_prefetch(later); // a feature with its name takes three; an address that is none does no harm
-        __builtin_prefetch(later + kLine);
-        __builtin_prefetch(later + 2 * kLine);
+        if (later != nullptr) {
+            __builtin_prefetch(later); // a feature with its name takes three
+            __builtin_prefetch(later + kLine);
+            __builtin_prefetch(later + 2 * kLine);
+        }
         if (!visit(*at))
             return;
     }
