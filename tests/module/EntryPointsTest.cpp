@@ -60,12 +60,6 @@ TEST_F(EntryPointsTest, AProposalNeedsAFeatureAndACase) {
     QVRNameUtil::GetUniqueName(name, handle, none); // in the current case, whose only step is the first child
     EXPECT_EQ(Text(name), "Step-1");
     EXPECT_EQ(none, nullptr);
-    name = "before";
-    document.MakeCurrent({});
-    QVRNameUtil::GetUniqueName(name, handle, none);
-    model.CloseCurrent();
-    QVRNameUtil::GetUniqueName(name, handle, none);
-    EXPECT_EQ(Text(name), "before");
 }
 
 } // namespace

@@ -43,13 +43,6 @@ TEST_F(InstanceNameTest, DisplayNamesAreCleaned) {
               "Instance-12-" + std::string(60, 'x') + "|Part-12-" + std::string(64, 'x'));
 }
 
-TEST_F(InstanceNameTest, WideNamesGoByTheirPosition) {
-    document.MeshPart("x", 1);
-    MemoryFeature part = document.MeshPart("部品", 2);
-    EXPECT_EQ(Name(part), "Instance2-MSHPartOctree3D-2|Part2-MSHPartOctree3D-2");
-    EXPECT_EQ(Name(part.Father({})), "GetGenericEnglishNameERR_01|i|p");
-}
-
 TEST_F(InstanceNameTest, TagsAreReadBack) {
     struct Row {
         const char* name;

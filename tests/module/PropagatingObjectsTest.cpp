@@ -55,25 +55,12 @@ TEST_F(PropagatingObjectsTest, WhatOnlyPropagatedDoesNotCountButInitialTemperatu
     EXPECT_EQ(Check("pressure-1"), "DuplicateNameERR_02 -100");
 }
 
-TEST_F(PropagatingObjectsTest, FailuresOfTheCaseAreTold) {
-    EXPECT_EQ(Check(""), "S_OK");
-    analysisCase.History().Without(IID_ZFXISamAnalysisScan);
-    EXPECT_EQ(Check("x"), "ObjectParentERR_01");
-    analysisCase.Without(IID_ZFXISamAnalysisScan);
-    EXPECT_EQ(Check("x"), "ObjectParentERR_01");
-    EXPECT_EQ(Propose("before"), "before");
-}
-
 TEST_F(PropagatingObjectsTest, TheLastStepDecidesTheCodeAndFailedStepsGiveNothing) {
     step1.Answer(MemoryRequest::FindObjectsOfType, kFails);
     EXPECT_EQ(Check("Pressure-1"), "S_OK");
     EXPECT_EQ(Check("Pressure-2"), "DuplicateNameERR_02 -100");
     step3.Answer(MemoryRequest::FindObjectsOfType, kFailsFilled);
     EXPECT_EQ(Check("Free"), std::to_string(kCode));
-    model.Heal();
-    load.Without(IID_ZFXISamAnalysisEntity);
-    EXPECT_EQ(Check("Pressure-2"), "E_FAIL");
-    EXPECT_EQ(Propose("before"), "before");
 }
 
 TEST_F(PropagatingObjectsTest, OutsideEveryCaseTheCurrentOneOfTheDocumentCounts) {

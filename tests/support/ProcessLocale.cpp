@@ -1,0 +1,14 @@
+// Puts the program under the locale that QVR_TEST_LOCALE names; a missing one ends it.
+
+#include <cstdlib>
+#include <locale>
+
+namespace {
+
+[[maybe_unused]] const bool isSet = [] {
+    if (const char* name = std::getenv("QVR_TEST_LOCALE")) // NOLINT(concurrency-mt-unsafe): there is one thread yet
+        std::locale::global(std::locale(name));            // the C library's as well
+    return true;
+}();
+
+} // namespace
