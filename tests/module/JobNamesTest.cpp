@@ -33,6 +33,7 @@ TEST_F(JobNamesTest, JobsAreNumberedOverAllCasesWhateverTheirLetters) {
     const char* const duplicate = "DuplicateNameERR_03";
     EXPECT_EQ(Said(QVRNameUtil::IsUniqueNameForJob(self, "JOB-4")), "S_OK");
     EXPECT_EQ(Said(QVRNameUtil::IsUniqueNameForJob(self, "job-2")), duplicate);
+    EXPECT_EQ(Said(QVRNameUtil::IsUniqueNameForJob(self, "job-")), duplicate); // the first of all
     EXPECT_EQ(Said(QVRNameUtil::IsUniqueNameForJob({}, "job-4")), duplicate);
     EXPECT_EQ(Said(QVRNameUtil::IsUniqueNameForJob(self, "")), duplicate); // as it is: one job has no name
     MemoryDocument other = model.NewDocument();

@@ -70,6 +70,7 @@ TEST(UnicodeString, CompareTellsIdenticalFromEqualApartFromCase) {
         {"\u212A", "k", 1}, // Kelvin sign
         {"ſ", "S", 1},      // long s
         {"𐐀x", "𐐨X", 1}, {"𐐀", "𐐩", 0}, {"İ", "i", 0}, {"日", "日", 2},
+        {"Load-001", "LOAD-001", 1}, {"Load-001", "Load-002", 0}, {"Load[001", "Load{001", 0}, // eight are read at a time
     };
     // clang-format on
     for (const auto& [a, b, expected] : rows) {
@@ -122,6 +123,9 @@ TEST(UnicodeString, SearchesStripsAndCuts) {
     cut.Resize(0);
     EXPECT_TRUE(cut.IsNull());
     EXPECT_EQ(String("ab")[7].ConvertToUC2Bytes(), 0);
+    String pair("😀");
+    pair.Resize(1);
+    EXPECT_STREQ(pair, "\xEF\xBF\xBD"); // what stood behind the end is not read
 }
 
 TEST(UnicodeString, ReplacesAlsoWithItself) {
