@@ -11,7 +11,7 @@
 template <class Visit>
 void Walk(const ZFXListValZFXBaseUnknown_var& scope, Visit visit) {
     constexpr std::ptrdiff_t kSteps = 6;
-    constexpr int kLine = 64; // bytes that are fetched together
+    constexpr std::ptrdiff_t kLine = 64; // bytes that are fetched together
     const auto end = scope.end();
     for (auto at = scope.begin(); at != end; ++at) {
         const auto* later = reinterpret_cast<const char*>((at + std::min(kSteps, end - at - 1))->Get());
