@@ -112,7 +112,7 @@ TEST_F(GenericNamesTest, SolverCompliantNamesFallBackOnGenericOnes) {
     // clang-format off
     const std::tuple<const char*, const char*, const char*> rows[] = {
         {"Load.1", "SAMThickness", "Load-1"}, {"", "SAMThickness", ""}, {"厚", "SAMThickness", "Thickness"},
-        {"厚", "SAMThickness", "Thickness-1"}, {"板", "SAMThickness", "Thickness-2"}, {"厚", "QVRLayupLT", "厚"},
+        {"厚", "SAMThickness", "Thickness-1"}, {"板", "SAMThickness", "Thickness-2"}, {"厚", "QVRxQVR", "厚"},
         {"samx厚", "QVRLayupLT", "x厚"}, {"厚", "Lmsx", "x"}, {"厚", "QV", "QV"}, {"厚", "aQVR", "aQVR"},
         {"厚", "aQVR", "aQVR-1"},
         {"厚", "a.b", "a.b"}, // full stops of a generic name stay

@@ -55,7 +55,7 @@ TEST_F(InstanceNameTest, TagsAreReadBack) {
         {"INSTANCE-5", 77, S_OK},         {"INSTANCE99999999999-1", 77, S_OK},
         {"INSTANCE", 77, S_OK},           {"Instance3-Bracket", -1, E_FAIL},
         {"PART3-B", -1, E_FAIL},          {"", -1, E_FAIL},
-        {"INSTANCE7INSTANCE8", 7, S_OK},
+        {"INSTANCE7INSTANCE8", 7, S_OK},  {"INSTANCE-5-1", 77, S_OK},
     };
     for (const Row& row : rows) {
         int tag = 77;

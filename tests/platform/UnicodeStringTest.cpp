@@ -179,6 +179,8 @@ TEST(UnicodeString, ReadsAndWritesDecimalNumbers) {
         EXPECT_EQ(String(row.text).ConvertToNum(&number, "%d"), row.result) << row.text;
         EXPECT_EQ(number, row.number) << row.text;
     }
+    int untouched = 77;
+    EXPECT_EQ(String("12").ConvertToNum(&untouched, "%x") + untouched, 77); // no other format is known
     for (const int number : {0, 7, -5, kMost, kLeast}) {
         String text("before");
         text.BuildFromNum(number, "%d");
