@@ -1,16 +1,6 @@
 #pragma once
 
-#include <chrono>
 #include <ctime>
-
-/// Watches that a set-up ends: one whose cost grows with the square of its size would not.
-class SetUpLimit {
-public:
-    bool IsOver() const { return std::chrono::steady_clock::now() > m_end; }
-
-private:
-    std::chrono::steady_clock::time_point m_end = std::chrono::steady_clock::now() + std::chrono::seconds(3);
-};
 
 /// The processor's time so far, which other programs cannot spend.
 inline double ProcessorSeconds() {

@@ -18,7 +18,7 @@ constexpr bool kKeepsBlocks = !__has_feature(address_sanitizer);
 constexpr bool kKeepsBlocks = true;
 #endif
 constexpr std::size_t kGrain = 16;
-constexpr std::size_t kSizes = 8; // up to 128 bytes
+constexpr std::size_t kSizes = 8; // up to 112 bytes
 constexpr int kMostKept = 64;     // of one size
 
 /// Stands in a block: its size while it is in use, the next one while it is not.

@@ -21,10 +21,3 @@ const IID* ZFXFindInterface(const char* name) noexcept {
             return &row.iid;
     return nullptr;
 }
-
-const char* ZFXInterfaceName(const IID& iid) noexcept {
-    for (const Row& row : kInterfaces)
-        if (row.iid == iid)
-            return row.name;
-    return nullptr;
-}

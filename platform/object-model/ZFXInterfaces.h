@@ -29,8 +29,6 @@ constexpr ZFXInterfaceNumber ZFXNumberOf(const IID& iid) noexcept {
 
 /// The identifier of an interface by its name, or null. [borrowed]
 ZFX_PLATFORM_EXPORT const IID* ZFXFindInterface(const char* name) noexcept;
-/// The name of an interface, or null for an identifier that is none of this platform's. [borrowed]
-ZFX_PLATFORM_EXPORT const char* ZFXInterfaceName(const IID& iid) noexcept;
 
 /// Stands first in the declaration of an interface: its identifier, its meta class, and a destructor that is
 /// defined once, in the platform library.
