@@ -16,6 +16,7 @@ namespace {
 template <class Work>
 void OnFourThreads(Work work) {
     std::vector<std::thread> threads;
+    threads.reserve(4);
     for (int thread = 0; thread < 4; ++thread)
         threads.emplace_back([thread, &work] {
             for (int i = 0; i < 200; ++i)
@@ -50,10 +51,11 @@ TEST(Threads, EachHasItsOwnLastErrorsAndMayJudgeTexts) {
         last[static_cast<std::size_t>(thread)] = code;
         EXPECT_EQ(Said(code), thread % 2 == 0 ? "LeadingDigitERR_01" : "IllegalCharERR_01 -100");
         EXPECT_GT(ZFXError::ZFXGetLastError(code, nullptr)->GetNLSMessage().GetLengthInChar(), 20);
-        ZFXUnicodeString tag(QVRGenZFXUnicodeStringUtils::ReplacePeriodWithDash(name));
+        ZFXUnicodeString padded(QVRGenZFXUnicodeStringUtils::ReplacePeriodWithDash(name));
         ZFXUnicodeString suffix("(b c)");
-        QVRNameUtil::PadStrings(tag, suffix, name);
-        EXPECT_EQ(Text(tag), thread % 2 == 0 ? "1st1st_bc" : "a.ba-b_bc");
+        ZFXUnicodeString prefix(name);
+        QVRNameUtil::PadStrings(padded, suffix, prefix);
+        EXPECT_EQ(Text(padded), thread % 2 == 0 ? "1st1st_bc" : "a.ba-b_bc");
     });
     for (const HRESULT code : last)
         EXPECT_EQ(ZFXError::ZFXGetLastError(code, nullptr), nullptr) << "another thread's error";
