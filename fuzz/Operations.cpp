@@ -32,7 +32,12 @@ std::string Readable(std::u16string_view text) {
 
 } // namespace
 
-void CountOperation() noexcept { ++operations; }
+void CountOperations(int count) noexcept { operations += static_cast<unsigned long long>(count); }
+
+void ForgetErrors() {
+    for (int i = 0; i < ZFXError::kRegistered; ++i)
+        ZFXError::GetReturn(ZFXErrorTypeInput, new ZFXInputError("", ""), nullptr, "", 0);
+}
 
 void ExpectThat(bool holds, const char* what) {
     if (!holds)

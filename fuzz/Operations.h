@@ -8,8 +8,12 @@
 #include <string>
 #include <string_view>
 
-/// One operation of the library was run and its answer looked at. Their number is told when the program ends.
-void CountOperation() noexcept;
+/// So many operations of the library were run and their answers looked at. Their sum is told when the program ends.
+void CountOperations(int count) noexcept;
+
+/// The thread's registered errors give way to others that are always the same, so that after each input as much memory
+/// is held as before it.
+void ForgetErrors();
 
 /// Ends the program, as a fault, unless the answer is the expected one. `what` names the rule.
 /// @{
