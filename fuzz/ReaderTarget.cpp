@@ -1,0 +1,43 @@
+// Any bytes are a document or one clear error; what was read can be judged, and nothing of it is left behind.
+
+#include "BadInput.h"
+#include "LoadedDocument.h"
+#include "Operations.h"
+#include "QVRGenI18NUtils.h"
+#include "QVRNameUtil.h"
+
+namespace {
+
+/// Bytes that describe no document are told in one line that says where and what.
+void ExpectClear(const std::string& message) {
+    ExpectThat(message.size() > 10, "an error says what is wrong");
+    ExpectThat(message.find('\n') == std::string::npos, "an error is one line");
+}
+
+void JudgeAll(LoadedDocument& loaded) {
+    for (std::size_t i = 0; i < loaded.entries.size(); ++i) {
+        const DocumentEntry& entry = loaded.entries[i];
+        ExpectThat(i == 0 || entry.parent < i, "a parent stands before what lies below it");
+        ZFXISpecObject_var feature(entry.feature);
+        ZFXUnicodeString name;
+        QVRNameUtil::CheckName(feature, name, 1);
+        QVRGenI18NUtils::Instance()->GetGenericEnglishFeatureName(feature, name);
+        CountOperations(2);
+    }
+    QVRGenI18NUtils::Instance()->ResetAllLists();
+    ExpectSame(loaded.model.References(), 0, "a reference was not released");
+}
+
+} // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t count) {
+    CountOperations(1);
+    try {
+        LoadedDocument loaded(std::string(reinterpret_cast<const char*>(bytes), count));
+        JudgeAll(loaded);
+    } catch (const BadInput& refused) {
+        ExpectClear(refused.what());
+    }
+    ForgetErrors();
+    return 0;
+}
