@@ -84,6 +84,8 @@ protected:
 
 private:
     unsigned char IsLCIDInEnglishIDs(int lcid) noexcept;
+    /// How many of the features met are of a late type.
+    int CountMet(const ZFXUnicodeString& lateType);
     /// Lists a feature with the name that it keeps; its late type is empty when it was not asked or did not answer.
     void Remember(const ZFXISpecObject_var& feature, const ZFXUnicodeString& name, const ZFXUnicodeString& lateType);
     /// Lists a material; its position.

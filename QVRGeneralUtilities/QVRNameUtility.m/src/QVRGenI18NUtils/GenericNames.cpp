@@ -33,15 +33,7 @@ HRESULT QVRGenI18NUtils::GetGenericEnglishFeatureName(const ZFXISpecObject_var& 
         name = m_featureNames[known];
         return S_OK;
     }
-    // Who was not asked yet, or did not answer, is asked now.
-    std::erase_if(m_index->withoutLateType, [this](int position) {
-        const ZFXUnicodeString learned = m_featureObjects[position]->GetLateType();
-        if (learned.IsNull() == 0)
-            m_index->lateTypes.Add(learned);
-        return learned.IsNull() == 0;
-    });
-    const int before =
-        lateType.IsNull() == 0 ? m_index->lateTypes.Of(lateType) : static_cast<int>(m_index->withoutLateType.size());
+    const int before = CountMet(lateType);
     name = QVRGenZFXUnicodeStringUtils::RemovePeriods(Numbering::Numbered(lateType + "-", before + 1));
     Remember(feature, name, lateType);
     return S_OK;
@@ -69,6 +61,24 @@ HRESULT QVRGenI18NUtils::GetFeatureName(const ZFXISpecObject_var& feature, ZFXUn
     name = QVRGenZFXUnicodeStringUtils::RemovePeriods(numbered);
     Remember(feature, name, {});
     return S_OK;
+}
+
+int QVRGenI18NUtils::CountMet(const ZFXUnicodeString& lateType) {
+    if (lateType.IsNull() != 0) {
+        // The feature did not answer: so did those that do not answer now.
+        int silent = 0;
+        for (const ZFXISpecObject_var& met : m_featureObjects)
+            silent += met->GetLateType().IsNull() != 0 ? 1 : 0;
+        return silent;
+    }
+    // Who was not asked yet, or did not answer, is asked now.
+    std::erase_if(m_index->withoutLateType, [this](int position) {
+        const ZFXUnicodeString learned = m_featureObjects[position]->GetLateType();
+        if (learned.IsNull() == 0)
+            m_index->lateTypes.Add(learned);
+        return learned.IsNull() == 0;
+    });
+    return m_index->lateTypes.Of(lateType);
 }
 
 void QVRGenI18NUtils::Remember(const ZFXISpecObject_var& feature, const ZFXUnicodeString& name,
