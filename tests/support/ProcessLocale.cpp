@@ -13,6 +13,8 @@ namespace {
 
 } // namespace
 
-/// The C library keeps the list of folders that LOCPATH names.
+// The sanitizer asks for this name. The C library keeps the list of folders that LOCPATH names.
+// NOLINTNEXTLINE(readability-identifier-naming)
 extern "C" const char* __lsan_default_suppressions();
+// NOLINTNEXTLINE(readability-identifier-naming)
 extern "C" const char* __lsan_default_suppressions() { return "leak:argz_add_sep\n"; }
