@@ -176,7 +176,7 @@ public:
     void AnswerOnce(MemoryRequest request, long n = 1, MemoryAnswer answer = {});
     /// Every such request, of any object, answers so.
     void AnswerAlways(MemoryRequest request, MemoryAnswer answer = {});
-    /// The name of the request that was last told what to answer; empty when none was.
+    /// The name of the request that was last told what to answer; empty when none was since Heal.
     const char* LastTold() const noexcept;
     /// All faults are forgotten, those of single objects too.
     void Heal();

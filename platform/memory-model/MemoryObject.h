@@ -59,7 +59,10 @@ public:
     void Add(MemoryRequest request, const MemoryObject* object, long n, MemoryAnswer answer) {
         m_rules.push_back({request, object, n, answer});
     }
-    void Clear() { m_rules.clear(); }
+    void Clear() {
+        m_rules.clear();
+        m_lastTold = MemoryRequest::Any;
+    }
 
     static constexpr MemoryAnswer kSuccess{S_OK, true};
     static constexpr long kAlways = -1;
