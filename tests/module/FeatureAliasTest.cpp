@@ -4,6 +4,18 @@
 
 namespace {
 
+/// Writes down which adaptors come and go.
+class Watched final : public ZFXBaseUnknown {
+public:
+    void ChangeComponentState(ZFXComponentState state, ZFXBaseUnknown* adaptor) override {
+        states += state == ZFXComponentState::AdaptorAttached ? '+' : '-';
+        last = adaptor;
+    }
+
+    std::string states;
+    const ZFXBaseUnknown* last = nullptr;
+};
+
 class FeatureAliasTest : public DocumentTest {
 protected:
     MemoryFeature analysisCase = document.Case("Static");
@@ -91,6 +103,22 @@ TEST_F(FeatureAliasTest, AnAdaptorIsAFaceOfItsFeatureAndKeepsItAlive) {
     EXPECT_TRUE(extension->IsAKindOf("QVREFeatureAlias") && !extension->IsAKindOf("QVRBaseFeatureAlias"));
     EXPECT_EQ(extension->GetMetaObject(), QVREFeatureAlias::meta_object);
     EXPECT_EQ(CreateTIEZFXIAliasQVREFeatureAlias(nullptr, nullptr), nullptr);
+
+    auto* watched = new Watched;
+    ZFXBaseUnknown* adaptor = CreateTIEZFXIAliasQVREFeatureAlias(watched, nullptr);
+    EXPECT_EQ(watched->Release(), 1U); // the adaptor holds it
+    EXPECT_TRUE(watched->states == "+" && watched->last == adaptor);
+    void* face = nullptr;
+    EXPECT_EQ(adaptor->QueryInterface(IID_ZFXIAlias, &face), S_OK);
+    EXPECT_EQ(face, adaptor);
+    face = adaptor;
+    EXPECT_EQ(adaptor->QueryInterface(IID_ZFXISpecObject, &face), E_NOINTERFACE); // the object is asked
+    EXPECT_EQ(face, nullptr);
+    EXPECT_TRUE(adaptor->QueryInterface(IID_ZFXIAlias, nullptr) < 0 && adaptor->Release() == 1U);
+    watched->AddRef();
+    EXPECT_EQ(adaptor->Release(), 0U);
+    EXPECT_EQ(watched->states, "+-");
+    EXPECT_EQ(watched->Release(), 0U);
 }
 
 TEST_F(FeatureAliasTest, WithoutAttributesNothingIsStored) {
