@@ -453,9 +453,10 @@ private:
         ZFXUnicodeString first("first");
         ZFXUnicodeString second("second");
         if (m_input->Flag()) {
-            const HRESULT code = Util::GenerateUniqueName(*ZFXISpecObject_var(m_root).Get(), first);
-            ExpectThat(!Failed(code) || first == "first", "a failure leaves the name");
-            static_cast<void>(m_utils->GetGenericEnglishName(feature, second));
+            if (feature != nullptr && Failed(Util::GenerateUniqueName(*feature.Get(), first)))
+                ExpectThat(first == "first", "a failure leaves the name");
+            if (Failed(m_utils->GetGenericEnglishName(feature, second)))
+                ExpectThat(second == "second", "a refusal leaves the name");
             return;
         }
         const ZFXIMSHMeshPart_var part(thing.feature);

@@ -211,6 +211,8 @@ TEST_F(FailingRequestsTest, GiveAStatedAnswerAndLeaveNothingBehind) {
          {{"Step-1|", "Cast"}}},
         {"SetAlias, stored", [&] { return Rename(section, "P-1", " P-3_"); }, "P-3|",
          {{"P-1|", "Cast GetParentSets-+ ListMembers-+"}, {"P-1|NAME ERROR", "Cast"}}},
+        {"SetAlias, emptied", [&] { return Rename(section, "P-1", " _"); }, "P-1|NAME ERROR",
+         {{"P-1|", "Cast GetParentSets-+ ListMembers-+"}}},
         {"SetAlias, a job", [&] { return Rename(job, "Job-1", "job-2"); }, "Job-1|NAME ERROR",
          {{"Job-1|", "Cast GetFather GetParentSets-+ ListMembers-+"},
           {"job-2|", "Cast FindObjectsOfType GetAttrKey GetLateType GetParentSets0 GetString ListAnalysisCases ListMembers0"}}},

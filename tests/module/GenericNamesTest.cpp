@@ -77,6 +77,9 @@ TEST_F(GenericNamesTest, AFeatureNamedOnceKeepsItsName) {
     EXPECT_EQ(model.References(), 0);
     EXPECT_EQ(Ask(kGeneric, d), "Tx-1");
     EXPECT_EQ(Ask(kDisplay, c), "load1");
+    model.AnswerAlways(MemoryRequest::GetLateType, kFails); // now all are of the type that is no name
+    EXPECT_EQ(Ask(kGeneric, a), "-3");
+    EXPECT_EQ(Ask(kGeneric, b), "-4");
 }
 
 TEST_F(GenericNamesTest, MaterialsAreWorkedOutAfresh) {

@@ -81,6 +81,7 @@ TEST_F(NumberedNamesTest, FeaturesTheSolverCannotNameGoByTheirLateType) {
         {"SAMBoltTightening", "ボルト", "SAMBoltTightening"}, {"SAMBoltTightening", "Träger", "Träger"},
         {"SAMBoltTightening", "螺栓", "SAMBoltTightening-1"}, {"SAMThickness", "厚", "SAMThickness"},
         {"SAMBoltTightening", "日", "SAMBoltTightening-2"}, {"QVRPressure", "圧力", "圧力"}, {"xSAM", "日", "日"},
+        {"SAMxSAM", "日", "SAMxSAM"},
     };
     // clang-format on
     for (const auto& [lateType, alias, expectedName] : rows) {

@@ -96,7 +96,8 @@ TEST(MetaClass, IsOneForAName) {
     const ZFXMetaClass* declared =
         fct_RetrieveMetaObject("A type that nobody declared yet", ENUMTypeOfClass::DataExtension,
                                ZFXBaseUnknown::MetaObject(), nullptr, "Tests", 0);
-    EXPECT_EQ(declared, unknown); // asked for by name first, declared later
+    EXPECT_EQ(declared, unknown); // asked for by name first, declared later, and once
+    fct_RetrieveMetaObject(unknown->IsA(), ENUMTypeOfClass::Interface, nullptr, nullptr, "Tests", 0);
     EXPECT_TRUE(declared->IsAKindOf("ZFXBaseUnknown") && declared->GetTypeOfClass() == ENUMTypeOfClass::DataExtension);
     ZFXMetaClass* extension = fct_RetrieveMetaObject("An extension", ENUMTypeOfClass::DataExtension,
                                                      ZFXBaseUnknown::MetaObject(), "A late type", "Tests", 0);
