@@ -47,7 +47,7 @@ constexpr Type kLoadTypes[] = {
 constexpr Type kPropertyTypes[] = {
     {"QVRShellSectionEnhLT", true}, {"QVRTabularAmplitudeLT", true}, {"SAMThickness", false}, {"QVRLayupLT", true}};
 constexpr const char* kSetTypes[] = {"QVRLoadContainerLT", "QVRBCContainerLT"};
-constexpr const char* kBases[] = {"Step-", "P-", "p-", "Job-", "JOB-", "Mesh-", "", "OrphanMesh-", "a:b", "_ ", "1"};
+constexpr const char* kBases[] = {"p-", "Job-", "JOB-", "", "OrphanMesh-", "a:b", "_ ", "1"};
 
 constexpr int kRequests = static_cast<int>(MemoryRequest::GetCurrentAnalysisCaseSP) + 1;
 constexpr MemoryAnswer kAnswers[] = {{E_UNEXPECTED, false}, {E_UNEXPECTED, true}, {S_OK, false}, {3, true}};
@@ -86,11 +86,13 @@ private:
         const int kind = m_input->Below(16);
         if (kind == 0)
             return Wide(m_input->Text());
-        ZFXUnicodeString name(OneOf(kBases));
+        ZFXUnicodeString name = Base();
         if (kind > 1)
             name.Append(Wide(Plain::Decimal(kind > 10 ? m_input->Number() : kind - 1)));
         return name;
     }
+    /// Mostly the same one, so that names meet.
+    ZFXUnicodeString Base() { return m_input->Flag() ? "P-" : OneOf(kBases); }
 
     Thing& Keep(MemoryFeature parent, const Type& type, Role role, int place) {
         m_things.push_back({parent.Feature(type.name, Name()), role, place, parent, type.guarded});
@@ -123,7 +125,7 @@ private:
         for (int left = m_input->Below(4); left > 0; --left)
             Keep(father, {"SAMBoltTightening", false}, Role::Bolt, 0);
         BuildConnection();
-        for (int left = m_input->Below(4); left > 0; --left)
+        for (int left = m_input->Flag() ? m_input->Below(4) : 0; left > 0; --left)
             MakeStrange();
     }
 
@@ -253,7 +255,7 @@ private:
         const auto place = given == 0 ? 1 : 1 + (static_cast<std::size_t>(given) - 1) % m_cases.size();
         ZFXISpecObject_var feature(thing.feature);
         ZFXISamAnalysisCase_var analysisCase(given == 0 ? MemoryFeature() : m_cases[place - 1]);
-        const ZFXUnicodeString base = Name();
+        const ZFXUnicodeString base = m_input->Below(4) == 0 ? Name() : Base();
         ZFXUnicodeString name = base;
         Util::GetUniqueName(name, feature, analysisCase);
         ExpectNumbered(name, base);
@@ -281,7 +283,7 @@ private:
         const MemoryFeature chosen[] = {m_document.PropertySet(), m_document.MeshManager(), Any().set};
         const MemoryFeature from = OneOf(chosen);
         const ZFXISamAnalysisSet_var set(from);
-        const ZFXUnicodeString base = Name();
+        const ZFXUnicodeString base = m_input->Below(4) == 0 ? Name() : Base();
         ZFXUnicodeString name = base;
         const HRESULT code = Util::GetNextUniqueName(name, set);
         ExpectNumbered(name, base);
@@ -301,7 +303,7 @@ private:
             listed.push_back(m_input->Below(8) == 0 ? MemoryFeature() : Any().feature);
             scope.Append(ZFXBaseUnknown_var(listed.back()));
         }
-        ZFXUnicodeString base = Name();
+        ZFXUnicodeString base = Base();
         const ZFXUnicodeString before = base;
         ZFXListValZFXUnicodeString names;
         const int count = m_input->Below(5);
@@ -327,7 +329,7 @@ private:
 
     void ProposeAMeshPart() {
         ZFXISpecObject_var part(Any().feature);
-        const ZFXUnicodeString base = Name();
+        const ZFXUnicodeString base = m_input->Below(4) == 0 ? Name() : Base();
         ZFXUnicodeString name = base;
         const HRESULT code = Util::GetUniqueNameForMeshPart(part, name);
         ExpectNumbered(name, base);
