@@ -242,9 +242,14 @@ private:
         }
     }
 
-    static void ExpectFree(const ZFXUnicodeString& name, const std::vector<MemoryFeature>& scope, const char* what) {
+    /// A proposal goes one further than its scope, so that it is free there.
+    static void ExpectNext(const ZFXUnicodeString& name, const ZFXUnicodeString& base,
+                           const std::vector<MemoryFeature>& scope, bool ignoreCase = false) {
+        std::vector<Text> names;
         for (const MemoryFeature& other : scope)
-            ExpectThat(other.StoredAlias().Units() != name.Units(), what);
+            names.emplace_back(other.StoredAlias().Units());
+        ExpectSame(name, Plain::NextName(base.Units(), names, ignoreCase),
+                   "a proposal goes one further than its scope");
     }
 
     // ---- Requests ----
@@ -269,7 +274,7 @@ private:
         } else if (thing.role != Role::Property) {
             scope = LoadsBeside(thing, static_cast<int>(place));
         }
-        ExpectFree(name, scope, "a proposal is free");
+        ExpectNext(name, base, scope);
     }
 
     static void ExpectNumbered(const ZFXUnicodeString& name, const ZFXUnicodeString& base) {
@@ -293,7 +298,7 @@ private:
         const auto members = Those([&](const Thing& thing) {
             return thing.set == from || (thing.role == Role::MeshPart && from == m_document.MeshManager());
         });
-        ExpectFree(name, members, "a proposal is free in its set");
+        ExpectNext(name, base, members);
     }
 
     void ProposeSeveral() {
@@ -313,8 +318,8 @@ private:
         std::set<Text> distinct;
         for (const ZFXUnicodeString& name : names) {
             ExpectThat(distinct.emplace(name.Units()).second, "proposals differ");
-            if (IsPlain())
-                ExpectFree(name, listed, "each proposal is free");
+            if (IsPlain() && distinct.size() == 1)
+                ExpectNext(name, base, listed);
         }
     }
 
@@ -322,9 +327,8 @@ private:
         ZFXUnicodeString name = Name();
         ExpectSame(Util::GetUniqueNameForJob(name), S_OK, "GetUniqueNameForJob");
         ExpectNumbered(name, "Job-");
-        for (const Thing& thing : m_things)
-            ExpectThat(!IsPlain() || thing.role != Role::Job || name.Compare(thing.feature.StoredAlias()) == 0,
-                       "a job's proposal is free in any letter case");
+        if (IsPlain())
+            ExpectNext(name, "Job-", OfRole(Role::Job), true);
     }
 
     void ProposeAMeshPart() {
@@ -335,7 +339,7 @@ private:
         ExpectNumbered(name, base);
         ExpectThat(!Failed(code) || name == base, "a refusal leaves the base");
         if (IsPlain() && !Failed(code))
-            ExpectFree(name, OfRole(Role::MeshPart), "a mesh part's proposal is free");
+            ExpectNext(name, base, OfRole(Role::MeshPart));
     }
 
     static HRESULT CheckOf(MemoryFeature feature, const ZFXUnicodeString& name) {
