@@ -11,28 +11,7 @@ set(page ${root}/docs/messages.md)
 # What a call says by an argument: of a name the characters that only file names forbid are not asked for.
 set(never "IsNameValid IllegalCharERR_02")
 
-# Semicolons split lists and brackets hold them together: both stand aside while a file is taken apart.
-foreach(number RANGE 1 4)
-  string(ASCII ${number} stand${number})
-endforeach()
-function(read_lines file variable)
-  file(READ ${file} text)
-  string(REPLACE ";" "${stand1}" text "${text}")
-  string(REPLACE "[" "${stand2}" text "${text}")
-  string(REPLACE "]" "${stand3}" text "${text}")
-  string(REGEX REPLACE "\\\\\n" "\n" text "${text}") # a backslash at the end would join two elements
-  string(REPLACE "\\" "${stand4}" text "${text}")
-  string(REPLACE "\n" ";" text "${text}")
-  set(${variable} "${text}" PARENT_SCOPE)
-endfunction()
-
-function(as_written text variable)
-  string(REPLACE "${stand1}" ";" text "${text}")
-  string(REPLACE "${stand2}" "[" text "${text}")
-  string(REPLACE "${stand3}" "]" text "${text}")
-  string(REPLACE "${stand4}" "\\" text "${text}")
-  set(${variable} "${text}" PARENT_SCOPE)
-endfunction()
+include(${root}/cmake/ReadLines.cmake)
 
 # ---- What can be raised ----------------------------------------------------------------------------------------
 
