@@ -35,7 +35,7 @@ function(check_file page name)
       return()
     endif()
   endforeach()
-  if(NOT name MATCHES "/" AND name IN_LIST names)
+  if(NOT name MATCHES "/" AND (name IN_LIST names OR ${name}.in IN_LIST names))
     return()
   endif()
   message(SEND_ERROR "${page}: there is no file \"${name}\"")
@@ -165,7 +165,8 @@ foreach(page IN LISTS pages)
     foreach(span IN LISTS spans)
       string(REPLACE "`" "" span "${span}")
       check_command(${page} "${span}")
-      if(span MATCHES "^[A-Za-z0-9_.-]+(/[A-Za-z0-9_.-]+)*/?$" AND NOT span MATCHES "^build/" AND
+      if(span MATCHES "^[A-Za-z0-9_.-]+(/[A-Za-z0-9_.-]+)*/?$" AND
+         NOT span MATCHES "^(build|bin|lib|include|share)/" AND # made by the build, or in an installed copy
          (span MATCHES "/" OR span MATCHES "[A-Za-z]\\.(h|cpp|def|md|cmake|exports|catalog|msg|sh|py|in)$"))
         check_file(${page} ${span})
       elseif(page IN_LIST about_code AND span MATCHES "^[A-Z][a-z]*[A-Z_][A-Za-z0-9_]*(::[A-Za-z0-9_]+)*(\\(.*\\))?$")
