@@ -16,6 +16,7 @@ class QVR_NAME_UTILITY_EXPORT QVRGenI18NUtils {
 public:
     /// The one object, made by the first call and never destroyed. [borrowed]
     static QVRGenI18NUtils* Instance() noexcept;
+    /// What `other` knows by now; from then on each goes its own way.
     QVRGenI18NUtils(const QVRGenI18NUtils& other);
     QVRGenI18NUtils& operator=(const QVRGenI18NUtils&) = delete;
     virtual ~QVRGenI18NUtils();
@@ -31,9 +32,11 @@ public:
     unsigned char IsEnglishMode() noexcept;
     /// What IsEnglishMode found out; 0 before its first call.
     unsigned char IsInitialUserLocaleEnglish() noexcept;
+    /// The same of the input locale.
     unsigned char IsInitialInputLocaleEnglish() noexcept;
     /// The locales as they are now; nothing is stored.
     unsigned char IsEnglishUserLocale() noexcept;
+    /// The same of the input locale.
     unsigned char IsEnglishInputLocale() noexcept;
 
     // ---- Names handed out ----

@@ -10,18 +10,28 @@
 /// leaves its argument as it is; none of them fails. All may run on several threads at a time.
 class QVR_NAME_UTILITY_EXPORT QVRGenZFXUnicodeStringUtils {
 public:
+    /// Copies nothing: there is nothing to copy.
     QVRGenZFXUnicodeStringUtils& operator=(const QVRGenZFXUnicodeStringUtils&);
 
+    /// Without the space U+0020, wherever it stands.
     static ZFXUnicodeString RemoveSpaces(const ZFXUnicodeString& in) noexcept;
+    /// Without the double quote.
     static ZFXUnicodeString RemoveDoubleQuotes(const ZFXUnicodeString& in) noexcept;
+    /// Without the backslash.
     static ZFXUnicodeString RemoveBackSlashes(const ZFXUnicodeString& in) noexcept;
+    /// Without the full stop.
     static ZFXUnicodeString RemovePeriods(const ZFXUnicodeString& in) noexcept;
     /// The run of spaces at the start goes, however long; spaces further on stay. Its kin likewise.
     static ZFXUnicodeString RemoveLeadingSpaces(const ZFXUnicodeString& in) noexcept;
+    /// The run of underscores at the start.
     static ZFXUnicodeString RemoveLeadingUnderscores(const ZFXUnicodeString& in) noexcept;
+    /// The run of spaces at the end.
     static ZFXUnicodeString RemoveTrailingSpaces(const ZFXUnicodeString& in) noexcept;
+    /// The run of underscores at the end.
     static ZFXUnicodeString RemoveTrailingUnderscores(const ZFXUnicodeString& in) noexcept;
+    /// Each backslash becomes a solidus.
     static ZFXUnicodeString ReplaceBackslashWithForwardslash(const ZFXUnicodeString& in) noexcept;
+    /// Each full stop becomes a hyphen.
     static ZFXUnicodeString ReplacePeriodWithDash(const ZFXUnicodeString& in) noexcept;
     /// The first 72 units of a longer text; the cut may fall inside a word or a surrogate pair. (The name is
     /// spelt as its callers know it.)

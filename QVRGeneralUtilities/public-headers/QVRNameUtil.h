@@ -13,12 +13,10 @@
 ///
 /// All operations are static. What holds for each of them unless it says otherwise:
 /// - A result code is negative for failure; callers test the sign only.
-/// - "Refuses with ID" means: a ZFXInputError of that message id in the catalog "QVRNameUtility", of error
-/// type 2,
-///   is registered for the calling thread, and the code under which `ZFXError::ZFXGetLastError` finds it is
-///   returned. A plain E_FAIL registers nothing.
-/// - An argument that receives a result is untouched on failure. Handles and lists that are passed in stay
-/// the
+/// - "Refuses with ID" means: a ZFXInputError of that message id in the catalog "QVRNameUtility", of error type 2, is
+///   registered for the calling thread, and the code under which `ZFXError::ZFXGetLastError` finds it is returned. A
+///   plain E_FAIL registers nothing.
+/// - An argument that receives a result is untouched on failure. Handles and lists that are passed in stay the
 ///   caller's; lists that receive results are appended to.
 /// - Lengths are in UTF-16 code units, positions count from 0, list indexes from 1.
 /// - Names clash when they are identical or differ in letter case only.
@@ -28,7 +26,9 @@
 class QVR_NAME_UTILITY_EXPORT QVRNameUtil {
 public:
     QVRNameUtil();
+    /// No operation reads what an object holds; a copy holds the same.
     QVRNameUtil(const QVRNameUtil& other);
+    /// As the copy.
     QVRNameUtil& operator=(const QVRNameUtil& other);
     virtual ~QVRNameUtil();
 
@@ -36,9 +36,8 @@ public:
 
     /// The test of a feature name; the first rule that fails decides. In this order: 1 to 72 units long
     /// (refuses with "NameLengthERR_02" when empty, "NameLengthERR_01" when longer); no leading digit '0' to
-    /// '9', asked only when `checkStartAndEnd` is nonzero ("LeadingDigitERR_01"); no double quote, full stop
-    /// or backslash
-    /// ("IllegalCharERR_01", with the return code -100 on the error). The name is not changed.
+    /// '9', asked only when `checkStartAndEnd` is nonzero ("LeadingDigitERR_01"); no double quote, full stop or
+    /// backslash ("IllegalCharERR_01", with the return code -100 on the error). The name is not changed.
     static HRESULT IsNameValid(ZFXUnicodeString& name, unsigned char checkStartAndEnd) noexcept;
 
     /// The test of a file name, of any length: no double quote or full stop ("IllegalCharERR_01"), then no
@@ -170,8 +169,7 @@ public:
     static HRESULT IsNameUnique(ZFXISpecObject_var& feature, const ZFXUnicodeString& name) noexcept;
     /// The whole check of a feature's name; an empty `name` stands for its current one. The first failure
     /// decides: "ZFXIAliasERR_01" for a feature without a name; then IsNameUnique; the length; the leading
-    /// digit, asked only when `checkStartAndEnd` is nonzero; the illegal characters; last the units above
-    /// U+00FF
+    /// digit, asked only when `checkStartAndEnd` is nonzero; the illegal characters; last the units above U+00FF
     /// ("DoubleByteCharErr_01").
     static HRESULT CheckName(ZFXISpecObject_var& feature, const ZFXUnicodeString& name,
                              unsigned char checkStartAndEnd) noexcept;

@@ -12,6 +12,7 @@
 template <class Element>
 class ZFXListVal {
 public:
+    /// How many elements there are.
     int Size() const noexcept { return static_cast<int>(m_elements.size()); }
 
     /// The element at index i. Outside 1 to Size() an empty element is given, so that no index is undefined.
@@ -19,6 +20,7 @@ public:
         static const Element kNone{};
         return Holds(i) ? m_elements[Slot(i)] : kNone;
     }
+    /// The same to be changed; what is written outside goes nowhere.
     Element& operator[](int i) {
         if (Holds(i))
             return m_elements[Slot(i)];
@@ -26,10 +28,14 @@ public:
         return m_outside;
     }
 
+    /// The elements in order, for a range-for.
     auto begin() const noexcept { return m_elements.begin(); }
+    /// Behind the last one.
     auto end() const noexcept { return m_elements.end(); }
 
+    /// Puts a copy at the end.
     void Append(const Element& x) { m_elements.push_back(x); }
+    /// Puts it at the end.
     void Append(Element&& x) { m_elements.push_back(std::move(x)); }
 
     /// The index of the first element equal to x at or after index `from`; 0 when there is none.
@@ -47,6 +53,7 @@ public:
         if (Holds(i))
             m_elements.erase(m_elements.begin() + (i - 1));
     }
+    /// Empties the list.
     void RemoveAll(ZFXCollec::MemoryHandling /*storage goes as well*/ = ZFXCollec::ReleaseAllocation) {
         std::vector<Element>().swap(m_elements);
         m_outside = Element{};

@@ -12,7 +12,9 @@ enum ZFXErrorType { ZFXErrorTypeSuccess = 1, ZFXErrorTypeInput = 2 };
 
 /// The name of an error class and of the one it derives from.
 struct ZFXErrorTable {
+    /// The class. [borrowed]
     const char* errorClass;
+    /// The one it derives from, null for none. [borrowed]
     const ZFXErrorTable* base;
 };
 
@@ -24,6 +26,7 @@ public:
     ZFXError(const char* msgId, const char* catalog);
     ~ZFXError() override;
 
+    /// The meta class. [borrowed]
     static ZFXMetaClass* MetaObject();
     ZFXMetaClass* GetMetaObject() const override;
 
@@ -35,25 +38,39 @@ public:
     /// The error that this thread registered under the code, or null. [borrowed] It may be gone after the
     /// next GetReturn.
     static ZFXError* ZFXGetLastError(HRESULT code, ZFXBaseUnknown* object);
+    /// How many errors of a thread are kept.
     static constexpr int kRegistered = 32;
 
+    /// The code that GetReturn gave; 0 before that.
     virtual int GetId() const;
+    /// The message id. [borrowed]
     virtual const char* GetMsgId() const;
+    /// The catalog's name. [borrowed]
     virtual const char* GetMsgCatalog() const;
+    /// Where it was raised; empty before that. [borrowed]
     virtual const char* GetSourceFileName() const;
+    /// Copied; null counts as empty.
     virtual void SetSourceFileName(const char* file);
+    /// 0 before it was raised.
     virtual int GetSourceLineNumber() const;
+    /// Counted from 1.
     virtual void SetSourceLineNumber(int line);
     /// The message in UTF-8; valid until it is asked for again.
     virtual const char* GetMessageText();
     /// The whole message for the user: request, diagnostic and advice, each as the catalog gives it with the
     /// parameters set in; the message id where the catalog has nothing.
     virtual ZFXUnicodeString GetNLSMessage();
+    /// What was asked for; empty where the catalog has nothing.
     virtual ZFXUnicodeString GetNLSRequest();
+    /// What is wrong; empty likewise.
     virtual ZFXUnicodeString GetNLSDiagnostic();
+    /// What to do; empty likewise.
     virtual ZFXUnicodeString GetNLSAdvice();
+    /// Source file and line, with a colon between them.
     virtual ZFXUnicodeString GetNLSSource();
+    /// Empty: there is no help file.
     virtual ZFXUnicodeString GetNLSHelpFile();
+    /// 0: there is no help file.
     virtual int GetNLSHelpContext();
     /// Writes the message on standard error.
     virtual void Display();
@@ -64,15 +81,23 @@ public:
     /// `count` addresses of strings follow or start with `first`; they are copied. They replace "/P1" to
     /// "/P9" in all three texts, or in the one that the name tells.
     virtual void SetNLSParameters(int count, ZFXUnicodeString* first, ...);
+    /// Those of the request alone.
     virtual void SetNLSRequestParams(int count, ZFXUnicodeString* first, ...);
+    /// Those of the diagnostic alone.
     virtual void SetNLSDiagnosticParams(int count, ZFXUnicodeString* first, ...);
+    /// Those of the advice alone.
     virtual void SetNLSAdviceParams(int count, ZFXUnicodeString* first, ...);
+    /// For a host's own records.
     virtual void SetSourceContext(const ZFXUnicodeString& context);
+    /// What SetSourceContext was given.
     virtual ZFXUnicodeString GetSourceContext() const;
     /// What SetReturnCode was given; 0 before that.
     virtual HRESULT GetReturnCode() const;
+    /// A code for the caller beside the registered one, such as -100 of a refused name.
     virtual void SetReturnCode(HRESULT code);
+    /// A ZFXErrorType; 0 before it is set.
     virtual int GetInformationOnErrorType() const;
+    /// Tells what kind of report it is.
     virtual void SetInformationOnErrorType(ZFXErrorType type);
 
     /// The diagnostic's parameters, in order. [borrowed]
@@ -81,6 +106,7 @@ public:
     HRESULT RegisteredCode() const noexcept { return m_registeredCode; }
 
 protected:
+    /// All but the ids and the registered code.
     void CopyContentOf(const ZFXError& other);
 
 private:
@@ -102,12 +128,15 @@ private:
 /// An error in what a user gave.
 class ZFX_PLATFORM_EXPORT ZFXInputError : public ZFXError {
 public:
+    /// As ZFXError.
     ZFXInputError(const char* msgId, const char* catalog);
     ~ZFXInputError() override;
 
+    /// The meta class. [borrowed]
     static ZFXMetaClass* MetaObject();
     ZFXMetaClass* GetMetaObject() const override;
     /// A new error of the same content, not registered. [new reference]
     virtual ZFXError* CloneSelf() const;
+    /// Its class, with the one it derives from. [borrowed]
     virtual const ZFXErrorTable* GetErrorTable() const;
 };

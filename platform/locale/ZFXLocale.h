@@ -7,6 +7,7 @@
 /// The two locale values of the operating system, in its own identifiers: a locale identifier has 32 bits; an
 /// input locale has the identifier of its language in the low 16 bits and that of the keyboard layout above.
 using LCID = std::uint32_t;
+/// An input locale.
 using HKL = std::uintptr_t;
 
 /// The user's default locale.

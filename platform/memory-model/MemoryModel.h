@@ -5,6 +5,7 @@
 
 #include <memory>
 
+/// Marks what the model offers to programs.
 #define ZFX_MEMORY_EXPORT __attribute__((visibility("default")))
 
 class MemoryDocument;
@@ -42,7 +43,9 @@ enum class MemoryRequest {
 /// A request without a code reads only `filled`: unfilled gives null, zero, an empty string or an empty
 /// handle, and makes SetAlias and SetString store nothing.
 struct MemoryAnswer {
+    /// The code; nothing to a request without one.
     HRESULT code = E_UNEXPECTED;
+    /// Whether its outputs are filled.
     bool filled = false;
 };
 
@@ -51,10 +54,13 @@ struct MemoryAnswer {
 class ZFX_MEMORY_EXPORT MemoryFeature {
 public:
     MemoryFeature() = default;
+    /// For the model's own use.
     explicit MemoryFeature(MemoryObject* object) : m_object(object) {}
 
     /// @name Objects below this one, in order; each returns what it made.
     /// @{
+
+    /// An object of any kind.
     MemoryFeature Add(MemoryKind kind, const ZFXUnicodeString& lateType, const ZFXUnicodeString& alias);
     /// On a case (in its history) or on a history.
     MemoryFeature Step(const ZFXUnicodeString& lateType, const ZFXUnicodeString& alias);
@@ -70,6 +76,8 @@ public:
 
     /// @name What the object says of itself; each returns the object.
     /// @{
+
+    /// The stored name, past all checks.
     MemoryFeature& Alias(const ZFXUnicodeString& alias);
     /// As if the alias was never written: empty.
     MemoryFeature& Unnamed();
@@ -77,17 +85,23 @@ public:
     MemoryFeature& Attribute(const char* name, const ZFXUnicodeString& value);
     /// There is no key for the attribute any more.
     MemoryFeature& WithoutAttribute(const char* name);
+    /// It offers the interface from now on.
     MemoryFeature& With(const IID& interfaceId);
+    /// It offers the interface no more, nor do extensions of it.
     MemoryFeature& Without(const IID& interfaceId);
     /// Empty for none. The place in the tree stays: the father is what GetFather answers, no more.
     MemoryFeature& Father(MemoryFeature father);
+    /// It only came into its step from an earlier one.
     MemoryFeature& Propagated(bool propagated = true);
+    /// A property, or none; a feature of the property set that is no amplitude is one by itself.
     MemoryFeature& Property(bool property = true);
+    /// An amplitude, or none; the two amplitude types are by themselves.
     MemoryFeature& Amplitude(bool amplitude = true);
     /// On a case: one of the solver's own (the default) or not.
     MemoryFeature& SolverCase(bool solver);
     /// The integer tag of explicit data.
     MemoryFeature& Tag(int tag);
+    /// What ZFXIMaterialFeature answers.
     MemoryFeature& MaterialName(const ZFXUnicodeString& name);
     /// Makes `member` a member of this set as well; the sets that hold it keep their order.
     MemoryFeature& Hold(MemoryFeature member);
@@ -99,6 +113,7 @@ public:
     MemoryFeature& LeadTo(MemoryFeature group);
     /// On a connection design: one more connector of that side.
     MemoryFeature& Master(MemoryFeature connector);
+    /// The same of the other side.
     MemoryFeature& Slave(MemoryFeature connector);
     /// Every such request on this object answers so from now on.
     MemoryFeature& Answer(MemoryRequest request, MemoryAnswer answer = {});
@@ -106,13 +121,18 @@ public:
 
     /// @name Looking back, past all faults and without a request.
     /// @{
+
+    /// The stored name.
     ZFXUnicodeString StoredAlias() const;
+    /// The late type.
     ZFXUnicodeString LateType() const;
     /// References that others hold on the object.
     long References() const;
     /// [borrowed]
     ZFXBaseUnknown* Object() const;
+    /// Whether there is an object.
     explicit operator bool() const noexcept { return m_object != nullptr; }
+    /// Whether both are one object; two empty ones are equal.
     friend bool operator==(MemoryFeature a, MemoryFeature b) noexcept { return a.m_object == b.m_object; }
     /// @}
 
@@ -136,6 +156,7 @@ public:
     MemoryFeature Case(const ZFXUnicodeString& alias);
     /// The first of the document, made when there is none.
     MemoryFeature PropertySet();
+    /// There from the start.
     MemoryFeature MeshManager();
     /// A new part of the mesh manager.
     MemoryFeature MeshPart(const ZFXUnicodeString& alias, int tag);
@@ -165,12 +186,15 @@ public:
 
     /// The first one is current.
     MemoryDocument NewDocument();
+    /// The document is current from now on.
     void MakeCurrent(MemoryDocument document);
     /// No document is current from now on.
     void CloseCurrent();
 
     /// @name Requests and faults. A request is one operation of an interface or of the services, or one cast.
     /// @{
+
+    /// How many were made so far.
     long Requests() const noexcept;
     /// The n-th request from now on (n from 1) answers so, once; earlier ones of its kind are passed.
     void AnswerOnce(MemoryRequest request, long n = 1, MemoryAnswer answer = {});

@@ -28,7 +28,9 @@ public:
     /// S_OK and the face with one reference for the caller, or a negative code and null. An object without an
     /// implementation of its own offers nothing but its root; an extension offers what its object offers.
     virtual HRESULT QueryInterface(const IID& iid, void** face);
+    /// One reference more; their number.
     virtual ULONG AddRef() { return ++m_count; }
+    /// One reference less; how many are left. The last one destroys the object.
     virtual ULONG Release() {
         const ULONG left = --m_count;
         if (left == 0)
@@ -37,9 +39,12 @@ public:
     }
     /// Automation is not offered by this platform: the count is 0, the other three answer E_NOTIMPL.
     virtual HRESULT GetTypeInfoCount(unsigned int* count);
+    /// E_NOTIMPL.
     virtual HRESULT GetTypeInfo(unsigned int index, unsigned long locale, void** info);
+    /// E_NOTIMPL.
     virtual HRESULT GetIDsOfNames(const IID& iid, char16_t** names, unsigned int count, unsigned long locale,
                                   long* ids);
+    /// E_NOTIMPL.
     virtual HRESULT Invoke(long id, const IID& iid, unsigned long locale, unsigned short flags, void* params,
                            void* result, void* exception, unsigned int* argument);
     /// By the interface's name, such as "ZFXIAlias".
@@ -62,10 +67,12 @@ public:
     /// An adaptor was made on this object or went. The object need not do anything.
     virtual void ChangeComponentState(ZFXComponentState state, ZFXBaseUnknown* adaptor);
 
+    /// The meta class. [borrowed]
     static ZFXMetaClass* MetaObject();
 
     /// The platform's allocator: null when there is no memory, so that a new expression gives null too.
     static void* operator new(std::size_t size) noexcept;
+    /// Gives it back; null is nothing.
     static void operator delete(void* memory) noexcept;
     /// Blocks of the platform's allocator that this thread took and did not give back.
     static long LiveAllocations() noexcept;
@@ -73,6 +80,7 @@ public:
 protected:
     /// What SetImpl was given; null for an object that is its own implementation.
     ZFXBaseUnknown* Implementation() const noexcept { return m_implementation; }
+    /// The references.
     ULONG& Count() noexcept { return m_count; }
 
 private:
@@ -90,6 +98,7 @@ inline const ZFXBaseUnknown* ZFXIdentityOf(const ZFXBaseUnknown* face) {
     return face == nullptr ? nullptr : face->GetImpl();
 }
 
+/// Whether both designate the same object; two nulls do.
 inline bool ZFXSameObject(const ZFXBaseUnknown* a, const ZFXBaseUnknown* b) {
     return a == b || (a != nullptr && b != nullptr && a->GetImpl() == b->GetImpl());
 }
@@ -97,5 +106,6 @@ inline bool ZFXSameObject(const ZFXBaseUnknown* a, const ZFXBaseUnknown* b) {
 /// The class of nothing: the base of a class that derives from none.
 class ZFX_PLATFORM_EXPORT ZFXnull {
 public:
+    /// The meta class. [borrowed]
     static ZFXMetaClass* MetaObject();
 };

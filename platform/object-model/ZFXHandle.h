@@ -21,12 +21,14 @@ class ZFXHandle {
 
 public:
     ZFXHandle() noexcept = default;
+    /// Empty.
     ZFXHandle(std::nullptr_t) noexcept {}
     /// From a borrowed pointer. The pointer keeps its own reference.
     template <std::derived_from<ZFXBaseUnknown> Other>
     ZFXHandle(Other* object) {
         Cast(object);
     }
+    /// The cast; `other` keeps its own reference.
     template <class Other>
     ZFXHandle(const ZFXHandle<Other>& other) {
         Cast(other.Get());
@@ -39,20 +41,24 @@ public:
         else
             Cast(other.Get());
     }
+    /// One more reference.
     ZFXHandle(const ZFXHandle& other) : m_face(other.m_face) {
         if (m_face != nullptr)
             m_face->AddRef();
     }
+    /// Takes the reference of `other`, which is empty afterwards.
     ZFXHandle(ZFXHandle&& other) noexcept : m_face(std::exchange(other.m_face, nullptr)) {}
     ~ZFXHandle() {
         if (m_face != nullptr)
             m_face->Release();
     }
 
+    /// One more reference on the other's object; gives back its own.
     ZFXHandle& operator=(const ZFXHandle& other) {
         ZFXHandle(other).Swap(*this); // the new reference first: both may be the last on one object
         return *this;
     }
+    /// Takes the reference of `other`; gives back its own.
     ZFXHandle& operator=(ZFXHandle&& other) noexcept {
         ZFXHandle(std::move(other)).Swap(*this);
         return *this;
@@ -65,12 +71,16 @@ public:
         return handle;
     }
 
+    /// The face, or null. [borrowed]
     operator Interface*() const noexcept { return m_face; }
+    /// The face. [borrowed]
     Interface* operator->() const noexcept { return m_face; }
+    /// The face, or null. [borrowed]
     Interface* Get() const noexcept { return m_face; }
 
     /// The reference goes to the caller; the handle is empty afterwards.
     Interface* GiveUp() noexcept { return std::exchange(m_face, nullptr); }
+    /// Both change places.
     void Swap(ZFXHandle& other) noexcept { std::swap(m_face, other.m_face); }
 
     /// Whether both designate the same object; two empty ones are equal.
@@ -78,9 +88,11 @@ public:
     friend bool operator==(const ZFXHandle& a, const ZFXHandle<Other>& b) {
         return ZFXSameObject(a.Get(), b.Get());
     }
+    /// Whether the pointer designates the same object.
     template <class Other> // constant or not, so that it always fits better than two raw pointers would
     requires std::derived_from<std::remove_const_t<Other>, ZFXBaseUnknown>
     friend bool operator==(const ZFXHandle& a, Other* b) { return ZFXSameObject(a.Get(), b); }
+    /// Whether it is empty.
     friend bool operator==(const ZFXHandle& a, std::nullptr_t) noexcept { return a.m_face == nullptr; }
 
 private:

@@ -34,12 +34,17 @@ public:
     ZFXMetaClass& operator=(const ZFXMetaClass&) = delete;
     ~ZFXMetaClass();
 
+    /// The name. [borrowed]
     const char* IsA() const noexcept { return m_name.c_str(); }
     /// Nonzero when this class or one that it derives from has the name.
     int IsAKindOf(const char* name) const noexcept;
+    /// The identifier: of an interface and of its adaptors the interface's, else one made out of the name.
     const GUID& GetClassId() const noexcept { return m_classId; }
+    /// What it is to the object model.
     ENUMTypeOfClass GetTypeOfClass() const noexcept { return m_kind; }
+    /// What it derives from, or null. [borrowed]
     ZFXMetaClass* GetBaseMetaClass() const noexcept { return m_base; }
+    /// Of an adaptor the class that implements it, else null. [borrowed]
     ZFXMetaClass* GetImplementationMetaClass() const noexcept { return m_implementation; }
 
     /// Declares that this class extends every object of the late type `extended`. Null and repeats are
@@ -58,10 +63,12 @@ public:
     void AddAdaptorFactory(const IID& iid, ZFXAdaptorFactory factory);
     /// Withdraws the entry for the interface that names this factory.
     void RemoveAdaptorFactory(const IID& iid, ZFXAdaptorFactory factory);
+    /// How many entries stand.
     int CountAdaptorFactories() const noexcept { return static_cast<int>(m_adaptors.size()); }
 
     /// Whether it was declared, and not only asked for by its name. A declaration settles kind and base.
     bool IsDeclared() const noexcept { return m_declared; }
+    /// Declares it to be of this kind and derived from `base`, which may be null.
     void Declare(ENUMTypeOfClass kind, ZFXMetaClass* base) noexcept;
 
 private:

@@ -7,8 +7,11 @@
 /// The bookkeeping that an adaptor holds: what it forwards to, and its count. An adaptor keeps the object
 /// that it was made on alive, and its implementation dies with it.
 struct ZFXTie {
+    /// What calls are forwarded to, with one reference.
     ZFXBaseUnknown* implementation = nullptr;
+    /// What the adaptor was made on, with one reference.
     ZFXBaseUnknown* object = nullptr;
+    /// The references on the adaptor.
     ULONG count = 0;
 };
 
@@ -28,13 +31,18 @@ ZFX_PLATFORM_EXPORT void Tie_Destruct(ZFXBaseUnknown* adaptor, ZFXTie& tie);
 /// The adaptor itself for the interface that it offers, else what the object answers.
 ZFX_PLATFORM_EXPORT HRESULT Tie_Query(ZFXBaseUnknown* adaptor, const ZFXTie& tie, const ZFXMetaClass* adaptorClass,
                                       const IID& iid, void** face);
+/// One reference more on the adaptor; their number.
 ZFX_PLATFORM_EXPORT ULONG Tie_AddRef(ZFXTie& tie);
 /// Destroys the adaptor when the last reference goes.
 ZFX_PLATFORM_EXPORT ULONG Tie_Release(ZFXBaseUnknown* adaptor, ZFXTie& tie);
+/// What the implementation answers.
 ZFX_PLATFORM_EXPORT HRESULT Tie_GetTypeInfoCount(const ZFXTie& tie, unsigned int* count);
+/// What the implementation answers.
 ZFX_PLATFORM_EXPORT HRESULT Tie_GetTypeInfo(const ZFXTie& tie, unsigned int index, unsigned long locale, void** info);
+/// What the implementation answers.
 ZFX_PLATFORM_EXPORT HRESULT Tie_GetIDsOfNames(const ZFXTie& tie, const IID& iid, char16_t** names, unsigned int count,
                                               unsigned long locale, long* ids);
+/// What the implementation answers.
 ZFX_PLATFORM_EXPORT HRESULT Tie_Invoke(const ZFXTie& tie, long id, const IID& iid, unsigned long locale,
                                        unsigned short flags, void* params, void* result, void* exception,
                                        unsigned int* argument);

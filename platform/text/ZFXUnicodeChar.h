@@ -10,12 +10,14 @@ public:
     /// The character of an ASCII byte; any other byte is no character of its own and gives U+FFFD.
     constexpr ZFXUnicodeChar(char c) noexcept : m_unit(UnitOf(c)) {}
 
+    /// The character of any unit, half a surrogate pair included.
     static constexpr ZFXUnicodeChar FromUnit(char16_t unit) noexcept {
         ZFXUnicodeChar result;
         result.m_unit = unit;
         return result;
     }
 
+    /// As the constructor.
     ZFXUnicodeChar& operator=(char c) noexcept {
         m_unit = UnitOf(c);
         return *this;
@@ -23,13 +25,16 @@ public:
     /// The first code unit of a zero-terminated UTF-8 text; U+0000 for a null or empty one.
     ZFXUnicodeChar& operator=(const char* text) noexcept;
 
+    /// Nonzero when the units are the same.
     constexpr int operator==(const ZFXUnicodeChar& other) const noexcept { return m_unit == other.m_unit; }
+    /// The opposite.
     constexpr int operator!=(const ZFXUnicodeChar& other) const noexcept { return m_unit != other.m_unit; }
 
     /// Nonzero for '0' to '9' and nothing else.
     constexpr int IsDigit() const noexcept { return m_unit >= u'0' && m_unit <= u'9'; }
     /// Nonzero for the characters of the Unicode property White_Space.
     int IsSpace() const noexcept;
+    /// The unit.
     constexpr unsigned short ConvertToUC2Bytes() const noexcept { return m_unit; }
 
 private:

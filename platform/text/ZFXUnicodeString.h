@@ -20,21 +20,27 @@
 /// character is read as U+FFFD, and half a surrogate pair is written as U+FFFD.
 class ZFX_PLATFORM_EXPORT ZFXUnicodeString {
 public:
+    /// Which occurrence is looked for.
     enum ZFXSearchMode { SearchForward = 1, SearchBackward = 2 };
+    /// Where a unit is taken away.
     enum ZFXStripMode { StripLeading = 1, StripTrailing = 2, StripBoth = 3, StripEverywhere = 4 };
 
+    /// The empty string.
     ZFXUnicodeString() noexcept { m_storage.inlined[0] = 0; }
     /// A zero-terminated UTF-8 text; null gives the empty string.
     ZFXUnicodeString(const char* text);
     /// n times c.
     ZFXUnicodeString(const ZFXUnicodeChar& c, std::size_t n);
+    /// The units, copied.
     explicit ZFXUnicodeString(std::u16string_view units) : ZFXUnicodeString() { Assign(units); }
+    /// A text of its own.
     ZFXUnicodeString(const ZFXUnicodeString& other) : ZFXUnicodeString() {
         if (other.m_length <= kInlineUnits && other.IsInline())
             CopyInline(other);
         else
             Assign(other.Units());
     }
+    /// Takes the text of `other`, which is empty afterwards.
     ZFXUnicodeString(ZFXUnicodeString&& other) noexcept { TakeFrom(other); }
     ~ZFXUnicodeString() {
         DropNarrow();
@@ -42,8 +48,11 @@ public:
             FreeHeap();
     }
 
+    /// As the copy.
     ZFXUnicodeString& operator=(const ZFXUnicodeString& other);
+    /// As the move; moved to itself it stays.
     ZFXUnicodeString& operator=(ZFXUnicodeString&& other) noexcept;
+    /// The text as the constructor reads it; may be its own narrow form.
     ZFXUnicodeString& operator=(const char* text);
 
     /// The text becomes n in decimal. The format is "%d"; any other leaves the text as it is.
@@ -51,15 +60,20 @@ public:
     /// The text becomes `count` code units read from `units`.
     void BuildFromUCChar(const unsigned short* units, int count);
 
+    /// The length in units.
     int GetLengthInChar() const noexcept { return m_length; }
+    /// Nonzero when the text is empty.
     int IsNull() const noexcept { return m_length == 0; }
     /// The code units, valid until the string changes.
     std::u16string_view Units() const noexcept { return {Data(), static_cast<std::size_t>(m_length)}; }
 
     /// Exact comparison, unit by unit; nonzero for true.
     int operator==(const ZFXUnicodeString& other) const noexcept;
+    /// The opposite.
     int operator!=(const ZFXUnicodeString& other) const noexcept { return !(*this == other); }
+    /// With the text as the constructor reads it.
     int operator==(const char* text) const noexcept;
+    /// The opposite.
     int operator!=(const char* text) const noexcept { return !(*this == text); }
 
     /// 2 when the texts are identical, 1 when they are equal apart from letter case (Unicode simple case
@@ -75,6 +89,7 @@ public:
         return CompareUnits(left, right, m_length);
     }
 
+    /// The `length` units from `start` on.
     ZFXUnicodeString SubString(int start, int length) const;
     /// The position of `sub` at or after `start` (forward: the first; backward: the last), or -1. The empty
     /// text is found at `start` when searching forward, at the end when searching backward.
@@ -87,6 +102,7 @@ public:
     /// The text in UTF-8, zero-terminated (a U+0000 within ends it for its readers); valid until the string is
     /// changed or destroyed.
     const char* ConvertToChar() const;
+    /// As ConvertToChar.
     operator const char*() const { return ConvertToChar(); }
     /// Reads a leading decimal integer in the manner of "%d": ASCII white space, one sign, digits; what
     /// follows is ignored. Returns 1 and writes *n, or returns 0 and leaves *n when there is no number, when
@@ -95,21 +111,27 @@ public:
 
     /// The text without the space U+0020.
     ZFXUnicodeString Strip(ZFXStripMode mode) const { return Strip(mode, ' '); }
+    /// The text without `c`: without the run of it at an end or both, or wherever it stands.
     ZFXUnicodeString Strip(ZFXStripMode mode, const ZFXUnicodeChar& c) const;
+    /// Both texts, this one first.
     ZFXUnicodeString operator+(const ZFXUnicodeString& other) const;
 
+    /// Puts the other behind this text and returns this string.
     ZFXUnicodeString& Append(const ZFXUnicodeString& other);
     /// Replaces every occurrence from left to right; replaced text is not searched again. An empty `old`
     /// changes nothing.
     void ReplaceAll(const ZFXUnicodeString& old, const ZFXUnicodeString& text);
     /// Replaces the first occurrence and returns 1; returns 0 when there is none or `old` is empty.
     int ReplaceSubString(const ZFXUnicodeString& old, const ZFXUnicodeString& text);
+    /// Replaces `count` units from `start` on; always 1.
     int ReplaceSubString(int start, int count, const ZFXUnicodeString& text);
+    /// Takes `count` units from `start` on away.
     void Remove(int start, int count);
     /// Keeps the first n units; a longer or negative n changes nothing.
     void Resize(int n);
     /// Unicode simple case mappings, character by character: the length stays.
     void ToUpper();
+    /// The same the other way.
     void ToLower();
 
 private:
