@@ -2,14 +2,18 @@
 
 #include <dlfcn.h>
 
+#include <algorithm>
 #include <filesystem>
 #include <fstream>
 #include <map>
 #include <mutex>
+#include <set>
 #include <system_error>
 
 namespace MessageCatalog {
 namespace {
+
+constexpr const char* kEnding = ".msg";
 
 using Texts = std::map<std::string, ZFXUnicodeString, std::less<>>;
 
@@ -46,7 +50,16 @@ Texts Read(const std::string& file) {
 struct Catalogs {
     std::mutex guard;
     std::string folder = FolderBesideThisLibrary();
-    std::map<std::string, Texts> known;
+    std::string language;               ///< empty: English
+    std::map<std::string, Texts> known; ///< by the name of the file
+
+    std::optional<ZFXUnicodeString> Find(const std::string& file, std::string_view key) {
+        auto found = known.find(file);
+        if (found == known.end())
+            found = known.emplace(file, Read(folder + "/" + file + kEnding)).first;
+        const auto text = found->second.find(key);
+        return text == found->second.end() ? std::nullopt : std::optional(text->second);
+    }
 };
 
 Catalogs& State() {
@@ -57,16 +70,29 @@ Catalogs& State() {
 /// Made at load: the library's path may be relative to the folder that is current then.
 [[maybe_unused]] const Catalogs& stateAtLoad = State();
 
+/// The language in the name of a translation, without its ending; empty for that of an English catalog.
+std::string LanguageIn(const std::string& file) {
+    const auto underscore = file.rfind('_');
+    return underscore == std::string::npos ? std::string() : file.substr(underscore + 1);
+}
+
+/// "de" of "de-AT.UTF-8"; empty for English.
+std::string LanguagePart(const std::string& language) {
+    std::string part = language.substr(0, language.find_first_of("_-.@"));
+    std::transform(part.begin(), part.end(), part.begin(),
+                   [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; });
+    return part == "en" || part == "c" || part == "posix" ? std::string() : part;
+}
+
 } // namespace
 
 std::optional<ZFXUnicodeString> Find(const std::string& catalog, std::string_view key) {
     Catalogs& state = State();
     const std::lock_guard lock(state.guard);
-    auto known = state.known.find(catalog);
-    if (known == state.known.end())
-        known = state.known.emplace(catalog, Read(state.folder + "/" + catalog + ".catalog")).first;
-    const auto text = known->second.find(key);
-    return text == known->second.end() ? std::nullopt : std::optional(text->second);
+    if (!state.language.empty())
+        if (auto translated = state.Find(catalog + "_" + state.language, key))
+            return translated;
+    return state.Find(catalog, key);
 }
 
 void SetFolder(const std::string& folder) {
@@ -74,6 +100,28 @@ void SetFolder(const std::string& folder) {
     const std::lock_guard lock(state.guard);
     state.folder = folder;
     state.known.clear();
+}
+
+bool SetLanguage(const std::string& language) {
+    std::string part = LanguagePart(language);
+    const std::vector<std::string> there = Languages();
+    const bool isThere = part.empty() || std::find(there.begin(), there.end(), part) != there.end();
+    Catalogs& state = State();
+    const std::lock_guard lock(state.guard);
+    state.language = isThere ? std::move(part) : std::string();
+    return isThere;
+}
+
+std::vector<std::string> Languages() {
+    Catalogs& state = State();
+    const std::lock_guard lock(state.guard);
+    std::set<std::string> languages{"en"};
+    std::error_code ignored; // without a folder there is nothing but English
+    for (std::filesystem::directory_iterator file(state.folder, ignored), end; file != end; file.increment(ignored))
+        if (file->path().extension() == kEnding)
+            if (std::string language = LanguageIn(file->path().stem().string()); !language.empty())
+                languages.insert(std::move(language));
+    return {languages.begin(), languages.end()};
 }
 
 } // namespace MessageCatalog

@@ -58,7 +58,8 @@ public:
     /// The message in UTF-8; valid until it is asked for again.
     virtual const char* GetMessageText();
     /// The whole message for the user: request, diagnostic and advice, each as the catalog gives it with the
-    /// parameters set in; the message id where the catalog has nothing.
+    /// parameters set in; the message id where the catalog has nothing. In the language that is set when it is asked
+    /// for, not when the error was raised.
     virtual ZFXUnicodeString GetNLSMessage();
     /// What was asked for; empty where the catalog has nothing.
     virtual ZFXUnicodeString GetNLSRequest();

@@ -43,7 +43,8 @@ TEST(Error, IsFoundUnderItsOwnCodeUntilManyOthersCame) {
 TEST(Error, SpeaksAsItsCatalogSays) {
     const auto folder = std::filesystem::temp_directory_path() / "qvr-catalog-test";
     std::filesystem::create_directories(folder);
-    std::ofstream(folder / "Tests.catalog") << "# comment\n\nId.Diagnostic = Bad: /P1, /P2 \r\nId.Advice=Mend = it\n";
+    std::ofstream(folder / "Tests.msg") << "# comment\n\nId.Diagnostic = Bad: /P1, /P2 \r\nId.Advice=Mend = it\n";
+    std::ofstream(folder / "Tests_xy.msg") << "Id.Diagnostic = /P2, /P1: böse\n";
     MessageCatalog::SetFolder(folder.string());
     auto* error = new ZFXInputError("Id", "Tests");
     ZFXUnicodeString a("ä");
@@ -59,6 +60,16 @@ TEST(Error, SpeaksAsItsCatalogSays) {
     clone->Release();
     EXPECT_THROW(error->Throw("Other.cpp", 3), std::reference_wrapper<ZFXError>);
     EXPECT_EQ(Text(error->GetNLSSource()), "Other.cpp:3");
+    // Another language is spoken from now on, also by what was refused before; what it lacks is said in English.
+    for (const char* language : {"xy", "XY_ab", "xy-AB.UTF-8"}) {
+        EXPECT_TRUE(MessageCatalog::SetLanguage(language)) << language;
+        EXPECT_EQ(Text(error->GetNLSMessage()), "b, ä: böse Mend = it") << language;
+    }
+    for (const std::string language : {"zz", "en_GB", ""}) {
+        EXPECT_EQ(MessageCatalog::SetLanguage(language), language != "zz") << language;
+        EXPECT_EQ(Text(error->GetNLSMessage()), "Bad: ä, b Mend = it") << language;
+    }
+    EXPECT_EQ(MessageCatalog::Languages(), (std::vector<std::string>{"en", "xy"}));
     error->Release();
     std::filesystem::remove_all(folder);
     MessageCatalog::SetFolder("/nowhere");

@@ -21,6 +21,11 @@ TEST(Commands, EndWithTwoAndOneLineForWhatCannotBeUsed) {
         std::string expected;
     } rows[] = {
         {{}, "A subcommand is required"},
+        {{"adit", "--deck", step}, "there is no command \"adit\"; did you mean \"audit\"?"},
+        {{"audit", "--dekc", step}, "there is no option --dekc; did you mean \"--deck\"?"},
+        {{"audit", "--lang=de", step}, "there is no option --lang; did you mean \"--language\"?"},
+        {{"--language", "xx", "audit", step}, "there are no messages in \"xx\"; there are: de, en, fr, ja"},
+        {{"audit", step, "--color", "red"}, "--color: red not in {auto,always,never}"},
         {{"audit"}, "DOCUMENT is required"},
         {{"audit", step, "more"}, "not expected: more"},
         {{"check"}, "NAME"},
@@ -82,6 +87,8 @@ TEST(Commands, CheckNamesByTheirText) {
     const Told told = RunWith({"check", "a\x1B[2J", "1"});
     EXPECT_EQ(told.code, 1);
     EXPECT_EQ(told.out.find("a\\u001B[2J  legal\n1           refused  LeadingDigitERR_01  The name"), 0U) << told.out;
+    EXPECT_NE(RunWith({"--language", "de_AT", "check", "1"}).out.find("ERR_01  Der Name beginnt"), std::string::npos);
+    EXPECT_NE(RunWith({"check", "1"}).out.find("ERR_01  The name begins"), std::string::npos) << "not for the next run";
 }
 
 TEST(Commands, AuditTheWholeExample) {

@@ -30,11 +30,13 @@ TEST(FeaturePaths, FindOneFeatureByIdPointerOrPath) {
         {"Load", "/cases/1/steps/0"},
         {"Static", "may be each of these features; tell one by its id, its whole path or its JSON pointer:\n"
                    "  Static  (/cases/0)\n  Static  (/cases/1)"},
-        {"ressure-1", "there are:\n  Static/Step-1/Pressure-1  (/cases/0/steps/0/sets/0/features/0)"},
-        {"Step-1/", "there are:"},
+        {"rpessure-1", "did you mean:\n  Static/Step-1/Pressure-1  (/cases/0/steps/0/sets/0/features/0)"},
+        {"Statik/step-2", "did you mean:\n  Static/Step-2  (/cases/0/steps/1)\n  Static/Step-1  (/cases/0/steps/0)"},
+        {"Step-1/", "did you mean:\n  Step-1  (/propertySet/features/0)"},
+        {"nwe", "did you mean:\n  /cases/0/steps/0/sets/0/features/1"},
         {"", "there are:"},
-        {"/cases/0/name", "leads to no object of the document; there are:"},
-        {"/cases/7", "leads to no object of the document"},
+        {"/cases/1/steps/7", "leads to no object of the document; near it are:\n  Static/Load  (/cases/1/steps/0)"},
+        {"/cases/0/name", "leads to no object of the document; near it are:"},
     };
     for (const auto& row : rows) {
         std::string found;

@@ -3,6 +3,7 @@
 #include "FeaturePaths.h"
 #include "Printing.h"
 #include "Run.h"
+#include "Table.h"
 #include "Verdict.h"
 
 #include <nlohmann/json.hpp>
@@ -51,17 +52,18 @@ std::string NameOf(const ZFXISpecObject_var& feature) {
     return alias == nullptr ? "" : alias->GetAlias().ConvertToChar();
 }
 
-void PrintFindings(const LoadedDocument& loaded, const Findings& findings, bool withDeck, std::ostream& out) {
-    std::vector<std::vector<std::string>> rows{{"FEATURE", "NAME", "MESSAGE", "TEXT"}};
+void PrintFindings(const LoadedDocument& loaded, const Findings& findings, bool withDeck, Console console) {
+    std::ostream& out = console.out;
+    Table table{{"FEATURE", "NAME", "MESSAGE", "TEXT"}, {}};
     for (const std::vector<Finding>* list : {&findings.refusals, &findings.deck})
         for (const Finding& finding : *list)
-            rows.push_back(
-                {Printable(TellingOf(loaded, finding.entry)),
-                 Printable(finding.name) + (finding.deckColumn.empty() ? "" : "  (deck, " + finding.deckColumn + ")"),
-                 finding.verdict.messageId.empty() ? "-" : finding.verdict.messageId,
-                 Printable(finding.verdict.message)});
-    if (rows.size() > 1) {
-        PrintTable(out, rows);
+            table.rows.push_back({{Printable(TellingOf(loaded, finding.entry))},
+                                  {(finding.name.empty() ? "\"\"" : Printable(finding.name)) +
+                                   (finding.deckColumn.empty() ? "" : "  (deck, " + finding.deckColumn + ")")},
+                                  {finding.verdict.messageId.empty() ? "-" : finding.verdict.messageId, Ink::Refusal},
+                                  {Printable(finding.verdict.message)}});
+    if (!table.rows.empty()) {
+        PrintTable(out, table, console.screen);
         out << '\n';
     }
     out << findings.checked << " features checked, " << findings.refusals.size() << " refusals";
@@ -125,7 +127,7 @@ int AuditDocument(const AuditRequest& request, Console console) {
             said["deckFaults"] = AsJson(*loaded, findings.deck);
         PrintJson(console.out, said);
     } else {
-        PrintFindings(*loaded, findings, request.withDeck, console.out);
+        PrintFindings(*loaded, findings, request.withDeck, console);
     }
     return findings.refusals.empty() && findings.deck.empty() ? kFine : kRefused;
 }

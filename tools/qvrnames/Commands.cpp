@@ -9,7 +9,7 @@ std::unique_ptr<LoadedDocument> OpenDocument(const std::string& file) {
     try {
         return std::make_unique<LoadedDocument>(std::move(bytes));
     } catch (const BadInput& error) {
-        throw BadInput(file + ": " + error.what());
+        throw BadInput(FileForPeople(file) + ": " + error.what());
     }
 }
 
@@ -20,7 +20,7 @@ std::uint32_t FindNamedFeature(const LoadedDocument& loaded, const std::string& 
             throw BadInput("\"" + words + "\" is the analysis model, which has no name in the file");
         return entry;
     } catch (const BadInput& error) {
-        throw BadInput(file + ": " + error.what());
+        throw BadInput(FileForPeople(file) + ": " + error.what());
     }
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "LoadedDocument.h"
+#include "Terminal.h"
 
 #include <iosfwd>
 #include <memory>
@@ -12,6 +13,7 @@
 struct Console {
     std::ostream& out;
     std::ostream& err;
+    Screen screen = {};  ///< that `out` leads to
     bool isJson = false; ///< the result is one JSON value on `out`
 };
 
@@ -41,14 +43,15 @@ struct RenameRequest {
     std::string document;
     std::string feature;
     std::string name;
-    std::string output; ///< empty: the document itself
+    std::string output; ///< empty: the document itself; "-": standard output, and what is told goes to `err`
 };
 int RenameFeature(const RenameRequest& request, Console console);
 
 /// What the commands have in common.
 /// @{
 
-/// The document in the file; messages about it begin with the file's name.
+/// The document in the file, or on standard input when the file is "-"; messages about it begin with the
+/// file's name.
 std::unique_ptr<LoadedDocument> OpenDocument(const std::string& file);
 /// FindFeature, for one that can have a name.
 std::uint32_t FindNamedFeature(const LoadedDocument& loaded, const std::string& file, const std::string& words);

@@ -3,6 +3,7 @@
 #include "FeaturePaths.h"
 #include "Printing.h"
 #include "Run.h"
+#include "Table.h"
 
 #include <nlohmann/json.hpp>
 
@@ -10,17 +11,17 @@
 
 namespace {
 
-void PrintSection(const DeckSection& section, const LoadedDocument& loaded, std::ostream& out) {
-    std::vector<std::vector<std::string>> rows{{section.title}};
+void PrintSection(const DeckSection& section, const LoadedDocument& loaded, Console console) {
+    Table table{{section.title}, {}};
     for (const DeckColumn& column : section.columns)
-        rows.front().emplace_back(column.title);
+        table.headings.emplace_back(column.title);
     for (const DeckRow& row : section.rows) {
-        rows.push_back({Printable(TellingOf(loaded, row.entry))});
+        table.rows.push_back({{Printable(TellingOf(loaded, row.entry))}});
         for (const std::optional<std::string>& name : row.names)
-            rows.back().push_back(!name ? "-" : name->empty() ? "\"\"" : Printable(*name));
+            table.rows.back().push_back({!name ? "-" : name->empty() ? "\"\"" : Printable(*name)});
     }
-    PrintTable(out, rows);
-    out << '\n';
+    PrintTable(console.out, table, console.screen);
+    console.out << '\n';
 }
 
 nlohmann::ordered_json AsJson(const DeckSection& section, const LoadedDocument& loaded) {
@@ -48,7 +49,7 @@ int ShowDeck(const std::string& document, Console console) {
         if (console.isJson)
             said[section.key] = AsJson(section, *loaded);
         else if (!section.rows.empty())
-            PrintSection(section, *loaded, console.out);
+            PrintSection(section, *loaded, console);
     }
     if (console.isJson)
         PrintJson(console.out, said);

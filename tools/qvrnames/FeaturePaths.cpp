@@ -30,28 +30,53 @@ Entries NamedEntries(const LoadedDocument& loaded) {
     return named;
 }
 
-/// The features whose names come nearest to the last word; all of them when none comes near.
-Entries Nearest(const LoadedDocument& loaded, const std::string& words) {
-    const std::string last = words.substr(words.rfind('/') + 1); // npos + 1 is the beginning
-    const double limit = 1 + static_cast<double>(last.size()) / 2;
+/// As many parts of the end of the path as the words have.
+std::string EndLike(const std::string& words, const std::string& path) {
+    auto begin = path.size();
+    for (auto parts = std::count(words.begin(), words.end(), '/') + 1; parts > 0 && begin != std::string::npos; --parts)
+        begin = begin == 0 ? std::string::npos : path.rfind('/', begin - 1);
+    return begin == std::string::npos ? path : path.substr(begin + 1);
+}
+
+/// The features whose ids, paths or ends of paths come near to the words, the nearest first.
+Entries Nearest(const LoadedDocument& loaded, std::string words) {
+    words.erase(words.find_last_not_of('/') + 1);
+    const double limit = 1 + static_cast<double>(words.size()) / 3;
     std::vector<std::pair<double, std::uint32_t>> near;
-    const Entries named = NamedEntries(loaded);
-    for (const std::uint32_t entry : named) {
-        const double distance = EditDistance(last, NameOf(loaded.entries[entry]), limit);
-        if (distance < limit)
-            near.emplace_back(distance, entry);
-    }
-    std::stable_sort(near.begin(), near.end(), [](const auto& a, const auto& b) { return a.first < b.first; });
+    for (const std::uint32_t entry : NamedEntries(loaded))
+        near.emplace_back(EditDistance(words, EndLike(words, PathOf(loaded, entry)), limit), entry);
+    for (const auto& [id, entry] : loaded.ids)
+        near.emplace_back(EditDistance(words, id, limit), entry);
+    std::sort(near.begin(), near.end());
     Entries nearest;
     for (const auto& [distance, entry] : near)
-        nearest.push_back(entry);
-    return nearest.empty() ? named : nearest;
+        if (distance < limit && std::find(nearest.begin(), nearest.end(), entry) == nearest.end())
+            nearest.push_back(entry);
+    return nearest;
+}
+
+/// The named objects whose pointers begin most like this one, in document order.
+Entries Neighbours(const LoadedDocument& loaded, const std::string& pointer) {
+    Entries neighbours;
+    std::size_t longest = 0;
+    for (const std::uint32_t entry : NamedEntries(loaded)) {
+        const std::string at = PointerOf(loaded, entry) + "/";
+        const auto differ = std::mismatch(at.begin(), at.end(), pointer.begin(), pointer.end());
+        const auto common = at.rfind('/', static_cast<std::size_t>(differ.first - at.begin()));
+        if (common > longest)
+            neighbours.clear();
+        longest = std::max(longest, common);
+        if (common == longest)
+            neighbours.push_back(entry);
+    }
+    return neighbours;
 }
 
 std::string Candidates(const LoadedDocument& loaded, const Entries& entries) {
     std::string lines;
     for (std::size_t i = 0; i < std::min(entries.size(), kMostCandidates); ++i)
-        lines += "\n  " + Printable(PathOf(loaded, entries[i])) + "  (" + PointerOf(loaded, entries[i]) + ")";
+        lines += "\n  " + Printable(TellingOf(loaded, entries[i])) +
+                 (loaded.entries[entries[i]].isNamed ? "  (" + PointerOf(loaded, entries[i]) + ")" : "");
     if (entries.size() > kMostCandidates)
         lines += "\n  and " + std::to_string(entries.size() - kMostCandidates) + " more";
     return lines;
@@ -116,15 +141,18 @@ std::uint32_t FindFeature(const LoadedDocument& loaded, const std::string& words
     if (words.starts_with('/')) {
         if (const auto found = FindByPointer(loaded, words))
             return *found;
-        throw BadInput("the JSON pointer \"" + words +
-                       "\" leads to no object of the document; there are:" + Candidates(loaded, NamedEntries(loaded)));
+        throw BadInput("the JSON pointer \"" + words + "\" leads to no object of the document; near it are:" +
+                       Candidates(loaded, Neighbours(loaded, words)));
     }
     const Entries found = FindByPath(loaded, words);
     if (found.size() == 1)
         return found.front();
-    if (found.empty())
-        throw BadInput("no feature has the id, the path or the end of a path \"" + words +
-                       "\"; there are:" + Candidates(loaded, Nearest(loaded, words)));
+    if (found.empty()) {
+        const Entries nearest = Nearest(loaded, words);
+        throw BadInput("no feature has the id, the path or the end of a path \"" + words + "\"; " +
+                       (nearest.empty() ? "there are:" + Candidates(loaded, NamedEntries(loaded))
+                                        : "did you mean:" + Candidates(loaded, nearest)));
+    }
     throw BadInput("\"" + words +
                    "\" may be each of these features; tell one by its id, its whole path or its"
                    " JSON pointer:" +

@@ -3,6 +3,8 @@
 #include "FeaturePaths.h"
 #include "Printing.h"
 #include "Run.h"
+#include "Table.h"
+#include "WholeFile.h"
 
 #include "QVRNameUtil.h"
 #include "analysis/WorkbenchUtilities.h"
@@ -22,7 +24,7 @@ bool IsJob(const ZFXISpecObject_var& feature) { return feature != nullptr && fea
 ZFXUnicodeString BaseOf(const ProposeRequest& request, ZFXISpecObject_var feature) {
     ZFXUnicodeString base = TextOf(request.base);
     if (IsJob(feature) && !base.IsNull() && base != kJobBase)
-        throw BadInput(request.document + ": jobs are numbered after \"Job-\" alone; leave --base out");
+        throw BadInput(FileForPeople(request.document) + ": jobs are numbered after \"Job-\" alone; leave --base out");
     if (!base.IsNull())
         return base;
     QVRNameUtil::CreateBaseName(feature, base);
@@ -31,7 +33,7 @@ ZFXUnicodeString BaseOf(const ProposeRequest& request, ZFXISpecObject_var featur
     if (IsJob(feature))
         return kJobBase;
     const std::string type = feature == nullptr ? "" : feature->GetLateType().ConvertToChar();
-    throw BadInput(request.document + ": \"" + request.feature + "\" is of the late type \"" + type +
+    throw BadInput(FileForPeople(request.document) + ": \"" + request.feature + "\" is of the late type \"" + type +
                    "\", which has no base name; give one with --base");
 }
 
@@ -60,6 +62,11 @@ ZFXUnicodeString NextName(ZFXISpecObject_var feature, const ZFXUnicodeString& ba
     return name;
 }
 
+void PrintProposal(const std::string& base, const std::string& name, Console console) {
+    const Table table{{}, {{{"base name"}, {Printable(base)}}, {{"next free name"}, {Printable(name), Ink::Proposal}}}};
+    PrintTable(console.out, table, console.screen);
+}
+
 /// The name of a job that is still to be made.
 int ProposeJobName(const ProposeRequest& request, Console console) {
     if (!request.feature.empty() || !request.base.empty())
@@ -70,7 +77,7 @@ int ProposeJobName(const ProposeRequest& request, Console console) {
     if (console.isJson)
         PrintJson(console.out, {{"base", kJobBase}, {"proposal", name.ConvertToChar()}});
     else
-        PrintTable(console.out, {{"base name", kJobBase}, {"next free name", Printable(name.ConvertToChar())}});
+        PrintProposal(kJobBase, name.ConvertToChar(), console);
     return kFine;
 }
 
@@ -94,8 +101,7 @@ int ProposeName(const ProposeRequest& request, Console console) {
         said["proposal"] = isProposed ? nlohmann::ordered_json(name.ConvertToChar()) : nlohmann::ordered_json();
         PrintJson(console.out, said);
     } else if (isProposed) {
-        PrintTable(console.out, {{"base name", Printable(base.ConvertToChar())},
-                                 {"next free name", Printable(name.ConvertToChar())}});
+        PrintProposal(base.ConvertToChar(), name.ConvertToChar(), console);
     } else {
         console.out << "no name can be proposed: there is no analysis case to number in, or the names in use "
                        "cannot be listed\n";

@@ -1,8 +1,10 @@
 #include "AliasPatch.h"
+#include "BadInput.h"
 #include "Commands.h"
 #include "FeaturePaths.h"
 #include "Printing.h"
 #include "Run.h"
+#include "Table.h"
 #include "Verdict.h"
 #include "WholeFile.h"
 
@@ -81,7 +83,8 @@ void Print(const std::string& feature, const RenameRequest& request, const Outco
     out << outcome.printed << Printable(feature) << ": ";
     if (outcome.isRefused) {
         const Verdict& why = outcome.verdict;
-        out << "refused" << (why.messageId.empty() ? "" : " (" + why.messageId + ")") << ", the name stays "
+        const std::string id = Inked(why.messageId, Ink::Refusal, console.screen);
+        out << "refused" << (why.messageId.empty() ? "" : " (" + id + ")") << ", the name stays "
             << Quoted(outcome.former) << '\n';
         if (outcome.printed.empty())
             out << "  " << Printable(why.message) << '\n';
@@ -109,6 +112,16 @@ void PrintAsJson(const std::string& feature, const RenameRequest& request, const
     PrintJson(console.out, said);
 }
 
+/// The document with the new name, where it was asked for.
+void Store(const std::string& bytes, const RenameRequest& request, const std::string& target, Console console) {
+    if (target != kStandardStream) {
+        ReplaceWholeFile(target, bytes, request.document);
+        return;
+    }
+    if (!console.out.write(bytes.data(), static_cast<std::streamsize>(bytes.size())).flush())
+        throw BadInput("the document cannot be written on standard output");
+}
+
 } // namespace
 
 int RenameFeature(const RenameRequest& request, Console console) {
@@ -119,9 +132,12 @@ int RenameFeature(const RenameRequest& request, Console console) {
     const Outcome outcome = SetName(loaded->entries[entry].feature, name);
     const std::string& target = request.output.empty() ? request.document : request.output;
     // The file is written before anything is told, so that nothing is told that did not happen.
-    const bool isToWrite = !outcome.isRefused && (outcome.now != outcome.former || !request.output.empty());
+    const bool isOther = outcome.now != outcome.former || !request.output.empty() || target == kStandardStream;
+    const bool isToWrite = !outcome.isRefused && isOther;
     if (isToWrite)
-        ReplaceWholeFile(target, WithName(*loaded, entry, outcome.now), request.document);
-    (console.isJson ? PrintAsJson : Print)(feature, request, outcome, console);
+        Store(WithName(*loaded, entry, outcome.now), request, target, console);
+    // A document on standard output stands there alone.
+    const Console teller = target == kStandardStream ? Console{console.err, console.err, {}, console.isJson} : console;
+    (console.isJson ? PrintAsJson : Print)(feature, request, outcome, teller);
     return outcome.isRefused ? kRefused : kFine;
 }

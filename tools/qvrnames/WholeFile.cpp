@@ -14,11 +14,11 @@
 namespace {
 
 [[noreturn]] void RefuseFile(const std::string& path, const std::string& action, int error) {
-    throw BadInput(path + ": cannot be " + action + ": " + std::generic_category().message(error));
+    throw BadInput(FileForPeople(path) + ": cannot be " + action + ": " + std::generic_category().message(error));
 }
 
 [[noreturn]] void RefuseSize(const std::string& path) {
-    throw BadInput(path + ": larger than " + std::to_string(kLargestDocument >> 20) +
+    throw BadInput(FileForPeople(path) + ": larger than " + std::to_string(kLargestDocument >> 20) +
                    " MB, which is the largest document that is read");
 }
 
@@ -89,10 +89,19 @@ private:
     bool m_isInPlace = false;
 };
 
+/// The permissions that a new file gets.
+mode_t UsualPermissions() {
+    const mode_t mask = umask(0);
+    umask(mask);
+    return 0666U & ~mask;
+}
+
 } // namespace
 
+std::string FileForPeople(const std::string& path) { return path == kStandardStream ? "standard input" : path; }
+
 std::string ReadWholeFile(const std::string& path) {
-    const OpenFile file(open(path.c_str(), O_RDONLY | O_CLOEXEC));
+    const OpenFile file(path == kStandardStream ? dup(STDIN_FILENO) : open(path.c_str(), O_RDONLY | O_CLOEXEC));
     struct stat status {};
     if (file < 0 || fstat(file, &status) < 0)
         RefuseFile(path, "read", errno);
@@ -130,8 +139,13 @@ void ReplaceWholeFile(const std::string& path, const std::string& bytes, const s
     const bool isThere = stat(target.c_str(), &status) == 0;
     if (isThere && !S_ISREG(status.st_mode))
         throw BadInput(path + ": cannot be written: it is no regular file");
-    if (!isThere && stat(model.c_str(), &status) < 0)
+    if (!isThere && model == kStandardStream) {
+        status.st_uid = geteuid();
+        status.st_gid = getegid();
+        status.st_mode = UsualPermissions();
+    } else if (!isThere && stat(model.c_str(), &status) < 0) {
         RefuseFile(model, "read", errno);
+    }
     FileBeside file(target);
     file.LookLike(status);
     file.Write(bytes);

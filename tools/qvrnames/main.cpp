@@ -2,4 +2,7 @@
 
 #include <iostream>
 
-int main(int argc, char** argv) { return Run(argc, argv, std::cout, std::cerr); }
+int main(int argc, char** argv) {
+    EndWhenNobodyReads();
+    return Run(argc, argv, std::cout, std::cerr, ScreenOfStandardOutput());
+}

@@ -1,0 +1,57 @@
+# Completes the command line of qvrnames in bash: source it, or install it as
+# share/bash-completion/completions/qvrnames.
+
+_qvrnames() {
+    local common='--json --color --language --help' current=${COMP_WORDS[COMP_CWORD]} before=${COMP_WORDS[COMP_CWORD - 1]}
+    local command='' place=0 word skip=0 options words=''
+    # bash takes "--color=never" apart.
+    if [ "$current" = = ]; then
+        current=''
+    elif [ "$before" = = ]; then
+        before=${COMP_WORDS[COMP_CWORD - 2]}
+    fi
+    # The command, and how many of its words stand before this one.
+    for word in "${COMP_WORDS[@]:1:COMP_CWORD-1}"; do
+        if [ "$skip" = 1 ] && [ "$word" != = ]; then
+            skip=0
+            continue
+        fi
+        case $word in
+            --color | --language | --base | --output) skip=1 ;;
+            = | -?*) ;;
+            *) if [ -z "$command" ]; then command=$word; else place=$((place + 1)); fi ;;
+        esac
+    done
+    case $command in
+        '') options="$common --version" words='check audit deck propose rename' ;;
+        check) options="$common --file-name" ;;
+        audit) options="$common --deck" ;;
+        deck) options=$common ;;
+        propose) options="$common --base --job" ;;
+        rename) options="$common --output" ;;
+        *) return ;;
+    esac
+    COMPREPLY=()
+    case $before in
+        --color) words='auto always never' ;;
+        --language) words='de en fr ja' ;;
+        --base) return ;;
+        --output) words=FILE ;;
+        *)
+            case $command:$current in
+                *:-?*) words=$options ;;
+                :*) words="$words $options" ;;
+                check:*) words=$options ;;
+                *) if [ "$place" = 0 ]; then words=FILE; else words=$options; fi ;;
+            esac
+            ;;
+    esac
+    if [ "$words" = FILE ]; then
+        compopt -o filenames 2>/dev/null
+        mapfile -t COMPREPLY < <(compgen -f -- "$current")
+    else
+        mapfile -t COMPREPLY < <(compgen -W "$words" -- "$current")
+    fi
+}
+
+complete -F _qvrnames qvrnames
