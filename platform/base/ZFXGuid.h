@@ -7,7 +7,10 @@ struct GUID {
     std::uint64_t high = 0;
     std::uint64_t low = 0;
 
-    friend constexpr bool operator==(const GUID&, const GUID&) noexcept = default;
+    friend constexpr bool operator==(const GUID& a, const GUID& b) noexcept {
+        return a.high == b.high && a.low == b.low;
+    }
+    friend constexpr bool operator!=(const GUID& a, const GUID& b) noexcept { return !(a == b); }
 };
 
 using IID = GUID;
