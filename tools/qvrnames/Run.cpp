@@ -3,6 +3,7 @@
 #include "BadInput.h"
 #include "Commands.h"
 #include "Printing.h"
+#include "QVRNameUtilityVersion.h"
 
 #include <CLI/CLI.hpp>
 
@@ -16,7 +17,7 @@ namespace {
 class CommandLine {
 public:
     CommandLine(std::ostream& out, std::ostream& err) : m_console{out, err} {
-        m_app.set_version_flag("--version", "qvrnames " QVRNAMES_VERSION);
+        m_app.set_version_flag("--version", "qvrnames " QVR_NAME_UTILITY_VERSION);
         m_app.require_subcommand(1);
         m_app.footer("FEATURE is the id of a feature, its JSON pointer in the file (which begins with \"/\"), or\n"
                      "its path of names, such as Static/Step-1/Pressure-1, of which the last part is enough\n"
