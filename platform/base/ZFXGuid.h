@@ -10,7 +10,12 @@ struct GUID {
     std::uint64_t low = 0;
 
     /// Whether all bits are the same.
-    friend constexpr bool operator==(const GUID&, const GUID&) noexcept = default;
+    /// @{
+    friend constexpr bool operator==(const GUID& a, const GUID& b) noexcept {
+        return a.high == b.high && a.low == b.low;
+    }
+    friend constexpr bool operator!=(const GUID& a, const GUID& b) noexcept { return !(a == b); }
+    /// @}
 };
 
 /// The identifier of an interface.

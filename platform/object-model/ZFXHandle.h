@@ -3,10 +3,13 @@
 #include "collections/ZFXListVal.h"
 #include "object-model/ZFXBaseUnknown.h"
 
-#include <concepts>
 #include <cstddef>
 #include <type_traits>
 #include <utility>
+
+/// Whether a pointer to the one is also a pointer to the other, constant or not.
+template <class Derived, class Base>
+inline constexpr bool ZFXDerivesFrom = std::is_convertible_v<const volatile Derived*, const volatile Base*>;
 
 /// Holds one reference on an object, as one of its interfaces, or nothing.
 ///
@@ -17,14 +20,17 @@
 template <class Interface>
 class ZFXHandle {
     template <class Other>
-    static constexpr bool kIsFace = std::derived_from<Other, Interface>;
+    static constexpr bool kIsFace = ZFXDerivesFrom<Other, Interface>;
+    // With an object, constant or not, so that the comparison always fits better than that of two raw pointers would.
+    template <class Other>
+    using Comparison = std::enable_if_t<ZFXDerivesFrom<Other, ZFXBaseUnknown>, bool>;
 
 public:
     ZFXHandle() noexcept = default;
     /// Empty.
     ZFXHandle(std::nullptr_t) noexcept {}
     /// From a borrowed pointer. The pointer keeps its own reference.
-    template <std::derived_from<ZFXBaseUnknown> Other>
+    template <class Other, class = std::enable_if_t<ZFXDerivesFrom<Other, ZFXBaseUnknown>>>
     ZFXHandle(Other* object) {
         Cast(object);
     }
@@ -83,17 +89,38 @@ public:
     /// Both change places.
     void Swap(ZFXHandle& other) noexcept { std::swap(m_face, other.m_face); }
 
-    /// Whether both designate the same object; two empty ones are equal.
+    /// Whether both designate the same object; two empty ones are equal. All forms stand here, since before C++20 none
+    /// follows from another.
+    /// @{
     template <class Other>
     friend bool operator==(const ZFXHandle& a, const ZFXHandle<Other>& b) {
         return ZFXSameObject(a.Get(), b.Get());
     }
-    /// Whether the pointer designates the same object.
-    template <class Other> // constant or not, so that it always fits better than two raw pointers would
-    requires std::derived_from<std::remove_const_t<Other>, ZFXBaseUnknown>
-    friend bool operator==(const ZFXHandle& a, Other* b) { return ZFXSameObject(a.Get(), b); }
-    /// Whether it is empty.
+    template <class Other>
+    friend bool operator!=(const ZFXHandle& a, const ZFXHandle<Other>& b) {
+        return !(a == b);
+    }
+    template <class Other>
+    friend Comparison<Other> operator==(const ZFXHandle& a, Other* b) {
+        return ZFXSameObject(a.Get(), b);
+    }
+    template <class Other>
+    friend Comparison<Other> operator==(Other* a, const ZFXHandle& b) {
+        return b == a;
+    }
+    template <class Other>
+    friend Comparison<Other> operator!=(const ZFXHandle& a, Other* b) {
+        return !(a == b);
+    }
+    template <class Other>
+    friend Comparison<Other> operator!=(Other* a, const ZFXHandle& b) {
+        return !(b == a);
+    }
     friend bool operator==(const ZFXHandle& a, std::nullptr_t) noexcept { return a.m_face == nullptr; }
+    friend bool operator==(std::nullptr_t, const ZFXHandle& b) noexcept { return b.m_face == nullptr; }
+    friend bool operator!=(const ZFXHandle& a, std::nullptr_t) noexcept { return a.m_face != nullptr; }
+    friend bool operator!=(std::nullptr_t, const ZFXHandle& b) noexcept { return b.m_face != nullptr; }
+    /// @}
 
 private:
     template <class Other>

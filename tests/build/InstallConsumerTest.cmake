@@ -1,11 +1,15 @@
 # Installs the build into an empty folder, moves the copy, and builds and runs the README's program against nothing
-# else: it must print what the README says, so libraries, headers, the message catalog and the README are all right.
+# else, found once by CMake and once by pkg-config: it must print what the README says, so libraries, headers, the
+# message catalog, the package files and the README are all right.
 
+# run(command...): the output's last line is left in `said`.
 function(run)
-  execute_process(COMMAND ${ARGV} COMMAND_ECHO STDOUT RESULT_VARIABLE outcome)
+  execute_process(COMMAND ${ARGV} COMMAND_ECHO STDOUT ECHO_OUTPUT_VARIABLE OUTPUT_STRIP_TRAILING_WHITESPACE
+    OUTPUT_VARIABLE said RESULT_VARIABLE outcome)
   if(NOT outcome EQUAL 0)
     message(FATAL_ERROR "ended with ${outcome}: ${ARGV}")
   endif()
+  set(said "${said}" PARENT_SCOPE)
 endfunction()
 
 # readme_block(language variable): the README's first block of code in that language.
@@ -17,6 +21,14 @@ function(readme_block language variable)
   set(${variable} "${CMAKE_MATCH_1}" PARENT_SCOPE)
 endfunction()
 
+# expect(promised command...)
+function(expect promised)
+  run(${ARGN})
+  if(NOT "${said}\n" STREQUAL "${promised}")
+    message(FATAL_ERROR "printed\n${said}\nwhere this is promised\n${promised}")
+  endif()
+endfunction()
+
 file(READ ${README} readme)
 readme_block(cpp program)
 readme_block(text promised)
@@ -26,14 +38,25 @@ file(WRITE ${WORK}/source/main.cpp "${program}")
 file(COPY ${CONSUMER}/CMakeLists.txt DESTINATION ${WORK}/source)
 run(${CMAKE_COMMAND} --install ${BUILD} --prefix ${WORK}/installed)
 file(RENAME ${WORK}/installed ${WORK}/moved)
+
 run(${CMAKE_COMMAND} -S ${WORK}/source -B ${WORK}/build -G ${GENERATOR}
   -DCMAKE_CXX_COMPILER=${COMPILER} -DCMAKE_PREFIX_PATH=${WORK}/moved)
 run(${CMAKE_COMMAND} --build ${WORK}/build)
+expect("${promised}" ${WORK}/build/consumer)
 
-execute_process(COMMAND ${WORK}/build/consumer OUTPUT_VARIABLE printed RESULT_VARIABLE outcome)
-if(NOT outcome EQUAL 0 OR NOT printed STREQUAL promised)
-  message(FATAL_ERROR "ended with ${outcome} and printed\n${printed}where the README says\n${promised}")
-endif()
+file(GLOB_RECURSE pc_file ${WORK}/moved/QVRNameUtility.pc)
+get_filename_component(pc_folder "${pc_file}" DIRECTORY)
+set(ENV{PKG_CONFIG_PATH} ${pc_folder})
+expect("${VERSION}\n" pkg-config --modversion QVRNameUtility)
+run(pkg-config --variable=libdir QVRNameUtility)
+set(libraries ${said})
+run(pkg-config --cflags --libs QVRNameUtility ZFXMemoryModel)
+separate_arguments(flags UNIX_COMMAND "${said}")
+run(${COMPILER} -std=c++17 -Wall -Wextra -Wpedantic -Werror ${WORK}/source/main.cpp -o ${WORK}/consumer ${flags}
+  -Wl,-rpath,${libraries})
+expect("${promised}" ${WORK}/consumer)
+
 if(HOST_PROGRAM)
-  run(${WORK}/moved/bin/${HOST_PROGRAM} --help)
+  expect("qvrnames ${VERSION}\n" ${WORK}/moved/bin/${HOST_PROGRAM} --version)
+  run(${WORK}/moved/bin/${HOST_PROGRAM} deck ${WORK}/moved/share/QVRGeneralUtilities/examples/rename-a-step.json)
 endif()

@@ -4,6 +4,7 @@
 #include "Commands.h"
 #include "Nearest.h"
 #include "Printing.h"
+#include "QVRNameUtilityVersion.h"
 
 #include "errors/MessageCatalog.h"
 
@@ -32,7 +33,7 @@ std::string Joined(const std::vector<std::string>& words) { return CLI::detail::
 class CommandLine {
 public:
     CommandLine(std::ostream& out, std::ostream& err, const Screen& screen) : m_console{out, err, screen} {
-        m_app.set_version_flag("--version", "qvrnames " QVRNAMES_VERSION);
+        m_app.set_version_flag("--version", "qvrnames " QVR_NAME_UTILITY_VERSION);
         m_app.require_subcommand(1);
         m_app.footer(kFooter);
         AddCommon(&m_app);
