@@ -42,9 +42,9 @@ install(DIRECTORY
   ${PROJECT_BINARY_DIR}/include/
   ${PROJECT_SOURCE_DIR}/platform/
   DESTINATION ${headers} FILES_MATCHING PATTERN "*.h" PATTERN "*.def" PATTERN "unicode" EXCLUDE)
-# The platform looks for catalogs in this folder beside itself.
+# The platform looks for catalogs in this folder beside itself; on Windows libraries lie beside programs.
 install(DIRECTORY ${PROJECT_SOURCE_DIR}/QVRGeneralUtilities/resources/msgcatalog
-        DESTINATION ${CMAKE_INSTALL_LIBDIR})
+        DESTINATION $<IF:$<PLATFORM_ID:Windows>,${CMAKE_INSTALL_BINDIR},${CMAKE_INSTALL_LIBDIR}>)
 
 install(EXPORT ${package}Targets NAMESPACE ${package}:: DESTINATION ${package_files})
 write_basic_package_version_file(${PROJECT_BINARY_DIR}/${package}ConfigVersion.cmake COMPATIBILITY SameMajorVersion)

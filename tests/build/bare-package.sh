@@ -68,7 +68,7 @@ step "use the command-line host"
 inside qvrnames --version
 inside qvrnames check Step-1
 outcome=0
-inside qvrnames check '*Step' || outcome=$?
+inside qvrnames check 1-Step || outcome=$?
 [ "$outcome" = 1 ]
 outcome=0
 inside qvrnames audit /usr/share/QVRGeneralUtilities/examples/pump-flange-bracket.json >"$folder/audit.txt" || outcome=$?
