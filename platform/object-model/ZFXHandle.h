@@ -7,10 +7,6 @@
 #include <type_traits>
 #include <utility>
 
-/// Whether a pointer to the one is also a pointer to the other, constant or not.
-template <class Derived, class Base>
-inline constexpr bool ZFXDerivesFrom = std::is_convertible_v<const volatile Derived*, const volatile Base*>;
-
 /// Holds one reference on an object, as one of its interfaces, or nothing.
 ///
 /// Making a handle from a handle or pointer of another type is the interface cast: the handle takes its own
@@ -19,18 +15,21 @@ inline constexpr bool ZFXDerivesFrom = std::is_convertible_v<const volatile Deri
 /// empty.
 template <class Interface>
 class ZFXHandle {
+    // Whether a pointer to the one is also a pointer to the other, constant or not.
+    template <class Derived, class Base>
+    static constexpr bool kDerivesFrom = std::is_convertible_v<const volatile Derived*, const volatile Base*>;
     template <class Other>
-    static constexpr bool kIsFace = ZFXDerivesFrom<Other, Interface>;
+    static constexpr bool kIsFace = kDerivesFrom<Other, Interface>;
     // With an object, constant or not, so that the comparison always fits better than that of two raw pointers would.
     template <class Other>
-    using Comparison = std::enable_if_t<ZFXDerivesFrom<Other, ZFXBaseUnknown>, bool>;
+    using Comparison = std::enable_if_t<kDerivesFrom<Other, ZFXBaseUnknown>, bool>;
 
 public:
     ZFXHandle() noexcept = default;
     /// Empty.
     ZFXHandle(std::nullptr_t) noexcept {}
     /// From a borrowed pointer. The pointer keeps its own reference.
-    template <class Other, class = std::enable_if_t<ZFXDerivesFrom<Other, ZFXBaseUnknown>>>
+    template <class Other, class = std::enable_if_t<kDerivesFrom<Other, ZFXBaseUnknown>>>
     ZFXHandle(Other* object) {
         Cast(object);
     }
