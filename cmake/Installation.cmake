@@ -23,9 +23,9 @@ install(TARGETS ${libraries} EXPORT QVRNameUtilityTargets INCLUDES DESTINATION $
 install(EXPORT QVRNameUtilityTargets NAMESPACE QVRNameUtility:: DESTINATION ${package})
 install(DIRECTORY ${PROJECT_SOURCE_DIR}/QVRGeneralUtilities/public-headers/ ${PROJECT_SOURCE_DIR}/platform/
         DESTINATION ${headers} FILES_MATCHING PATTERN "*.h" PATTERN "*.def" PATTERN "unicode" EXCLUDE)
-# The platform looks for catalogs in this folder beside itself.
+# The platform looks for catalogs in this folder beside itself; on Windows libraries lie beside programs.
 install(DIRECTORY ${PROJECT_SOURCE_DIR}/QVRGeneralUtilities/resources/msgcatalog
-        DESTINATION ${CMAKE_INSTALL_LIBDIR})
+        DESTINATION $<IF:$<PLATFORM_ID:Windows>,${CMAKE_INSTALL_BINDIR},${CMAKE_INSTALL_LIBDIR}>)
 
 write_basic_package_version_file(${PROJECT_BINARY_DIR}/QVRNameUtilityConfigVersion.cmake
   COMPATIBILITY SameMinorVersion)

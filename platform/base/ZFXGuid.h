@@ -1,14 +1,25 @@
 #pragma once
 
+/// A 128-bit identifier of an interface or class. Two of them are the same when their bits are. On Windows it is the
+/// system's own type, elsewhere one of the same shape.
+#ifdef _WIN32
+#include <guiddef.h>
+#else
+
 #include <cstdint>
+#include <cstring>
 
-/// A 128-bit identifier of an interface or class. Two of them are the same when their bits are.
 struct GUID {
-    std::uint64_t high = 0;
-    std::uint64_t low = 0;
-
-    friend constexpr bool operator==(const GUID&, const GUID&) noexcept = default;
+    std::uint32_t Data1;
+    std::uint16_t Data2;
+    std::uint16_t Data3;
+    unsigned char Data4[8];
 };
+
+inline bool operator==(const GUID& a, const GUID& b) noexcept { return std::memcmp(&a, &b, sizeof a) == 0; }
+inline bool operator!=(const GUID& a, const GUID& b) noexcept { return !(a == b); }
 
 using IID = GUID;
 using CLSID = GUID;
+
+#endif

@@ -1,8 +1,8 @@
 #include "errors/MessageCatalog.h"
 
-#include <dlfcn.h>
+#include "base/ZFXSharedLibrary.h"
+#include "text/Utf8Path.h"
 
-#include <filesystem>
 #include <fstream>
 #include <map>
 #include <mutex>
@@ -13,13 +13,12 @@ namespace {
 
 using Texts = std::map<std::string, ZFXUnicodeString, std::less<>>;
 
-std::string FolderBesideThisLibrary() {
-    Dl_info info{};
-    if (dladdr(reinterpret_cast<const void*>(&Find), &info) == 0 || info.dli_fname == nullptr)
+std::filesystem::path FolderBesideThisLibrary() {
+    const auto library = ZFXSharedLibrary::FileAt(reinterpret_cast<const void*>(&Find));
+    if (library.empty())
         return "msgcatalog";
     std::error_code ignored; // without a current folder the path stays as it is
-    const auto library = std::filesystem::absolute(info.dli_fname, ignored);
-    return (library.parent_path() / "msgcatalog").string();
+    return std::filesystem::absolute(library, ignored).parent_path() / "msgcatalog";
 }
 
 std::string_view Trim(std::string_view text) noexcept {
@@ -28,7 +27,7 @@ std::string_view Trim(std::string_view text) noexcept {
                                            : text.substr(first, text.find_last_not_of(" \t\r") - first + 1);
 }
 
-Texts Read(const std::string& file) {
+Texts Read(const std::filesystem::path& file) {
     Texts texts;
     std::ifstream in(file, std::ios::binary);
     for (std::string line; std::getline(in, line);) {
@@ -45,7 +44,7 @@ Texts Read(const std::string& file) {
 /// Messages are asked for by any thread that got a refusal.
 struct Catalogs {
     std::mutex guard;
-    std::string folder = FolderBesideThisLibrary();
+    std::filesystem::path folder = FolderBesideThisLibrary();
     std::map<std::string, Texts> known;
 };
 
@@ -64,7 +63,7 @@ std::optional<ZFXUnicodeString> Find(const std::string& catalog, std::string_vie
     const std::lock_guard lock(state.guard);
     auto known = state.known.find(catalog);
     if (known == state.known.end())
-        known = state.known.emplace(catalog, Read(state.folder + "/" + catalog + ".catalog")).first;
+        known = state.known.emplace(catalog, Read(state.folder / Utf8::ToPath(catalog + ".catalog"))).first;
     const auto text = known->second.find(key);
     return text == known->second.end() ? std::nullopt : std::optional(text->second);
 }
@@ -72,7 +71,7 @@ std::optional<ZFXUnicodeString> Find(const std::string& catalog, std::string_vie
 void SetFolder(const std::string& folder) {
     Catalogs& state = State();
     const std::lock_guard lock(state.guard);
-    state.folder = folder;
+    state.folder = Utf8::ToPath(folder);
     state.known.clear();
 }
 

@@ -18,8 +18,8 @@ namespace MessageCatalog {
 /// The text of a key, or nothing when the catalog or the key is missing.
 ZFX_PLATFORM_EXPORT std::optional<ZFXUnicodeString> Find(const std::string& catalog, std::string_view key);
 
-/// Where the catalogs lie from now on; those read already are forgotten. To be called before other threads
-/// run.
+/// Where the catalogs lie from now on, in UTF-8; those read already are forgotten. To be called before other
+/// threads run.
 ZFX_PLATFORM_EXPORT void SetFolder(const std::string& folder);
 
 } // namespace MessageCatalog

@@ -1,6 +1,6 @@
 #include "WholeFile.h"
 
-#include "BadInput.h"
+#include "FileFaults.h"
 
 #include <cerrno>
 #include <filesystem>
@@ -14,12 +14,7 @@
 namespace {
 
 [[noreturn]] void RefuseFile(const std::string& path, const std::string& action, int error) {
-    throw BadInput(path + ": cannot be " + action + ": " + std::generic_category().message(error));
-}
-
-[[noreturn]] void RefuseSize(const std::string& path) {
-    throw BadInput(path + ": larger than " + std::to_string(kLargestDocument >> 20) +
-                   " MB, which is the largest document that is read");
+    ::RefuseFile(path, action, std::generic_category().message(error));
 }
 
 /// Closes the file when it goes.
