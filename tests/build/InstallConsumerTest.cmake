@@ -27,13 +27,15 @@ file(COPY ${CONSUMER}/CMakeLists.txt DESTINATION ${WORK}/source)
 run(${CMAKE_COMMAND} --install ${BUILD} --prefix ${WORK}/installed)
 file(RENAME ${WORK}/installed ${WORK}/moved)
 run(${CMAKE_COMMAND} -S ${WORK}/source -B ${WORK}/build -G ${GENERATOR}
-  -DCMAKE_CXX_COMPILER=${COMPILER} -DCMAKE_PREFIX_PATH=${WORK}/moved)
+  -DCMAKE_CXX_COMPILER=${COMPILER} -DCMAKE_TOOLCHAIN_FILE=${TOOLCHAIN} -DCMAKE_PREFIX_PATH=${WORK}/moved
+  -DCMAKE_RUNTIME_OUTPUT_DIRECTORY=${WORK}/moved/bin)
 run(${CMAKE_COMMAND} --build ${WORK}/build)
 
-execute_process(COMMAND ${WORK}/build/consumer OUTPUT_VARIABLE printed RESULT_VARIABLE outcome)
+# Where Windows looks for the libraries, and as good a place as any elsewhere.
+execute_process(COMMAND ${EMULATOR} ${WORK}/moved/bin/consumer${ENDING} OUTPUT_VARIABLE printed RESULT_VARIABLE outcome)
 if(NOT outcome EQUAL 0 OR NOT printed STREQUAL promised)
   message(FATAL_ERROR "ended with ${outcome} and printed\n${printed}where the README says\n${promised}")
 endif()
 if(HOST_PROGRAM)
-  run(${WORK}/moved/bin/${HOST_PROGRAM} --help)
+  run(${EMULATOR} ${WORK}/moved/bin/${HOST_PROGRAM}${ENDING} --help)
 endif()

@@ -1,7 +1,14 @@
 # The module exports its classes, the marker and the factory: nothing else leaves it.
-execute_process(COMMAND ${NM} -D --defined-only -C ${MODULE} OUTPUT_VARIABLE symbols RESULT_VARIABLE failed)
+if(OBJDUMP) # a library of Windows: the names in its headers are what it exports, and nm does not read them
+  string(REGEX REPLACE "nm$" "c++filt" demangler "${NM}")
+  execute_process(COMMAND ${OBJDUMP} -p ${MODULE}
+    COMMAND sed -n "s/^\t\\[ *\\([0-9]*\\)\\] \\([^+ ]*\\)$/\\1 T \\2/p"
+    COMMAND ${demangler} OUTPUT_VARIABLE symbols RESULT_VARIABLE failed)
+else()
+  execute_process(COMMAND ${NM} -D --defined-only -C ${MODULE} OUTPUT_VARIABLE symbols RESULT_VARIABLE failed)
+endif()
 if(failed)
-  message(FATAL_ERROR "nm cannot read ${MODULE}")
+  message(FATAL_ERROR "${MODULE} cannot be read")
 endif()
 set(classes "QVRNameUtil|QVRGenZFXUnicodeStringUtils|QVRGenI18NUtils|QVRGenInstanceName|QVRBaseFeatureAlias|QVREFeatureAlias")
 set(functions "HALVERN_WORKS_UXM2_INTERNAL_QVRNameUtility|CreateTIEZFXIAliasQVREFeatureAlias")

@@ -1,10 +1,9 @@
+#include "base/ZFXSharedLibrary.h"
 #include "memory-model/MemoryModel.h"
 #include "object-model/ZFXMetaClass.h"
 #include "support/Said.h"
 
 #include <gtest/gtest.h>
-
-#include <dlfcn.h>
 
 namespace {
 
@@ -19,15 +18,16 @@ std::string Renamed() {
 TEST(Loading, TheModuleAnnouncesItselfAndLeavesNothingBehind) {
     EXPECT_EQ(Renamed(), "1.0");
     for (int i = 0; i < 10; ++i) {
-        void* module = dlopen(MODULE_FILE, RTLD_NOW | RTLD_LOCAL);
-        ASSERT_NE(module, nullptr) << dlerror();
-        auto* marker = reinterpret_cast<int (*)()>(dlsym(module, "HALVERN_WORKS_UXM2_INTERNAL_QVRNameUtility"));
-        ASSERT_NE(marker, nullptr);
-        EXPECT_EQ(marker(), 1);
-        EXPECT_EQ(fct_FindMetaObject("QVREFeatureAlias")->CountAdaptorFactories(), 1);
-        EXPECT_EQ(Renamed(), "Step-1");
-        dlclose(module);
-        EXPECT_EQ(dlopen(MODULE_FILE, RTLD_NOW | RTLD_NOLOAD), nullptr) << "the module stayed";
+        {
+            const ZFXSharedLibrary module(MODULE_FILE);
+            ASSERT_TRUE(module.IsLoaded());
+            auto* marker = reinterpret_cast<int (*)()>(module.Find("HALVERN_WORKS_UXM2_INTERNAL_QVRNameUtility"));
+            ASSERT_NE(marker, nullptr);
+            EXPECT_EQ(marker(), 1);
+            EXPECT_EQ(fct_FindMetaObject("QVREFeatureAlias")->CountAdaptorFactories(), 1);
+            EXPECT_EQ(Renamed(), "Step-1");
+        }
+        EXPECT_FALSE(ZFXSharedLibrary::IsInProcess(MODULE_FILE)) << "the module stayed";
         EXPECT_EQ(fct_FindMetaObject("QVREFeatureAlias")->CountAdaptorFactories(), 0);
         EXPECT_EQ(Renamed(), "1.0");
     }

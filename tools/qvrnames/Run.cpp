@@ -17,6 +17,7 @@ class CommandLine {
 public:
     CommandLine(std::ostream& out, std::ostream& err) : m_console{out, err} {
         m_app.set_version_flag("--version", "qvrnames " QVRNAMES_VERSION);
+        m_app.allow_windows_style_options(false); // what begins with "/" is a path or a JSON pointer on every system
         m_app.require_subcommand(1);
         m_app.footer("FEATURE is the id of a feature, its JSON pointer in the file (which begins with \"/\"), or\n"
                      "its path of names, such as Static/Step-1/Pressure-1, of which the last part is enough\n"

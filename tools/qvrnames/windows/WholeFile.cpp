@@ -40,6 +40,12 @@ private:
     HANDLE m_file;
 };
 
+constexpr DWORD kShareAll = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
+
+HANDLE OpenAsItIs(const std::filesystem::path& path, DWORD access) {
+    return CreateFileW(path.c_str(), access, kShareAll, nullptr, OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr);
+}
+
 bool Has(DWORD attributes, DWORD attribute) {
     return attributes != INVALID_FILE_ATTRIBUTES && (attributes & attribute) != 0;
 }
@@ -99,8 +105,7 @@ std::string ReadWholeFile(const std::string& path) {
     const std::filesystem::path name = Utf8::ToPath(path);
     if (Has(GetFileAttributesW(name.c_str()), FILE_ATTRIBUTE_DIRECTORY))
         RefuseFile(path, "read", std::generic_category().message(EISDIR));
-    const FileHandle file(CreateFileW(name.c_str(), GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE,
-                                    nullptr, OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr));
+    const FileHandle file(OpenAsItIs(name, GENERIC_READ));
     if (!file.IsOpen())
         RefuseFile(path, "read");
     LARGE_INTEGER size{}; // stays 0 for what has none
@@ -137,6 +142,9 @@ void ReplaceWholeFile(const std::string& path, const std::string& bytes, const s
     if (Has(attributes, FILE_ATTRIBUTE_DIRECTORY))
         throw BadInput(path + ": cannot be written: it is no regular file");
     const bool isThere = attributes != INVALID_FILE_ATTRIBUTES;
+    // A file that another program keeps for itself is told before anything is written.
+    if (isThere && !FileHandle(OpenAsItIs(target, DELETE)).IsOpen())
+        RefuseFile(path, "written");
     FileBeside file(path, target);
     file.Write(bytes);
     file.TakeThePlace(isThere);
