@@ -1,24 +1,33 @@
 #pragma once
 
+/// A 128-bit identifier of an interface or class. Two of them are the same when their bits are. On Windows it is the
+/// system's own type, elsewhere one of the same shape.
+#ifdef _WIN32
+#include <guiddef.h>
+#else
+
 #include <cstdint>
+#include <cstring>
 
-/// A 128-bit identifier of an interface or class. Two of them are the same when their bits are.
 struct GUID {
-    /// The upper 64 bits.
-    std::uint64_t high = 0;
-    /// The lower 64 bits.
-    std::uint64_t low = 0;
-
-    /// Whether all bits are the same.
+    /// The bits, in the parts that are written with hyphens between them.
     /// @{
-    friend constexpr bool operator==(const GUID& a, const GUID& b) noexcept {
-        return a.high == b.high && a.low == b.low;
-    }
-    friend constexpr bool operator!=(const GUID& a, const GUID& b) noexcept { return !(a == b); }
+    std::uint32_t Data1;
+    std::uint16_t Data2;
+    std::uint16_t Data3;
+    unsigned char Data4[8];
     /// @}
 };
+
+/// Whether all bits are the same.
+/// @{
+inline bool operator==(const GUID& a, const GUID& b) noexcept { return std::memcmp(&a, &b, sizeof a) == 0; }
+inline bool operator!=(const GUID& a, const GUID& b) noexcept { return !(a == b); }
+/// @}
 
 /// The identifier of an interface.
 using IID = GUID;
 /// The identifier of a class.
 using CLSID = GUID;
+
+#endif

@@ -1,6 +1,7 @@
 #include "errors/MessageCatalog.h"
 
-#include <dlfcn.h>
+#include "base/ZFXSharedLibrary.h"
+#include "text/Utf8Path.h"
 
 #include <algorithm>
 #include <filesystem>
@@ -17,13 +18,12 @@ constexpr const char* kEnding = ".msg";
 
 using Texts = std::map<std::string, ZFXUnicodeString, std::less<>>;
 
-std::string FolderBesideThisLibrary() {
-    Dl_info info{};
-    if (dladdr(reinterpret_cast<const void*>(&Find), &info) == 0 || info.dli_fname == nullptr)
+std::filesystem::path FolderBesideThisLibrary() {
+    const auto library = ZFXSharedLibrary::FileAt(reinterpret_cast<const void*>(&Find));
+    if (library.empty())
         return "msgcatalog";
     std::error_code ignored; // without a current folder the path stays as it is
-    const auto library = std::filesystem::absolute(info.dli_fname, ignored);
-    return (library.parent_path() / "msgcatalog").string();
+    return std::filesystem::absolute(library, ignored).parent_path() / "msgcatalog";
 }
 
 std::string_view Trim(std::string_view text) noexcept {
@@ -32,7 +32,7 @@ std::string_view Trim(std::string_view text) noexcept {
                                            : text.substr(first, text.find_last_not_of(" \t\r") - first + 1);
 }
 
-Texts Read(const std::string& file) {
+Texts Read(const std::filesystem::path& file) {
     Texts texts;
     std::ifstream in(file, std::ios::binary);
     for (std::string line; std::getline(in, line);) {
@@ -49,14 +49,14 @@ Texts Read(const std::string& file) {
 /// Messages are asked for by any thread that got a refusal.
 struct Catalogs {
     std::mutex guard;
-    std::string folder = FolderBesideThisLibrary();
+    std::filesystem::path folder = FolderBesideThisLibrary();
     std::string language;               ///< empty: English
     std::map<std::string, Texts> known; ///< by the name of the file
 
     std::optional<ZFXUnicodeString> Find(const std::string& file, std::string_view key) {
         auto found = known.find(file);
         if (found == known.end())
-            found = known.emplace(file, Read(folder + "/" + file + kEnding)).first;
+            found = known.emplace(file, Read(folder / Utf8::ToPath(file + kEnding))).first;
         const auto text = found->second.find(key);
         return text == found->second.end() ? std::nullopt : std::optional(text->second);
     }
@@ -98,7 +98,7 @@ std::optional<ZFXUnicodeString> Find(const std::string& catalog, std::string_vie
 void SetFolder(const std::string& folder) {
     Catalogs& state = State();
     const std::lock_guard lock(state.guard);
-    state.folder = folder;
+    state.folder = Utf8::ToPath(folder);
     state.known.clear();
 }
 

@@ -21,8 +21,8 @@ namespace MessageCatalog {
 /// when the English catalog lacks it too.
 ZFX_PLATFORM_EXPORT std::optional<ZFXUnicodeString> Find(const std::string& catalog, std::string_view key);
 
-/// Where the catalogs lie from now on; those read already are forgotten. To be called before other threads
-/// run.
+/// Where the catalogs lie from now on, in UTF-8; those read already are forgotten. To be called before other
+/// threads run.
 ZFX_PLATFORM_EXPORT void SetFolder(const std::string& folder);
 
 /// The language of all texts of this process from now on, as its code alone or with a region, an encoding or

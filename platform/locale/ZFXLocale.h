@@ -1,11 +1,18 @@
 #pragma once
 
+// The two locale values of the operating system. Windows has both, in <windows.h>; elsewhere they are made here, in
+// the same identifiers: a locale identifier has 32 bits; an input locale has the identifier of its language in the
+// low 16 bits and that of the keyboard layout above.
+#ifdef _WIN32
+
+#include <windows.h>
+
+#else
+
 #include "base/ZFXPlatformExport.h"
 
 #include <cstdint>
 
-/// The two locale values of the operating system, in its own identifiers: a locale identifier has 32 bits; an
-/// input locale has the identifier of its language in the low 16 bits and that of the keyboard layout above.
 using LCID = std::uint32_t;
 /// An input locale.
 using HKL = std::uintptr_t;
@@ -21,3 +28,5 @@ ZFX_PLATFORM_EXPORT HKL GetKeyboardLayout(std::uint32_t thread);
 ZFX_PLATFORM_EXPORT void ZFXSetLocales(LCID userLocale, HKL inputLocale);
 /// Back to following the message locale.
 ZFX_PLATFORM_EXPORT void ZFXFollowMessageLocale();
+
+#endif

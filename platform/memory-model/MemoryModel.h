@@ -6,7 +6,13 @@
 #include <memory>
 
 /// Marks what the model offers to programs.
+#if !defined(_WIN32)
 #define ZFX_MEMORY_EXPORT __attribute__((visibility("default")))
+#elif defined(ZFXMemoryModel_EXPORTS) // its own sources are compiled
+#define ZFX_MEMORY_EXPORT __declspec(dllexport)
+#else
+#define ZFX_MEMORY_EXPORT __declspec(dllimport)
+#endif
 
 class MemoryDocument;
 class MemoryModel;

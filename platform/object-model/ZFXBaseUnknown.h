@@ -89,7 +89,7 @@ private:
 };
 
 /// The identifier that every object answers with itself.
-inline constexpr IID IID_ZFXBaseUnknown{0x5A46580000000000U, 0};
+inline constexpr IID IID_ZFXBaseUnknown{0x5A465800U, 0, 0, {}};
 /// Passed where members of any kind are wanted.
 inline constexpr IID CLSID_ZFXBaseUnknown = IID_ZFXBaseUnknown;
 

@@ -14,17 +14,18 @@ enum class ZFXInterfaceNumber : unsigned {
     Count
 };
 
-/// IID_ZFXIAlias and its kin: the number stands in the lower half.
+/// IID_ZFXIAlias and its kin: the root's with the number added.
 #define ZFX_INTERFACE(name)                                                                                            \
-    inline constexpr IID IID_##name{IID_ZFXBaseUnknown.high + 1, static_cast<std::uint64_t>(ZFXInterfaceNumber::name)};
+    inline constexpr IID IID_##name{                                                                                   \
+        IID_ZFXBaseUnknown.Data1 + static_cast<unsigned>(ZFXInterfaceNumber::name), 0, 0, {}};
 #include "object-model/ZFXInterfaces.def"
 #undef ZFX_INTERFACE
 
 /// The number of an interface of this platform, or None for any other identifier.
-constexpr ZFXInterfaceNumber ZFXNumberOf(const IID& iid) noexcept {
-    const bool known =
-        iid.high == IID_ZFXBaseUnknown.high + 1 && iid.low < static_cast<std::uint64_t>(ZFXInterfaceNumber::Count);
-    return known ? static_cast<ZFXInterfaceNumber>(iid.low) : ZFXInterfaceNumber::None;
+inline ZFXInterfaceNumber ZFXNumberOf(const IID& iid) noexcept {
+    const auto number = static_cast<unsigned>(iid.Data1 - IID_ZFXBaseUnknown.Data1);
+    const bool known = number < static_cast<unsigned>(ZFXInterfaceNumber::Count) && iid == IID{iid.Data1, 0, 0, {}};
+    return known ? static_cast<ZFXInterfaceNumber>(number) : ZFXInterfaceNumber::None;
 }
 
 /// The identifier of an interface by its name, or null. [borrowed]

@@ -1,6 +1,7 @@
 #include "object-model/ZFXMetaClass.h"
 
 #include <algorithm>
+#include <cstdint>
 #include <cstring>
 #include <map>
 #include <memory>
@@ -10,11 +11,14 @@ namespace {
 
 /// An identifier made from the class's name: the same in every process.
 GUID IdOfName(std::string_view name) noexcept {
-    GUID id{0xCBF29CE484222325U, 0x84222325CBF29CE4U};
+    std::uint64_t halves[] = {0xCBF29CE484222325U, 0x84222325CBF29CE4U};
     for (const char c : name) {
-        id.high = (id.high ^ static_cast<unsigned char>(c)) * 0x100000001B3U;
-        id.low = (id.low + static_cast<unsigned char>(c)) * 0x9E3779B97F4A7C15U;
+        halves[0] = (halves[0] ^ static_cast<unsigned char>(c)) * 0x100000001B3U;
+        halves[1] = (halves[1] + static_cast<unsigned char>(c)) * 0x9E3779B97F4A7C15U;
     }
+    GUID id;
+    static_assert(sizeof id == sizeof halves);
+    std::memcpy(&id, halves, sizeof id);
     return id;
 }
 

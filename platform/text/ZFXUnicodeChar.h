@@ -39,8 +39,8 @@ public:
 
 private:
     static constexpr char16_t UnitOf(char c) noexcept {
-        const auto byte = static_cast<unsigned char>(c);
-        return byte < 0x80 ? static_cast<char16_t>(byte) : u'\uFFFD';
+        const auto code = static_cast<unsigned char>(c);
+        return code < 0x80 ? static_cast<char16_t>(code) : u'\uFFFD';
     }
 
     char16_t m_unit = 0;

@@ -137,4 +137,22 @@ TEST_F(GenericNamesTest, SolverCompliantNamesFallBackOnGenericOnes) {
     EXPECT_EQ(count, 4);
 }
 
+TEST(UsedNames, AreCountedExactlyUntilReset) {
+    QVRGenI18NUtils* utils = QVRGenI18NUtils::Instance();
+    EXPECT_EQ(utils, QVRGenI18NUtils::Instance());
+    utils->ResetAllLists();
+    int count = 9;
+    EXPECT_EQ(utils->FindNameAndNextID("Thickness", count), 0);
+    EXPECT_EQ(count, 0);
+    EXPECT_EQ(utils->PushNameToList("Thickness"), S_OK);
+    utils->PushNameToList("Thickness");
+    EXPECT_EQ(utils->FindNameAndNextID("Thickness", count), 1);
+    EXPECT_EQ(count, 2);
+    EXPECT_EQ(utils->FindNameAndNextID("thickness", count), 0);
+    QVRGenI18NUtils copy(*utils);
+    utils->ResetAllLists();
+    EXPECT_EQ(utils->FindNameAndNextID("Thickness", count), 0);
+    EXPECT_EQ(copy.FindNameAndNextID("Thickness", count), 1);
+}
+
 } // namespace

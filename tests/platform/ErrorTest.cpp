@@ -1,10 +1,10 @@
 #include "support/Said.h"
 
 #include "errors/MessageCatalog.h"
+#include "text/Utf8Path.h"
 
 #include <gtest/gtest.h>
 
-#include <filesystem>
 #include <fstream>
 #include <functional>
 #include <thread>
@@ -41,11 +41,11 @@ TEST(Error, IsFoundUnderItsOwnCodeUntilManyOthersCame) {
 }
 
 TEST(Error, SpeaksAsItsCatalogSays) {
-    const auto folder = std::filesystem::temp_directory_path() / "qvr-catalog-test";
+    const auto folder = std::filesystem::temp_directory_path() / Utf8::ToPath("qvr-catalog-Träger");
     std::filesystem::create_directories(folder);
     std::ofstream(folder / "Tests.msg") << "# comment\n\nId.Diagnostic = Bad: /P1, /P2 \r\nId.Advice=Mend = it\n";
     std::ofstream(folder / "Tests_xy.msg") << "Id.Diagnostic = /P2, /P1: böse\n";
-    MessageCatalog::SetFolder(folder.string());
+    MessageCatalog::SetFolder(Utf8::FromPath(folder));
     auto* error = new ZFXInputError("Id", "Tests");
     ZFXUnicodeString a("ä");
     ZFXUnicodeString b("b");

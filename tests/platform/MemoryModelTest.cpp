@@ -86,8 +86,8 @@ TEST_F(MemoryModelTest, AnyRequestCanBeToldWhatToAnswer) {
     EXPECT_EQ(members(), std::pair(S_OK, 1));
     EXPECT_EQ(model.Requests(), before + 1);
     loads.Answer(MemoryRequest::ListMembers, {1, false});
-    EXPECT_EQ(members(), std::pair(1, 0));
-    EXPECT_EQ(members(), std::pair(1, 0));
+    EXPECT_EQ(members(), std::pair(HRESULT{1}, 0));
+    EXPECT_EQ(members(), std::pair(HRESULT{1}, 0));
     model.Heal();
     model.AnswerOnce(MemoryRequest::Any, 2); // each rule counts every request that it is meant for
     model.AnswerOnce(MemoryRequest::ListMembers, 3);

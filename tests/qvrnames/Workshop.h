@@ -2,24 +2,25 @@
 
 #include "Run.h"
 
-#include <cstdlib>
-#include <filesystem>
+#include "text/Utf8Path.h"
+
 #include <fstream>
+#include <random>
 #include <sstream>
 #include <string>
 #include <vector>
 
-/// A folder for the files of one test, gone with it.
+/// A folder for the files of one test, gone with it. Its name is one that only UTF-8 can tell.
 class Workshop {
 public:
-    Workshop() : m_folder(mkdtemp(m_name)) {}
+    Workshop() { std::filesystem::create_directory(m_folder); }
     Workshop(const Workshop&) = delete;
     Workshop& operator=(const Workshop&) = delete;
     ~Workshop() { std::filesystem::remove_all(m_folder); }
 
-    std::string Path(const std::string& name) const { return (m_folder / name).string(); }
+    std::string Path(const std::string& name) const { return Utf8::FromPath(m_folder / name); }
     std::string Write(const std::string& name, const std::string& text) const {
-        std::ofstream(Path(name), std::ios::binary) << text;
+        std::ofstream(Utf8::ToPath(Path(name)), std::ios::binary) << text;
         return Path(name);
     }
     std::size_t Files() const {
@@ -28,13 +29,13 @@ public:
     }
 
 private:
-    char m_name[32] = "/tmp/qvrnames-test-XXXXXX";
-    std::filesystem::path m_folder;
+    const std::filesystem::path m_folder =
+        std::filesystem::temp_directory_path() / Utf8::ToPath("Träger-温-" + std::to_string(std::random_device{}()));
 };
 
 inline std::string TextOfFile(const std::string& path) {
     std::ostringstream text;
-    text << std::ifstream(path, std::ios::binary).rdbuf();
+    text << std::ifstream(Utf8::ToPath(path), std::ios::binary).rdbuf();
     return text.str();
 }
 

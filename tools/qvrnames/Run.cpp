@@ -34,6 +34,7 @@ class CommandLine {
 public:
     CommandLine(std::ostream& out, std::ostream& err, const Screen& screen) : m_console{out, err, screen} {
         m_app.set_version_flag("--version", "qvrnames " QVR_NAME_UTILITY_VERSION);
+        m_app.allow_windows_style_options(false); // what begins with "/" is a path or a JSON pointer on every system
         m_app.require_subcommand(1);
         m_app.footer(kFooter);
         AddCommon(&m_app);

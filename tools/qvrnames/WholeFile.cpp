@@ -1,6 +1,6 @@
 #include "WholeFile.h"
 
-#include "BadInput.h"
+#include "FileFaults.h"
 
 #include <cerrno>
 #include <filesystem>
@@ -14,12 +14,7 @@
 namespace {
 
 [[noreturn]] void RefuseFile(const std::string& path, const std::string& action, int error) {
-    throw BadInput(FileForPeople(path) + ": cannot be " + action + ": " + std::generic_category().message(error));
-}
-
-[[noreturn]] void RefuseSize(const std::string& path) {
-    throw BadInput(FileForPeople(path) + ": larger than " + std::to_string(kLargestDocument >> 20) +
-                   " MB, which is the largest document that is read");
+    ::RefuseFile(path, action, std::generic_category().message(error));
 }
 
 /// Closes the file when it goes.
@@ -97,8 +92,6 @@ mode_t UsualPermissions() {
 }
 
 } // namespace
-
-std::string FileForPeople(const std::string& path) { return path == kStandardStream ? "standard input" : path; }
 
 std::string ReadWholeFile(const std::string& path) {
     const OpenFile file(path == kStandardStream ? dup(STDIN_FILENO) : open(path.c_str(), O_RDONLY | O_CLOEXEC));

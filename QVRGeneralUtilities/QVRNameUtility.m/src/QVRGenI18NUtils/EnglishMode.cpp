@@ -3,6 +3,7 @@
 #include "locale/ZFXLocale.h"
 
 #include <algorithm>
+#include <cstdint>
 #include <iostream>
 
 namespace {
@@ -27,7 +28,7 @@ unsigned char QVRGenI18NUtils::IsEnglishUserLocale() noexcept {
 }
 
 unsigned char QVRGenI18NUtils::IsEnglishInputLocale() noexcept {
-    return IsLCIDInEnglishIDs(static_cast<int>(GetKeyboardLayout(0) & 0xFFFFU));
+    return IsLCIDInEnglishIDs(static_cast<int>(reinterpret_cast<std::uintptr_t>(GetKeyboardLayout(0)) & 0xFFFFU));
 }
 
 unsigned char QVRGenI18NUtils::IsEnglishMode() noexcept {
