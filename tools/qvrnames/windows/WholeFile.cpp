@@ -57,8 +57,8 @@ public:
         : m_asGiven(asGiven),
           m_target(target),
           m_path(target.parent_path() / (L".qvrnames-" + std::to_wstring(GetCurrentProcessId()))),
-          m_file(CreateFileW(m_path.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, FILE_ATTRIBUTE_NORMAL,
-                             nullptr)) {
+          m_file(
+              CreateFileW(m_path.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, FILE_ATTRIBUTE_NORMAL, nullptr)) {
         Check(m_file.IsOpen());
     }
     FileBeside(const FileBeside&) = delete;
