@@ -15,7 +15,7 @@ ZFXSharedLibrary::~ZFXSharedLibrary() {
 }
 
 void* ZFXSharedLibrary::Find(const char* function) const noexcept {
-    return reinterpret_cast<void*>(GetProcAddress(static_cast<HMODULE>(m_library), function));
+    return IsLoaded() ? reinterpret_cast<void*>(GetProcAddress(static_cast<HMODULE>(m_library), function)) : nullptr;
 }
 
 bool ZFXSharedLibrary::IsInProcess(const std::filesystem::path& file) noexcept {

@@ -7,6 +7,7 @@
 /// A shared library that a program loads while it runs, held for as long as this object lives.
 class ZFX_PLATFORM_EXPORT ZFXSharedLibrary {
 public:
+    /// Loads it, or finds it loaded; IsLoaded tells whether that went well.
     explicit ZFXSharedLibrary(const std::filesystem::path& file) noexcept;
     ZFXSharedLibrary(const ZFXSharedLibrary&) = delete;
     ZFXSharedLibrary& operator=(const ZFXSharedLibrary&) = delete;

@@ -13,6 +13,7 @@
 
 #include <cstdint>
 
+/// A locale identifier.
 using LCID = std::uint32_t;
 /// An input locale.
 using HKL = std::uintptr_t;
