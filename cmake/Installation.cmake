@@ -58,7 +58,8 @@ install(FILES
 # The pages keep their places to each other, so that their links hold.
 install(FILES README.md ARCHITECTURE.md CONTRIBUTING.md CHANGELOG.md DESTINATION ${CMAKE_INSTALL_DOCDIR})
 install(FILES platform/README.md DESTINATION ${CMAKE_INSTALL_DOCDIR}/platform)
-install(DIRECTORY docs DESTINATION ${CMAKE_INSTALL_DOCDIR} PATTERN "man" EXCLUDE)
+install(DIRECTORY docs DESTINATION ${CMAKE_INSTALL_DOCDIR}
+  FILES_MATCHING PATTERN "*.md" PATTERN "*.svg" PATTERN "man" EXCLUDE)
 
 if(TARGET qvrnames)
   file(RELATIVE_PATH libraries_from_programs
