@@ -5,6 +5,9 @@
 #include "object-model/ZFXBaseUnknown.h"
 #include "object-model/ZFXHandle.h"
 
+#include <cstddef>
+#include <cstring>
+
 /// The number of each interface, from 1.
 enum class ZFXInterfaceNumber : unsigned {
     None,
@@ -24,7 +27,12 @@ enum class ZFXInterfaceNumber : unsigned {
 /// The number of an interface of this platform, or None for any other identifier.
 inline ZFXInterfaceNumber ZFXNumberOf(const IID& iid) noexcept {
     const auto number = static_cast<unsigned>(iid.Data1 - IID_ZFXBaseUnknown.Data1);
-    const bool known = number < static_cast<unsigned>(ZFXInterfaceNumber::Count) && iid == IID{iid.Data1, 0, 0, {}};
+    // All but the first part is the root's; it is compared where it stands, as every cast comes this way.
+    constexpr std::size_t kFirst = sizeof iid.Data1;
+    const auto* rest = reinterpret_cast<const unsigned char*>(&iid) + kFirst;
+    const auto* rootsRest = reinterpret_cast<const unsigned char*>(&IID_ZFXBaseUnknown) + kFirst;
+    const bool known = number < static_cast<unsigned>(ZFXInterfaceNumber::Count) &&
+                       std::memcmp(rest, rootsRest, sizeof(IID) - kFirst) == 0;
     return known ? static_cast<ZFXInterfaceNumber>(number) : ZFXInterfaceNumber::None;
 }
 
