@@ -1,6 +1,6 @@
 #include "WholeFile.h"
 
-#include "FileFaults.h"
+#include "AllBytes.h"
 
 #include <cerrno>
 #include <filesystem>
@@ -100,27 +100,16 @@ std::string ReadWholeFile(const std::string& path) {
         RefuseFile(path, "read", errno);
     if (S_ISDIR(status.st_mode))
         RefuseFile(path, "read", EISDIR);
-    if (S_ISREG(status.st_mode) && static_cast<std::size_t>(status.st_size) > kLargestDocument)
-        RefuseSize(path);
-    std::string bytes;
-    std::size_t length = 0;
-    for (;;) {
-        // One byte more than a regular file has, so that the second read tells its end.
-        const std::size_t room = length == 0 ? static_cast<std::size_t>(status.st_size) + 1 : std::size_t{1} << 20;
-        bytes.resize(length + room);
-        const ssize_t got = read(file, bytes.data() + length, room);
-        if (got < 0 && errno == EINTR)
-            continue;
-        if (got < 0)
-            RefuseFile(path, "read", errno);
-        length += static_cast<std::size_t>(got);
-        if (length > kLargestDocument)
-            RefuseSize(path);
-        if (got == 0)
-            break;
-    }
-    bytes.resize(length);
-    return bytes;
+    const std::size_t size = S_ISREG(status.st_mode) ? static_cast<std::size_t>(status.st_size) : 0;
+    return AllBytes(path, size, [&](char* place, std::size_t room) {
+        for (;;) {
+            const ssize_t got = read(file, place, room);
+            if (got >= 0)
+                return static_cast<std::size_t>(got);
+            if (errno != EINTR)
+                RefuseFile(path, "read", errno);
+        }
+    });
 }
 
 void ReplaceWholeFile(const std::string& path, const std::string& bytes, const std::string& model) {

@@ -1,6 +1,6 @@
 #include "WholeFile.h"
 
-#include "FileFaults.h"
+#include "AllBytes.h"
 
 #include "text/Utf8Path.h"
 
@@ -119,26 +119,13 @@ std::string ReadWholeFile(const std::string& path) {
         RefuseFile(path, "read");
     LARGE_INTEGER size{}; // stays 0 for what has none
     GetFileSizeEx(file, &size);
-    if (static_cast<std::size_t>(size.QuadPart) > kLargestDocument)
-        RefuseSize(path);
-    std::string bytes;
-    std::size_t length = 0;
-    for (;;) {
-        // One byte more than a regular file has, so that the second read tells its end.
-        const std::size_t room = length == 0 ? static_cast<std::size_t>(size.QuadPart) + 1 : std::size_t{1} << 20;
-        bytes.resize(length + room);
+    return AllBytes(path, static_cast<std::size_t>(size.QuadPart), [&](char* place, std::size_t room) {
         DWORD got = 0;
-        if (ReadFile(file, bytes.data() + length, static_cast<DWORD>(room), &got, nullptr) == 0 &&
+        if (ReadFile(file, place, static_cast<DWORD>(room), &got, nullptr) == 0 &&
             GetLastError() != ERROR_BROKEN_PIPE) // the end of a pipe
             RefuseFile(path, "read");
-        length += got;
-        if (length > kLargestDocument)
-            RefuseSize(path);
-        if (got == 0)
-            break;
-    }
-    bytes.resize(length);
-    return bytes;
+        return static_cast<std::size_t>(got);
+    });
 }
 
 void ReplaceWholeFile(const std::string& path, const std::string& bytes, const std::string& /*model*/) {
