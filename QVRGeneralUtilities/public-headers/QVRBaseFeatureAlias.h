@@ -13,17 +13,23 @@ public:
     QVRBaseFeatureAlias();
     ~QVRBaseFeatureAlias() override;
 
-    /// The stored alias; empty when it was never set or cannot be read.
+    /// Returns the stored alias, or an empty string if it was never set or cannot be read.
     ZFXUnicodeString GetAlias() noexcept;
-    /// Trims blanks, then underscores, at both ends, stores the rest and checks it on the feature: by
-    /// QVRNameUtil::CheckName (a leading digit is legal for "QVRShellSectionEnhLT"), whose answer for a job gives way
-    /// to that of QVRNameUtil::IsNameUniqueAcrossCases. After a refusal the former alias, as it was read, is back; when
-    /// the refusal registered an error, "NAME ERROR: " and its message are written as one line on standard output.
-    /// Without ZFXISpecAttrAccess or an "Alias" attribute nothing is stored; without ZFXISpecObject nothing is checked
-    /// or changed.
+    /// Changes the alias if the new one passes the name rules.
+    ///
+    /// Reads the former alias, removes spaces and then underscores at both ends of `alias`, stores the result and checks
+    /// it. Stores it again if the check passes, otherwise stores the former alias. No request is repeated: a host whose
+    /// request fails gets the result of the remaining steps. The check is
+    /// - QVRNameUtil::IsNameUniqueAcrossCases for the late type "QVRJobLT";
+    /// - QVRNameUtil::CheckName without the test of the first character for "QVRShellSectionEnhLT";
+    /// - QVRNameUtil::CheckName for every other late type.
+    ///
+    /// If the check registers an error, writes "NAME ERROR: " and its message as one line on standard output. A failure
+    /// without an error is silent; read the alias again to detect it. Stores nothing if the feature does not offer
+    /// ZFXISpecAttrAccess or has no attribute "Alias". Checks nothing if the object does not offer ZFXISpecObject.
     void SetAlias(const ZFXUnicodeString& alias) noexcept;
 
 private:
-    /// Stores a value without any check.
+    /// Stores `value` without a check.
     void SetAttribute(const ZFXUnicodeString& value) noexcept;
 };

@@ -208,14 +208,17 @@ TEST_F(FailingRequestsTest, GiveAStatedAnswerAndLeaveNothingBehind) {
           {"S_OK|Instance0-MSHPartOctree3D-2|Part0-MSHPartOctree3D-2", "GetTag0"},
           {"S_OK|Instance4--2|Part4--2", "GetLateType"}, {"S_OK|Instance4|Part4", "GetAlias"}, {"code|p", "GetTag-+"}}},
         {"SetAlias, refused", [&] { return Rename(step, "Step-1", "1.0"); }, "Step-1|NAME ERROR",
-         {{"Step-1|", "Cast"}}},
+         {{"1.0|NAME ERROR", "Cast GetAttrKey SetString"}, {"Step-1|", "Cast"},
+          {"|NAME ERROR", "Cast GetAttrKey GetString"}}},
         {"SetAlias, stored", [&] { return Rename(section, "P-1", " P-3_"); }, "P-3|",
          {{"P-1|", "Cast GetParentSets-+ ListMembers-+"}, {"P-1|NAME ERROR", "Cast"}}},
         {"SetAlias, emptied", [&] { return Rename(section, "P-1", " _"); }, "P-1|NAME ERROR",
-         {{"P-1|", "Cast GetParentSets-+ ListMembers-+"}}},
+         {{"P-1|", "Cast GetParentSets-+ ListMembers-+"}, {"|", "Cast GetAttrKey SetString"},
+          {"|NAME ERROR", "Cast GetAttrKey GetString SetString"}}},
         {"SetAlias, a job", [&] { return Rename(job, "Job-1", "job-2"); }, "Job-1|NAME ERROR",
          {{"Job-1|", "Cast GetFather GetParentSets-+ ListMembers-+"},
-          {"job-2|", "Cast FindObjectsOfType GetAttrKey GetLateType GetParentSets0 GetString ListAnalysisCases ListMembers0"}}},
+          {"job-2|", "Cast FindObjectsOfType GetAttrKey GetLateType GetParentSets0 GetString ListAnalysisCases ListMembers0"},
+          {"job-2|NAME ERROR", "Cast GetAttrKey SetString"}, {"|NAME ERROR", "Cast GetAttrKey GetString"}}},
     };
     // clang-format on
     const auto answerOf = [&](const Row& row) {

@@ -10,7 +10,8 @@
 
 namespace {
 
-/// The attribute "Alias" of a feature, opened for one reading or writing. Both do nothing when it has none.
+/// The attribute "Alias" of a feature, for one read or one write. Without the attribute, Read returns an empty string
+/// and Write does nothing.
 class AliasAttribute {
 public:
     explicit AliasAttribute(ZFXBaseUnknown* extension) : m_access(extension) {
@@ -29,6 +30,12 @@ private:
     ZFXISpecAttrKey_var m_key;
 };
 
+/// Prints the message of the error that is registered under a code. Prints nothing if there is none.
+void PrintError(HRESULT code) {
+    if (ZFXError* error = ZFXError::ZFXGetLastError(code, nullptr))
+        std::cout << "NAME ERROR: " << error->GetNLSMessage().ConvertToChar() << std::endl;
+}
+
 } // namespace
 
 QVRBaseFeatureAlias::QVRBaseFeatureAlias() = default;
@@ -39,30 +46,22 @@ ZFXUnicodeString QVRBaseFeatureAlias::GetAlias() noexcept { return AliasAttribut
 void QVRBaseFeatureAlias::SetAttribute(const ZFXUnicodeString& value) noexcept { AliasAttribute(this).Write(value); }
 
 void QVRBaseFeatureAlias::SetAlias(const ZFXUnicodeString& alias) noexcept {
-    ZFXUnicodeString former = GetAlias();
-    if (former.IsNull() != 0)
-        former = GetAlias(); // a failed request reads as empty too, and what cannot be read cannot be put back
+    ZFXUnicodeString kept = GetAlias();
     const ZFXUnicodeString candidate = alias.Strip(ZFXUnicodeString::StripBoth).Strip(ZFXUnicodeString::StripBoth, '_');
     ZFXISpecObject_var feature(this);
     if (feature == nullptr) {
-        SetAttribute(former);
+        SetAttribute(kept);
         return;
     }
-    SetAttribute(candidate); // the checks see the feature under its new name
-    if (candidate.IsNull() != 0 && GetAlias().IsNull() == 0)
-        SetAttribute(candidate); // an empty one is checked as what is stored, so it must be
+    SetAttribute(candidate); // The checks read the feature's alias and must see the new one.
     const ZFXUnicodeString lateType = feature->GetLateType();
     const unsigned char checkStartAndEnd = lateType == Vocabulary::QVRShellSectionEnhLT ? 0 : 1;
     HRESULT code = QVRNameUtil::CheckName(feature, candidate, checkStartAndEnd);
     if (lateType == Vocabulary::QVRJobLT)
         code = QVRNameUtil::IsNameUniqueAcrossCases(feature, candidate);
-    if (!Failed(code)) {
-        SetAttribute(candidate);
-        return;
-    }
-    if (ZFXError* error = ZFXError::ZFXGetLastError(code, nullptr))
-        std::cout << "NAME ERROR: " << error->GetNLSMessage().ConvertToChar() << std::endl;
-    SetAttribute(former);
-    if (GetAlias() != former)
-        SetAttribute(former); // a refusal leaves the alias as it was, also when a request to put it back failed
+    if (Failed(code))
+        PrintError(code);
+    else
+        kept = candidate;
+    SetAttribute(kept);
 }
