@@ -87,12 +87,6 @@ protected:
 
 private:
     unsigned char IsLCIDInEnglishIDs(int lcid) noexcept;
-    /// How many of the features met are of a late type.
-    int CountMet(const ZFXUnicodeString& lateType);
-    /// Lists a feature with the name that it keeps; its late type is empty when it was not asked or did not answer.
-    void Remember(const ZFXISpecObject_var& feature, const ZFXUnicodeString& name, const ZFXUnicodeString& lateType);
-    /// Lists a material; its position.
-    int Meet(const ZFXISpecObject_var& material);
 
     static QVRGenI18NUtils* m_genI18NSingletonObj;
 
@@ -100,14 +94,17 @@ private:
     unsigned char m_englishMode = 0;
     unsigned char m_initialUserLocaleEnglish = 0;
     unsigned char m_initialInputLocaleEnglish = 0;
-    /// One entry a hand-out, without its number.
+    /// The generic names issued, without their numbers. A name that was issued twice is listed twice.
     ZFXListValZFXUnicodeString m_usedGenericNames;
-    /// Materials in the order in which they were first named.
+    /// The materials in the order in which they were first named.
     ZFXListValZFXISpecObject_var m_materialObjects;
     /// The name of each feature of m_featureObjects, position by position.
     ZFXListValZFXUnicodeString m_featureNames;
+    /// The features in the order in which they were first named.
     ZFXListValZFXISpecObject_var m_featureObjects;
-    /// Where what stands in the lists, so that no list is searched.
+    /// The late type of each feature of m_featureObjects, position by position.
+    ZFXListValZFXUnicodeString m_featureLateTypes;
+    /// Index over the lists; replaces linear searches.
     struct Index;
     std::unique_ptr<Index> m_index;
 };

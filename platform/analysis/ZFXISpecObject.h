@@ -9,7 +9,8 @@
 class ZFX_PLATFORM_EXPORT ZFXISpecObject : public ZFXBaseUnknown {
     ZFX_DECLARE_INTERFACE(ZFXISpecObject)
 
-    /// The name of the feature's type, such as "QVRStaticLPStepLT".
+    /// Returns the name of the feature's type, such as "QVRStaticLPStepLT". It is constant for the lifetime of the
+    /// object: callers may request it once and keep it.
     virtual ZFXUnicodeString GetLateType() = 0;
     /// The containing object, or null. [new reference]
     virtual ZFXBaseUnknown* GetFather() = 0;

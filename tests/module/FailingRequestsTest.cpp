@@ -188,7 +188,7 @@ TEST_F(FailingRequestsTest, GiveAStatedAnswerAndLeaveNothingBehind) {
          "S_OK|QVRShellSectionEnhLT-3", {{"GetGenericEnglishNameERR_01", "Cast GetFather ListMembers-+0"},
           {"S_OK|-3", "GetLateType"}}},
         {"GetGenericEnglishFeatureName", [&] { return Both(steel, steel2, &I18N::GetGenericEnglishFeatureName); },
-         "S_OK|M1-1, S_OK|M1-2 +2", {{"E_FAIL, S_OK|M1-1 +1", "Cast"}, {"S_OK|-1, S_OK|M1-2 +2", "GetLateType"},
+         "S_OK|M1-1, S_OK|M1-2 +2", {{"E_FAIL, S_OK|M1-1 +1", "Cast"}, {"S_OK|-1, S_OK|M1-1 +2", "GetLateType"},
           {"S_OK|M1-1, E_FAIL +1", "Cast"}, {"S_OK|M1-1, S_OK|-1 +2", "GetLateType"}}},
         {"GetFeatureName", [&] { return Both(steel, steel2, &I18N::GetFeatureName); }, "S_OK|Steel1, S_OK|Steel1-1 +2",
          {{"E_FAIL, S_OK|Steel1 +1", "Cast"}, {"S_OK, S_OK|Steel1-1 +2", "GetAlias"},

@@ -2,58 +2,90 @@
 
 #include "QVRGenI18NUtils.h"
 
+#include <algorithm>
 #include <cstddef>
 #include <functional>
-#include <string>
 #include <string_view>
 #include <unordered_map>
-#include <vector>
 
-/// Finds in the lists of the singleton what stands in them. It answers from those lists, which nobody else can change,
-/// and from late types, which no object ever changes; never from names, which do change.
+inline std::size_t HashOf(const ZFXUnicodeString& text) noexcept {
+    return std::hash<std::u16string_view>()(text.Units());
+}
+
+inline std::size_t HashOf(const ZFXISpecObject_var& object) {
+    return std::hash<const ZFXBaseUnknown*>()(ZFXIdentityOf(object));
+}
+
+/// Finds the elements of a list by hash instead of by a search.
+///
+/// The elements are stored in the list alone. The index stores positions and compares each hit with the list, so that
+/// an object at the address of an earlier one is never taken for it.
+template <class Element>
+class IndexedList {
+public:
+    /// Indexes what the list contains. From now on the list must change through this index only.
+    explicit IndexedList(ZFXListVal<Element>& list) : m_list(list) {
+        for (int position = 1; position <= m_list.Size(); ++position)
+            Add(position);
+    }
+
+    /// Returns the position of the first element equal to `x`, or 0 if there is none.
+    int Locate(const Element& x) {
+        const Entry* entry = Find(x);
+        return entry == nullptr ? 0 : entry->position;
+    }
+    /// Returns the number of elements equal to `x`.
+    int NbOccur(const Element& x) {
+        const Entry* entry = Find(x);
+        return entry == nullptr ? 0 : entry->occurrences;
+    }
+    void Append(const Element& x) {
+        m_list.Append(x);
+        Add(m_list.Size());
+    }
+
+private:
+    struct Entry {
+        int position; // of the first of the equal elements
+        int occurrences;
+    };
+
+    Entry* Find(const Element& x) {
+        const auto [first, last] = m_entries.equal_range(HashOf(x));
+        const auto found = std::find_if(first, last, [&](const auto& e) { return m_list[e.second.position] == x; });
+        return found == last ? nullptr : &found->second;
+    }
+    void Add(int position) {
+        const Element& x = m_list[position];
+        if (Entry* entry = Find(x))
+            ++entry->occurrences;
+        else
+            m_entries.emplace(HashOf(x), Entry{position, 1});
+    }
+
+    ZFXListVal<Element>& m_list;
+    std::unordered_multimap<std::size_t, Entry> m_entries;
+};
+
+/// The index over the lists of one QVRGenI18NUtils, and the only code that appends to them.
 struct QVRGenI18NUtils::Index {
-    /// How often each text was counted.
-    class Counts {
-    public:
-        int Of(const ZFXUnicodeString& text) const {
-            const auto found = m_counts.find(text.Units());
-            return found == m_counts.end() ? 0 : found->second;
-        }
-        void Add(const ZFXUnicodeString& text) {
-            const auto found = m_counts.find(text.Units());
-            if (found == m_counts.end())
-                m_counts.emplace(text.Units(), 1);
-            else
-                ++found->second;
-        }
+    explicit Index(QVRGenI18NUtils& lists)
+        : usedNames(lists.m_usedGenericNames),
+          materials(lists.m_materialObjects),
+          features(lists.m_featureObjects),
+          lateTypes(lists.m_featureLateTypes),
+          featureNames(lists.m_featureNames) {}
 
-    private:
-        struct Hash {
-            using is_transparent = void;
-            std::size_t operator()(std::u16string_view text) const noexcept {
-                return std::hash<std::u16string_view>()(text);
-            }
-        };
-        std::unordered_map<std::u16string, int, Hash, std::equal_to<>> m_counts;
-    };
+    /// Appends a feature with the name that it keeps.
+    void AddFeature(const ZFXISpecObject_var& feature, const ZFXUnicodeString& name, const ZFXUnicodeString& lateType) {
+        features.Append(feature);
+        featureNames.Append(name);
+        lateTypes.Append(lateType);
+    }
 
-    /// The position of each object in its list.
-    class Positions {
-    public:
-        /// 0 for an object that is not listed.
-        int Of(const ZFXISpecObject_var& object) const {
-            const auto found = m_positions.find(ZFXIdentityOf(object));
-            return found == m_positions.end() ? 0 : found->second;
-        }
-        void Add(const ZFXISpecObject_var& object, int position) { m_positions[ZFXIdentityOf(object)] = position; }
-
-    private:
-        std::unordered_map<const ZFXBaseUnknown*, int> m_positions; // the list keeps the objects alive
-    };
-
-    Counts usedNames;
-    Positions materials;
-    Positions features;
-    Counts lateTypes;                 // of the features, but
-    std::vector<int> withoutLateType; // positions of those that were not asked yet, or did not answer
+    IndexedList<ZFXUnicodeString> usedNames;
+    IndexedList<ZFXISpecObject_var> materials;
+    IndexedList<ZFXISpecObject_var> features;
+    IndexedList<ZFXUnicodeString> lateTypes;
+    ZFXListValZFXUnicodeString& featureNames;
 };

@@ -10,7 +10,7 @@
 
 namespace {
 
-/// What a material calls itself; nothing for one that has no name of either kind.
+/// Returns the material name, else the alias, or nothing for an object that offers neither.
 std::optional<ZFXUnicodeString> MaterialNameOf(const ZFXISpecObject_var& material) {
     if (const ZFXIMaterialFeature_var named(material); named != nullptr)
         return named->GetMaterialFeatureName();
@@ -25,20 +25,20 @@ HRESULT QVRGenI18NUtils::GetMaterialName(const ZFXISpecObject_var& material, ZFX
     const std::optional<ZFXUnicodeString> own = MaterialNameOf(material);
     if (!own)
         return E_FAIL;
-    const int known = m_index->materials.Of(material);
-    if (known != 0)
+    const int listed = m_index->materials.Locate(material);
+    if (listed != 0)
         name = *own;
-    const int before = known != 0 ? known - 1 : m_materialObjects.Size();
+    const int before = listed != 0 ? listed - 1 : m_materialObjects.Size();
     int count = 0;
     for (int i = 1; i <= before; ++i) {
-        const std::optional<ZFXUnicodeString> met = MaterialNameOf(m_materialObjects[i]);
-        if (!met)
+        const std::optional<ZFXUnicodeString> other = MaterialNameOf(m_materialObjects[i]);
+        if (!other)
             return E_FAIL;
-        if (*met == *own)
+        if (*other == *own)
             ++count;
     }
-    if (known == 0)
-        Meet(material);
+    if (listed == 0)
+        m_index->materials.Append(material);
     const ZFXUnicodeString numbered = count > 0 ? Numbering::Numbered(*own + "-", count) : *own;
     name = QVRGenZFXUnicodeStringUtils::ReplacePeriodWithDash(numbered);
     return S_OK;
@@ -49,15 +49,11 @@ HRESULT QVRGenI18NUtils::GetGenericEnglishMaterialName(const ZFXISpecObject_var&
     if (material == nullptr)
         return E_FAIL;
     const ZFXUnicodeString lateType = material->GetLateType();
-    int position = m_index->materials.Of(material);
-    if (position == 0)
-        position = Meet(material);
+    int position = m_index->materials.Locate(material);
+    if (position == 0) {
+        m_index->materials.Append(material);
+        position = m_materialObjects.Size();
+    }
     name = QVRGenZFXUnicodeStringUtils::ReplacePeriodWithDash(Numbering::Numbered(lateType + "-", position));
     return S_OK;
-}
-
-int QVRGenI18NUtils::Meet(const ZFXISpecObject_var& material) {
-    m_materialObjects.Append(material);
-    m_index->materials.Add(material, m_materialObjects.Size());
-    return m_materialObjects.Size();
 }

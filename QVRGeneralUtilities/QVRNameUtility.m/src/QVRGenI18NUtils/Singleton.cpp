@@ -10,7 +10,7 @@ QVRGenI18NUtils* QVRGenI18NUtils::Instance() noexcept {
     return m_genI18NSingletonObj;
 }
 
-QVRGenI18NUtils::QVRGenI18NUtils() : m_index(std::make_unique<Index>()) {}
+QVRGenI18NUtils::QVRGenI18NUtils() : m_index(std::make_unique<Index>(*this)) {}
 
 QVRGenI18NUtils::QVRGenI18NUtils(const QVRGenI18NUtils& other)
     : m_localesChecked(other.m_localesChecked),
@@ -21,7 +21,8 @@ QVRGenI18NUtils::QVRGenI18NUtils(const QVRGenI18NUtils& other)
       m_materialObjects(other.m_materialObjects),
       m_featureNames(other.m_featureNames),
       m_featureObjects(other.m_featureObjects),
-      m_index(std::make_unique<Index>(*other.m_index)) {}
+      m_featureLateTypes(other.m_featureLateTypes),
+      m_index(std::make_unique<Index>(*this)) {}
 
 QVRGenI18NUtils::~QVRGenI18NUtils() = default;
 
@@ -30,16 +31,16 @@ void QVRGenI18NUtils::ResetAllLists() noexcept {
     m_materialObjects.RemoveAll(ZFXCollec::ReleaseAllocation);
     m_featureNames.RemoveAll(ZFXCollec::ReleaseAllocation);
     m_featureObjects.RemoveAll(ZFXCollec::ReleaseAllocation);
-    *m_index = Index();
+    m_featureLateTypes.RemoveAll(ZFXCollec::ReleaseAllocation);
+    m_index = std::make_unique<Index>(*this);
 }
 
 HRESULT QVRGenI18NUtils::PushNameToList(const ZFXUnicodeString& name) noexcept {
-    m_usedGenericNames.Append(name);
-    m_index->usedNames.Add(name);
+    m_index->usedNames.Append(name);
     return S_OK;
 }
 
 unsigned char QVRGenI18NUtils::FindNameAndNextID(const ZFXUnicodeString& name, int& nextId) noexcept {
-    nextId = m_index->usedNames.Of(name);
+    nextId = m_index->usedNames.NbOccur(name);
     return nextId > 0 ? 1 : 0;
 }

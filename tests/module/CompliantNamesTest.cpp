@@ -1,0 +1,36 @@
+#include "support/SingletonTest.h"
+
+#include <tuple>
+
+namespace {
+
+using CompliantNamesTest = SingletonTest;
+
+TEST_F(CompliantNamesTest, GenericNameReplacesOneTheSolverCannotTake) {
+    // clang-format off
+    const std::tuple<const char*, const char*, const char*> rows[] = {
+        {"Load.1", "SAMThickness", "Load-1"}, {"", "SAMThickness", ""}, {"厚", "SAMThickness", "Thickness"},
+        {"厚", "SAMThickness", "Thickness-1"}, {"板", "SAMThickness", "Thickness-2"}, {"厚", "QVRxQVR", "厚"},
+        {"samx厚", "QVRLayupLT", "x厚"}, {"厚", "Lmsx", "x"}, {"厚", "QV", "QV"}, {"厚", "aQVR", "aQVR"},
+        {"厚", "aQVR", "aQVR-1"},
+        {"厚", "a.b", "a.b"}, // full stops of a generic name stay
+        {"厚", "sam", ""}, {"厚", "qvrx", "x"},
+    };
+    // clang-format on
+    QVRGenI18NUtils other(*utils); // the names that the singleton issued count, whichever object is called
+    for (const auto& [name, expectedGeneric, expectedCompliant] : rows) {
+        ZFXUnicodeString compliant("before");
+        EXPECT_EQ(other.GetTARNISCompliantFeatureName(name, expectedGeneric, compliant), S_OK);
+        EXPECT_EQ(Text(compliant), expectedCompliant) << name << " " << expectedGeneric;
+    }
+    int count = 0;
+    EXPECT_EQ(utils->FindNameAndNextID("SAMThickness", count), 1);
+    EXPECT_EQ(count, 3);
+    ZFXUnicodeString generic("SAMThickness");
+    EXPECT_EQ(utils->GetTARNISCompliantFeatureName("厚", generic, generic), S_OK); // in and out at once
+    EXPECT_EQ(Text(generic), "Thickness-3");
+    utils->FindNameAndNextID("SAMThickness", count);
+    EXPECT_EQ(count, 4);
+}
+
+} // namespace
