@@ -31,10 +31,13 @@ TEST(EnglishMode, IsSettledByTheFirstQuestion) {
         ZFXSetLocales(0x0407, 0x0407); // comes too late
         utils.ResetAllLists();
         const int both = userEnglish & inputEnglish;
-        EXPECT_EQ(Console([&] { EXPECT_EQ(utils.IsEnglishMode(), both); }), "");
-        EXPECT_EQ(utils.IsInitialUserLocaleEnglish(), userEnglish);
-        EXPECT_EQ(utils.IsInitialInputLocaleEnglish(), inputEnglish);
-        EXPECT_EQ(utils.IsEnglishUserLocale() + utils.IsEnglishInputLocale(), 0);
+        QVRGenI18NUtils copy(utils);
+        for (QVRGenI18NUtils* each : {static_cast<QVRGenI18NUtils*>(&utils), &copy}) {
+            EXPECT_EQ(Console([&] { EXPECT_EQ(each->IsEnglishMode(), both); }), "");
+            EXPECT_EQ(each->IsInitialUserLocaleEnglish(), userEnglish);
+            EXPECT_EQ(each->IsInitialInputLocaleEnglish(), inputEnglish);
+            EXPECT_EQ(each->IsEnglishUserLocale() + each->IsEnglishInputLocale(), 0);
+        }
     }
     ZFXFollowMessageLocale();
 }

@@ -8,10 +8,10 @@
 
 namespace {
 
-/// English of the United States, the United Kingdom, Australia, Canada, New Zealand, Ireland, South Africa,
-/// Jamaica, the Caribbean, Belize, Trinidad and Tobago, Zimbabwe, the Philippines: these and no other.
-constexpr int kEnglishLocaleIds[] = {0x0409, 0x0809, 0x0C09, 0x1009, 0x1409, 0x1809, 0x1C09,
-                                     0x2009, 0x2409, 0x2809, 0x2C09, 0x3009, 0x3409};
+/// The locale identifiers that count as English: United States, United Kingdom, Australia, Canada, New Zealand,
+/// Ireland, South Africa, Jamaica, Caribbean, Belize, Trinidad and Tobago, Zimbabwe, Philippines.
+constexpr int EnglishLocaleIds[] = {0x0409, 0x0809, 0x0C09, 0x1009, 0x1409, 0x1809, 0x1C09,
+                                    0x2009, 0x2409, 0x2809, 0x2C09, 0x3009, 0x3409};
 
 void Report(const char* which, unsigned char english) {
     std::cout << "The initial " << which << " locale is " << (english != 0 ? "" : "NOT ") << "English." << std::endl;
@@ -20,7 +20,7 @@ void Report(const char* which, unsigned char english) {
 } // namespace
 
 unsigned char QVRGenI18NUtils::IsLCIDInEnglishIDs(int lcid) noexcept {
-    return std::ranges::find(kEnglishLocaleIds, lcid) != std::end(kEnglishLocaleIds) ? 1 : 0;
+    return std::ranges::find(EnglishLocaleIds, lcid) != std::end(EnglishLocaleIds) ? 1 : 0;
 }
 
 unsigned char QVRGenI18NUtils::IsEnglishUserLocale() noexcept {
