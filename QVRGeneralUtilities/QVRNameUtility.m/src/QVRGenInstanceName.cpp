@@ -33,18 +33,14 @@ ZFXUnicodeString WithoutColonPrefix(const ZFXUnicodeString& display) {
     return base;
 }
 
-bool EndsBlank(const ZFXUnicodeString& text) {
-    const ZFXUnicodeChar last = text[text.Units().size() - 1]; // U+0000 for an empty text
-    return last.IsSpace() != 0 || last == '_';
-}
-
+/// Removes spaces at the start, and spaces and underscores in any mix at the end. Other white space stays.
 ZFXUnicodeString WithoutBlankEnds(const ZFXUnicodeString& text) {
     ZFXUnicodeString trimmed(text);
     ZFXUnicodeString before;
     do {
         before = trimmed;
         trimmed = Utils::RemoveTrailingUnderscores(Utils::RemoveTrailingSpaces(Utils::RemoveLeadingSpaces(before)));
-    } while (EndsBlank(trimmed) && trimmed != before); // a tab is blank but no space: it stays
+    } while (trimmed != before);
     return trimmed;
 }
 

@@ -20,7 +20,8 @@ HRESULT QVRNameUtil::GetUniqueNameForStep(ZFXUnicodeString& name, ZFXISamAnalysi
     const HRESULT code = history->ListChildren(steps, kScanMode);
     if (Failed(code))
         return code;
-    steps.RemovePosition(1); // the history's first child takes no part in the numbering
+    if (steps.Size() > 0)
+        steps.RemovePosition(1); // The first child of a history takes no part in the numbering.
     return GetNextUniqueName(name, steps);
 }
 
@@ -55,10 +56,9 @@ HRESULT QVRNameUtil::GetUniqueNameForProperty(ZFXUnicodeString& name, ZFXISamAna
         return InputErrorReturn(MessageId::ErrorAnalysisModelErr_0004);
     const ZFXISamAnalysisScan_var scan(model);
     ZFXListValZFXBaseUnknown_var found;
-    if (scan != nullptr)
-        scan->FindObjectsOfType(Vocabulary::QVRTarnisPropertySetLT, found,
-                                kScanMode); // the list counts, not the code
-    const ZFXISamAnalysisSet_var propertySet(found[1]);
+    if (scan != nullptr) // The found list decides, not the code.
+        scan->FindObjectsOfType(Vocabulary::QVRTarnisPropertySetLT, found, kScanMode);
+    const ZFXISamAnalysisSet_var propertySet(found.Size() == 0 ? ZFXBaseUnknown_var() : found[1]);
     ZFXListValZFXBaseUnknown_var properties;
     if (propertySet == nullptr || Failed(Navigation::AppendMembers(propertySet, properties)))
         return InputErrorReturn(MessageId::PropertySetERR_01);
