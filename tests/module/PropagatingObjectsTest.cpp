@@ -46,15 +46,6 @@ TEST_F(PropagatingObjectsTest, TheScopeIsTheSameKindOfSetInEveryStep) {
     EXPECT_EQ(Propose(), "Pressure-6");
 }
 
-TEST_F(PropagatingObjectsTest, WhatOnlyPropagatedDoesNotCountButInitialTemperaturesDo) {
-    p2.Propagated();
-    EXPECT_EQ(Propose(), "Pressure-2");
-    loads3.Feature("QVRInitialTemperatureLT", "Pressure-8").Propagated();
-    EXPECT_EQ(Propose(), "Pressure-9");
-    p1.Propagated().Without(IID_QVRIPropagatingFeature); // is no propagating feature any more, so it counts
-    EXPECT_EQ(Check("pressure-1"), "DuplicateNameERR_02 -100");
-}
-
 TEST_F(PropagatingObjectsTest, TheLastStepDecidesTheCodeAndFailedStepsGiveNothing) {
     step1.Answer(MemoryRequest::FindObjectsOfType, kFails);
     EXPECT_EQ(Check("Pressure-1"), "S_OK");
