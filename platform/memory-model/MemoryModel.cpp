@@ -1,5 +1,6 @@
 #include "memory-model/MemoryModel.h"
 
+#include "LateTypes.h"
 #include "memory-model/MemorySession.h"
 
 #include <algorithm>
@@ -37,8 +38,8 @@ MemoryFeature MemoryFeature::Feature(const ZFXUnicodeString& lateType, const ZFX
 MemoryFeature MemoryFeature::Job(const ZFXUnicodeString& alias) {
     MemoryFeature container(FirstChildOf(m_object, MemoryKind::JobContainer));
     if (!container)
-        container = Add(MemoryKind::JobContainer, MemoryLateType::kJobContainer, {});
-    return container.Feature("QVRJobLT", alias);
+        container = Add(MemoryKind::JobContainer, LateTypes::QVRJobContainerLT, {});
+    return container.Feature(LateTypes::QVRJobLT, alias);
 }
 
 MemoryFeature MemoryFeature::History() const { return MemoryFeature(FirstChildOf(m_object, MemoryKind::History)); }
@@ -118,7 +119,7 @@ MemoryFeature MemoryDocument::Model() const { return MemoryFeature(m_document->m
 
 MemoryFeature MemoryDocument::Case(const ZFXUnicodeString& alias) {
     MemoryFeature made = Model().Add(MemoryKind::Case, "QVRAnalysisCaseLT", alias);
-    made.Add(MemoryKind::History, MemoryLateType::kHistory, {});
+    made.Add(MemoryKind::History, LateTypes::QVROruSimHistLT, {});
     if (m_document->currentCase == nullptr)
         MakeCurrent(made);
     return made;
@@ -126,9 +127,9 @@ MemoryFeature MemoryDocument::Case(const ZFXUnicodeString& alias) {
 
 MemoryFeature MemoryDocument::PropertySet() {
     for (MemoryObject* child : m_document->model->ExtrasOrNone().children)
-        if (child->lateType->name == MemoryLateType::kPropertySet)
+        if (child->lateType->name == LateTypes::QVRTarnisPropertySetLT)
             return MemoryFeature(child);
-    return Model().Set(MemoryLateType::kPropertySet);
+    return Model().Set(LateTypes::QVRTarnisPropertySetLT);
 }
 
 MemoryFeature MemoryDocument::MeshManager() { return MemoryFeature(m_document->meshManager); }

@@ -16,10 +16,6 @@ struct MemoryLateType {
     ZFXMetaClass* metaClass;
 
     static const MemoryLateType& Of(const ZFXUnicodeString& name);
-
-    static constexpr const char* kHistory = "QVROruSimHistLT";
-    static constexpr const char* kPropertySet = "QVRTarnisPropertySetLT";
-    static constexpr const char* kJobContainer = "QVRJobContainerLT";
 };
 
 /// The key of one attribute name.

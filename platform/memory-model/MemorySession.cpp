@@ -1,5 +1,7 @@
 #include "memory-model/MemorySession.h"
 
+#include "LateTypes.h"
+
 #include <algorithm>
 #include <initializer_list>
 
@@ -31,15 +33,14 @@ const KindRow kKinds[] = {
 bool IsSet(const MemoryObject& object) { return object.IsOffered(ZFXInterfaceNumber::ZFXISamAnalysisSet); }
 
 bool IsAmplitude(const MemoryObject& object) {
-    const ZFXUnicodeString& type = object.lateType->name;
-    return object.ExtrasOrNone().amplitude.value_or(type == "QVRTabularAmplitudeLT" ||
-                                                    type == "QVRSmoothStepAmplitudeLT");
+    const bool isOfKind = LateTypes::IsOfKind(object.lateType->name, LateTypes::Kind::Amplitude);
+    return object.ExtrasOrNone().amplitude.value_or(isOfKind);
 }
 
 /// A property lies in a property set, unless the document says otherwise.
 bool IsProperty(const MemoryObject& object) {
     const bool inPropertySet =
-        !object.holdingSets.empty() && object.holdingSets.front()->lateType->name == MemoryLateType::kPropertySet;
+        !object.holdingSets.empty() && object.holdingSets.front()->lateType->name == LateTypes::QVRTarnisPropertySetLT;
     return object.ExtrasOrNone().property.value_or(inPropertySet && !IsAmplitude(object));
 }
 

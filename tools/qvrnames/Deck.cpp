@@ -2,6 +2,7 @@
 
 #include "FeaturePaths.h"
 
+#include "LateTypes.h"
 #include "QVRGenI18NUtils.h"
 #include "QVRGenInstanceName.h"
 #include "QVRNameUtil.h"
@@ -98,7 +99,7 @@ Section SectionOf(const ZFXISpecObject_var& feature) {
         return kSupports;
     if (QVRISamAnalysisConnectionDesign_var(feature) != nullptr)
         return kDesigns;
-    return feature->GetLateType() == "QVRJobLT" ? kJobs : kFeatures;
+    return feature->GetLateType() == LateTypes::QVRJobLT ? kJobs : kFeatures;
 }
 
 /// Whether the deck would hold the object: what has a name, and what lies in a set or is a step and may still get one.

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "LateTypes.h"
 #include "memory-model/MemoryModel.h"
 
 #include <cstddef>
@@ -69,12 +70,12 @@ struct ChildKey {
 
 inline constexpr ChildKey kChildKeys[] = {
     {DocumentKey::MeshManager, MemoryKind::MeshManager, "MSHMeshManager", false},
-    {DocumentKey::PropertySet, MemoryKind::Set, "QVRTarnisPropertySetLT", false},
+    {DocumentKey::PropertySet, MemoryKind::Set, LateTypes::QVRTarnisPropertySetLT, false},
     {DocumentKey::Cases, MemoryKind::Case, "QVRAnalysisCaseLT"},
-    {DocumentKey::History, MemoryKind::History, "QVROruSimHistLT", false},
+    {DocumentKey::History, MemoryKind::History, LateTypes::QVROruSimHistLT, false},
     {DocumentKey::Steps, MemoryKind::Step, nullptr},
-    {DocumentKey::Jobs, MemoryKind::Feature, "QVRJobLT"},
-    {DocumentKey::JobContainers, MemoryKind::JobContainer, "QVRJobContainerLT"},
+    {DocumentKey::Jobs, MemoryKind::Feature, LateTypes::QVRJobLT},
+    {DocumentKey::JobContainers, MemoryKind::JobContainer, LateTypes::QVRJobContainerLT},
     {DocumentKey::Sets, MemoryKind::Set, nullptr},
     {DocumentKey::Features, MemoryKind::Feature, nullptr},
     {DocumentKey::Materials, MemoryKind::Material, "SAMUserMaterial"},

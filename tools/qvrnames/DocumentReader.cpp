@@ -3,6 +3,8 @@
 #include "LoadedDocument.h"
 #include "ObjectFields.h"
 
+#include "LateTypes.h"
+
 #include <utility>
 
 // How a document file becomes an analysis document: one pass over the objects of the file, then one over
@@ -130,10 +132,10 @@ private:
         if (steps && IsNoHistory(DocumentKey::History, history))
             steps.Refuse("expected no steps in a case whose \"history\" is null");
         if (!history)
-            made.Add(MemoryKind::History, "QVROruSimHistLT", {});
+            made.Add(MemoryKind::History, LateTypes::QVROruSimHistLT, {});
         m_jobs = {};
         if (fields[DocumentKey::Jobs])
-            m_jobs = made.Add(MemoryKind::JobContainer, "QVRJobContainerLT", {});
+            m_jobs = made.Add(MemoryKind::JobContainer, LateTypes::QVRJobContainerLT, {});
     }
 
     /// The first case is current unless it says that it is not, or another says that it is.

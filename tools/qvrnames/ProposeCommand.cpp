@@ -6,6 +6,7 @@
 #include "Table.h"
 #include "WholeFile.h"
 
+#include "LateTypes.h"
 #include "QVRNameUtil.h"
 #include "analysis/WorkbenchUtilities.h"
 #include "analysis/ZFXIMSHMeshPart.h"
@@ -19,7 +20,9 @@ namespace {
 /// The base of every job, which has an operation of its own instead of a row among the bases.
 constexpr const char* kJobBase = "Job-";
 
-bool IsJob(const ZFXISpecObject_var& feature) { return feature != nullptr && feature->GetLateType() == "QVRJobLT"; }
+bool IsJob(const ZFXISpecObject_var& feature) {
+    return feature != nullptr && feature->GetLateType() == LateTypes::QVRJobLT;
+}
 
 ZFXUnicodeString BaseOf(const ProposeRequest& request, ZFXISpecObject_var feature) {
     ZFXUnicodeString base = TextOf(request.base);

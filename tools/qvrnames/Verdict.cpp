@@ -1,5 +1,6 @@
 #include "Verdict.h"
 
+#include "LateTypes.h"
 #include "QVRNameUtil.h"
 #include "errors/ZFXError.h"
 
@@ -31,9 +32,9 @@ Verdict JudgeFileName(const ZFXUnicodeString& name) {
 Verdict JudgeName(const ZFXISpecObject_var& feature, const ZFXUnicodeString& name) {
     ZFXISpecObject_var judged(feature);
     const ZFXUnicodeString type = judged == nullptr ? ZFXUnicodeString() : judged->GetLateType();
-    if (type == "QVRJobLT")
+    if (type == LateTypes::QVRJobLT)
         return VerdictOf(QVRNameUtil::IsNameUniqueAcrossCases(judged, name));
-    return VerdictOf(QVRNameUtil::CheckName(judged, name, type == "QVRShellSectionEnhLT" ? 0 : 1));
+    return VerdictOf(QVRNameUtil::CheckName(judged, name, type == LateTypes::QVRShellSectionEnhLT ? 0 : 1));
 }
 
 Verdict JudgeFurther(const ZFXISpecObject_var& feature) {
@@ -42,9 +43,9 @@ Verdict JudgeFurther(const ZFXISpecObject_var& feature) {
     if (judged == nullptr || Failed(QVRNameUtil::GetObjectName(judged, name)))
         return {};
     const ZFXUnicodeString type = judged->GetLateType();
-    if (type == "QVRJobLT")
+    if (type == LateTypes::QVRJobLT)
         return VerdictOf(QVRNameUtil::IsUniqueNameForJob(judged, name));
-    if (type == "SAMBoltTightening" || type == "SAMVirtBoltTightening" || type == "SAMVirtSpringBoltTigh")
+    if (LateTypes::IsOfKind(type, LateTypes::Kind::BoltTightening))
         return VerdictOf(QVRNameUtil::GetMorvelObjectName(judged, name));
     return {};
 }

@@ -1,40 +1,10 @@
 #include "QVREFeatureAlias.h"
 
+#include "LateTypes.h"
+
 namespace {
 
 constexpr const char* kClassName = "QVREFeatureAlias";
-
-constexpr const char* kExtendedLateTypes[] = {
-    "QVRDisplayGrpLT",
-    "QVRExplicitDynamicStepLT",
-    "QVRGeneralStaticStepLT",
-    "QVRHeatTransferStepLT",
-    "QVRRiksStepLT",
-    "QVRStaticLPStepLT",
-    "QVRFrequencyStepLT",
-    "QVRJobLT",
-    "QVRShellSectionEnhLT",
-    "QVRLayupLT",
-    "QVRMatOrientLT",
-    "QVRRigidBodyConstraintLT",
-    "QVRRigidCouplingLT",
-    "QVRSmoothCouplingLT",
-    "QVRARSurfLT",
-    "QVRARSurfMeshPartLT",
-    "QVRTiedContactLT",
-    "QVRSurfaceToSurfaceContactLT",
-    "QVRInteractionLT",
-    "QVRInteractionPropertyLT",
-    "QVRThermalConnBehaviorLT",
-    "QVRSpringLT",
-    "QVRSpringMeshPartLT",
-    "QVRDamperLT",
-    "QVRDamperMeshPartLT",
-    "QVRTabularAmplitudeLT",
-    "QVRSmoothStepAmplitudeLT",
-    "QVRSubmodelPropertyLT",
-    "QVRLocalElemAsgnLT",
-};
 
 } // namespace
 
@@ -50,9 +20,10 @@ ZFXMetaClass* QVREFeatureAlias::MetaObject() noexcept {
     if (meta_object != nullptr)
         return meta_object;
     meta_object = fct_RetrieveMetaObject(kClassName, ENUMTypeOfClass::DataExtension, ZFXnull::MetaObject(),
-                                         "QVRARSurfLT", "QVRGeneralUtilities", 32);
-    for (const char* lateType : kExtendedLateTypes)
-        meta_object->SetExtensionOf(fct_FindMetaObject(lateType));
+                                         LateTypes::QVRARSurfLT, "QVRGeneralUtilities", 32);
+    for (const LateTypes::Row& row : LateTypes::kRows)
+        if (row.alias == LateTypes::Alias::Guarded)
+            meta_object->SetExtensionOf(fct_FindMetaObject(row.lateType));
     return meta_object;
 }
 

@@ -1,25 +1,12 @@
 #include "QVRNameUtil.h"
 
+#include "LateTypes.h"
 #include "QVRGenZFXUnicodeStringUtils.h"
 #include "analysis/ZFXIAlias.h"
 #include "internal/Navigation.h"
 #include "internal/Ownership.h"
 #include "internal/Platform.h"
 #include "internal/Refusal.h"
-#include "internal/Vocabulary.h"
-
-#include <algorithm>
-
-namespace {
-
-bool IsBoltTightening(const ZFXUnicodeString& lateType) {
-    const ZFXUnicodeString* const types[] = {&Vocabulary::SAMBoltTightening, &Vocabulary::SAMVirtBoltTightening,
-                                             &Vocabulary::SAMVirtSpringBoltTigh};
-    return std::any_of(std::begin(types), std::end(types),
-                       [&](const ZFXUnicodeString* type) { return lateType.Compare(*type) == 2; });
-}
-
-} // namespace
 
 HRESULT QVRNameUtil::GetObjectName(const ZFXISpecObject_var& feature, ZFXUnicodeString& name) noexcept {
     if (feature == nullptr)
@@ -41,7 +28,7 @@ HRESULT QVRNameUtil::GetMorvelObjectName(ZFXISpecObject_var& feature, ZFXUnicode
         return InputErrorReturn(MessageId::ZFXIAliasERR_01);
     name = QVRGenZFXUnicodeStringUtils::ReplacePeriodWithDash(alias->GetAlias());
     const HRESULT legal = IsNameValid(name, 1);
-    if (Failed(legal) || !IsBoltTightening(lateType))
+    if (Failed(legal) || !LateTypes::IsOfKind(lateType, LateTypes::Kind::BoltTightening))
         return legal;
     const ZFXISamAnalysisScan_var father(TakeOver(feature->GetFather()));
     if (father == nullptr)
