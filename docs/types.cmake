@@ -1,0 +1,84 @@
+# Writes docs/types.md from facts/LateTypes.def and facts/LateTypeKinds.def.
+#   cmake -P docs/types.cmake                 writes the page
+#   cmake -DCHECK=ON -P docs/types.cmake      fails if the page differs
+cmake_minimum_required(VERSION 3.25)
+get_filename_component(root ${CMAKE_CURRENT_LIST_DIR} DIRECTORY)
+set(page ${root}/docs/types.md)
+
+file(STRINGS ${root}/facts/LateTypeKinds.def rows REGEX "^[^/]")
+foreach(row IN LISTS rows)
+  if(NOT row MATCHES "^KIND\\(([A-Za-z]+), \"([^\"]+)\", \"([^\"]+)\"\\)$")
+    message(FATAL_ERROR "facts/LateTypeKinds.def: not a row: ${row}")
+  endif()
+  set(scopes_${CMAKE_MATCH_1} "${CMAKE_MATCH_2} | ${CMAKE_MATCH_3}")
+endforeach()
+
+set(types "")
+file(STRINGS ${root}/facts/LateTypes.def rows REGEX "^[^/]")
+foreach(row IN LISTS rows)
+  if(NOT row MATCHES "^LATE_TYPE\\(([A-Za-z]+), ([A-Za-z]+), (nullptr|\"[^\"]+\"), (Open|Guarded), \"([^\"]+)\"\\)$")
+    message(FATAL_ERROR "facts/LateTypes.def: not a row: ${row}")
+  endif()
+  set(lateType ${CMAKE_MATCH_1})
+  set(scopes "${scopes_${CMAKE_MATCH_2}}")
+  set(baseName "${CMAKE_MATCH_3}")
+  set(alias ${CMAKE_MATCH_4})
+  set(description "${CMAKE_MATCH_5}")
+  string(REPLACE "nullptr" "" baseName "${baseName}")
+  string(REPLACE "Open" "" alias "${alias}")
+  string(REPLACE "Guarded" "yes" alias "${alias}")
+  string(APPEND types "| `${lateType}` | ${description} | ${baseName} | ${alias} | ${scopes} |\n")
+endforeach()
+
+set(text "# The types of features
+
+The late types that the library treats specially. A late type is the type name that `GetLateType` returns for a feature.
+Every other late type is allowed too. It has no base name, and the library does not guard its names.
+
+This page is written by `cmake -P docs/types.cmake` from `facts/LateTypes.def` and `facts/LateTypeKinds.def`.
+
+## How the scopes follow
+
+The scope of a name follows from the interfaces that the feature offers, not from its late type. The columns of the table
+apply to a feature that offers what features of its type normally offer.
+
+Checks (`IsNameUnique`, `CheckName`) compare the name with the first of these that applies:
+
+- The feature offers `QVRIStep`: the steps of its simulation history.
+- It offers `QVRIPropagatingFeature`: the features of its kind in all steps of the case.
+- It is in a set: the members of the first set that contains it. In no set, every name is unique.
+
+Proposals (`GetUniqueName`) number over the first of these that applies:
+
+- The feature offers `QVRIStep`: the steps of the case except the first.
+- The host reports it as a property or an amplitude: the members of the property set.
+- Any other feature: the features of its kind in all steps of the case.
+
+The kind of a feature is the late type of the first set that contains it. Propagated features are skipped, except those of
+the late type `QVRInitialTemperatureLT`.
+
+Where the late type itself decides:
+
+- `CreateBaseName` returns the base name in the table.
+- The library guards the names of some types: `QVREFeatureAlias::SetAlias` stores a name only if `CheckName` allows it.
+  For `QVRJobLT`, `IsNameUniqueAcrossCases` decides instead. For `QVRShellSectionEnhLT`, a leading digit is allowed.
+- `GetMorvelObjectName` compares the name of a bolt tightening with the names of all children of its father.
+- The simulation history, the property set and the job containers are found by their late types.
+
+For jobs and mesh parts, the table shows the scopes of `GetUniqueNameForJob`, which always uses the base name \"Job-\",
+and `GetUniqueNameForMeshPart`.
+
+## The types
+
+| late type | what it is | base name | guarded | checks | proposals |
+|---|---|---|---|---|---|
+${types}")
+
+if(CHECK)
+  file(READ ${page} present)
+  if(NOT present STREQUAL text)
+    message(FATAL_ERROR "docs/types.md differs from the tables in facts/; run: cmake -P docs/types.cmake")
+  endif()
+else()
+  file(WRITE ${page} "${text}")
+endif()
