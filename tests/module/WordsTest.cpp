@@ -38,9 +38,9 @@ void operator delete[](void* place, std::size_t) noexcept { operator delete[](pl
 TEST(Words, AreBuiltInOrderAndDestroyedInReverse) {
     constexpr std::size_t kInline = 32; // units that a text holds without a block
     std::ptrdiff_t longWords = 0;
-#define WORD(identifier, text) longWords += std::string_view(text).size() > kInline ? 1 : 0;
-#include "internal/Vocabulary.def"
-#undef WORD
+#define NAMED_WORD(name, text) longWords += std::string_view(text).size() > kInline ? 1 : 0;
+#include "Vocabulary.def"
+#undef NAMED_WORD
     isWatching = true;
     std::optional<ZFXSharedLibrary> module(std::in_place, MODULE_FILE);
     const auto atUnload = static_cast<std::ptrdiff_t>(blocks.size());

@@ -4,9 +4,9 @@
 #include "internal/Vocabulary.h"
 
 namespace Vocabulary {
-#define WORD(identifier, text) const ZFXUnicodeString identifier(text);
-#include "internal/Vocabulary.def"
-#undef WORD
+#define NAMED_WORD(name, text) const ZFXUnicodeString name(text);
+#include "Vocabulary.def"
+#undef NAMED_WORD
 } // namespace Vocabulary
 
 int HALVERN_WORKS_UXM2_INTERNAL_QVRNameUtility() { return 1; }
