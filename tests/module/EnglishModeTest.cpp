@@ -12,10 +12,21 @@ namespace {
 /// A fresh object: the one of the process examines its locales only once.
 class Fresh : public QVRGenI18NUtils {};
 
+TEST(EnglishMode, ThirteenLocalesAreEnglish) {
+    Fresh utils;
+    for (LCID id = 0; id <= 0xFFFF; ++id) {
+        const LCID sublanguage = id >> 10U;
+        const bool isEnglish = (id & 0x3FFU) == 9 && sublanguage >= 1 && sublanguage <= 13;
+        ZFXSetLocales(id, id);
+        EXPECT_EQ(utils.IsEnglishUserLocale() + utils.IsEnglishInputLocale(), isEnglish ? 2 : 0) << id;
+    }
+    ZFXFollowMessageLocale();
+}
+
 TEST(EnglishMode, IsSettledByTheFirstQuestion) {
     const std::tuple<LCID, HKL, unsigned char, unsigned char> rows[] = {
-        {0x0409, 0x04090409, 1, 1}, {0x0407, 0x04090409, 0, 1}, {0x3409, 0xF0030809, 1, 1}, {0x4009, 0x0411, 0, 0},
-        {0x10409, 0x1009, 0, 1},    {0x0809, 0x040C, 1, 0},     {0x0009, 0x3809, 0, 0},
+        {0x0409, 0x04090409, 1, 1}, {0x0407, 0x04090409, 0, 1}, {0x3409, 0xF0030809, 1, 1},
+        {0x4009, 0x0411, 0, 0},     {0x10409, 0x1009, 0, 1},    {0x0809, 0x040C, 1, 0},
     };
     for (const auto& [user, input, userEnglish, inputEnglish] : rows) {
         Fresh utils;
