@@ -126,6 +126,8 @@ TEST_F(FeatureAliasTest, OnlyTheListedTypesAreGuarded) {
     MemoryFeature load = step.Set("QVRLoadContainerLT").Feature("QVRPressure", "a");
     EXPECT_EQ(Rename(load, " 1.日_"), " 1.日_|");
     const ZFXMetaClass* extension = QVREFeatureAlias::MetaObject();
+    EXPECT_EQ(static_cast<int>(extension->GetTypeOfClass()), 2); // a data extension
+    EXPECT_EQ(extension->GetBaseMetaClass(), ZFXnull::MetaObject());
     for (const LateTypes::Row& row : LateTypes::kRows) {
         const ZFXIAlias_var alias(document.Model().Feature(row.lateType, "a"));
         const bool isGuarded = alias->GetMetaObject()->GetImplementationMetaClass() == extension;
