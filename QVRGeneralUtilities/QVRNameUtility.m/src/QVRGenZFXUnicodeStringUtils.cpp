@@ -1,6 +1,6 @@
 #include "QVRGenZFXUnicodeStringUtils.h"
 
-#include "internal/LegalLength.h"
+#include "internal/NameRules.h"
 
 QVRGenZFXUnicodeStringUtils& QVRGenZFXUnicodeStringUtils::operator=(const QVRGenZFXUnicodeStringUtils&) = default;
 
@@ -49,7 +49,7 @@ ZFXUnicodeString QVRGenZFXUnicodeStringUtils::ReplacePeriodWithDash(const ZFXUni
 }
 
 ZFXUnicodeString QVRGenZFXUnicodeStringUtils::TrucateToLegalLength(const ZFXUnicodeString& in) noexcept {
-    return in.SubString(0, kMaxNameLength);
+    return in.SubString(0, NameRules::MaxNameLength);
 }
 
 HRESULT QVRGenZFXUnicodeStringUtils::GetIntegerListFromString(

@@ -1,7 +1,10 @@
 #include "QVRNameUtil.h"
 
-#include "internal/CharacterClasses.h"
+#include "internal/NameRules.h"
 #include "internal/Refusal.h"
+
+#include <algorithm>
+#include <string>
 
 namespace {
 
@@ -19,7 +22,7 @@ HRESULT RefuseAbove(char16_t limit, const ZFXUnicodeString& name, ZFXUnicodeStri
         entry.BuildFromUCChar(&listed, 1);
         offending.Append(entry.Append("  "));
     }
-    offending.ReplaceSubString(offending.GetLengthInChar() - 1, 1, "");
+    offending.Resize(offending.GetLengthInChar() - 1);
     return InputErrorReturn(MessageId::DoubleByteCharErr_01, {.diagnostic = &offending});
 }
 
@@ -36,11 +39,9 @@ HRESULT QVRNameUtil::DoesNameContainSignedChar(const ZFXUnicodeString& name, ZFX
 }
 
 HRESULT QVRNameUtil::StripIllegalCharsFromFileName(ZFXUnicodeString& name) noexcept {
-    using namespace CharacterClasses;
-    for (const Row& row : kRows)
-        for (const char16_t c : row.characters)
-            if ((row.rules & kIllegalInFileNames) != 0)
-                name.ReplaceAll(ZFXUnicodeString(ZFXUnicodeChar::FromUnit(c), 1), "");
+    std::u16string kept(name.Units());
+    std::erase_if(kept, [](char16_t unit) { return NameRules::Breaks(unit, NameRules::kIllegalInFileNames); });
+    name = ZFXUnicodeString(kept);
     return S_OK;
 }
 

@@ -4,7 +4,6 @@
 #include "analysis/QVRIStep.h"
 #include "analysis/WorkbenchUtilities.h"
 #include "analysis/ZFXIAlias.h"
-#include "internal/LegalLength.h"
 #include "internal/Refusal.h"
 
 HRESULT QVRNameUtil::IsNameUnique(ZFXISpecObject_var& feature, const ZFXUnicodeString& name) noexcept {

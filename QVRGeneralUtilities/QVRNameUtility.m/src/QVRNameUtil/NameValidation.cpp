@@ -1,7 +1,6 @@
 #include "QVRNameUtil.h"
 
-#include "internal/CharacterClasses.h"
-#include "internal/LegalLength.h"
+#include "internal/NameRules.h"
 #include "internal/Refusal.h"
 
 HRESULT QVRNameUtil::IsNameValid(ZFXUnicodeString& name, unsigned char checkStartAndEnd) noexcept {
@@ -16,14 +15,14 @@ HRESULT QVRNameUtil::IsNameValid(ZFXUnicodeString& name, unsigned char checkStar
 HRESULT QVRNameUtil::IsFileNameValid(ZFXUnicodeString& name) noexcept { return NameCheckIllegalCharacter(name, 1); }
 
 HRESULT QVRNameUtil::CheckForIllegalCharacters(const ZFXUnicodeString& name) noexcept {
-    return CharacterClasses::Holds(name, CharacterClasses::kIllegal) ? E_FAIL : S_OK;
+    return NameRules::Breaks(name, NameRules::kIllegal) ? E_FAIL : S_OK;
 }
 
 HRESULT QVRNameUtil::NameCheckUserLength(ZFXUnicodeString& name) noexcept {
     const int length = name.GetLengthInChar();
     if (length < 1)
         return InputErrorReturn(MessageId::NameLengthERR_02);
-    if (length > kMaxNameLength)
+    if (length > NameRules::MaxNameLength)
         return InputErrorReturn(MessageId::NameLengthERR_01);
     return S_OK;
 }
@@ -35,11 +34,10 @@ HRESULT QVRNameUtil::NameCheckStartAndEnd(ZFXUnicodeString& name) noexcept {
 }
 
 HRESULT QVRNameUtil::NameCheckIllegalCharacter(ZFXUnicodeString& name, unsigned char isFileName) noexcept {
-    using namespace CharacterClasses;
-    const Rules reserved = isFileName != 0 ? kReserved : kReserved | kReservedInNames;
-    if (Holds(name, reserved))
+    using namespace NameRules;
+    if (Breaks(name, isFileName != 0 ? kReservedInFileNames : kReservedInNames))
         return InputErrorReturn(MessageId::IllegalCharERR_01, {.returnCode = kNameRefused});
-    if (isFileName != 0 && Holds(name, kIllegalInFileNames))
+    if (isFileName != 0 && Breaks(name, kIllegalInFileNames))
         return InputErrorReturn(MessageId::IllegalCharERR_02, {.returnCode = kNameRefused});
     return S_OK;
 }
