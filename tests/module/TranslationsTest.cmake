@@ -1,5 +1,6 @@
 # Every translation beside the libraries has the keys of the English catalog, and in each text the same parameters,
-# in whatever order; no text is the English one left as it was.
+# in whatever order; no text is the English one left as it was. No text of any language ends in a parameter, which would
+# run into the text that follows.
 cmake_minimum_required(VERSION 3.25)
 
 # texts(FILE): the rows of a catalog as "key=text", without what a list of CMake cannot hold.
@@ -13,6 +14,9 @@ function(texts file variable)
       message(SEND_ERROR "${file}: no row of a catalog: ${line}")
     endif()
     list(APPEND rows "${CMAKE_MATCH_1}=${CMAKE_MATCH_3}")
+    if(line MATCHES "/P[1-9]$")
+      message(SEND_ERROR "${file}: ends in a parameter: ${line}")
+    endif()
   endforeach()
   set(${variable} "${rows}" PARENT_SCOPE)
 endfunction()
