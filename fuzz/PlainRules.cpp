@@ -6,7 +6,8 @@
 namespace Plain {
 namespace {
 
-constexpr View kQuiet = u"$*?,#!&~()[]{}|:;'`/><";
+constexpr View kReserved = uR"(".\)"; // in file names: the first two
+constexpr View kQuiet = uR"($*?,#!&~()[]{}|:;'`/><)";
 
 bool IsSpace(char16_t unit) {
     constexpr View kSpaces = u"\t\n\v\f\r \u0085\u00A0\u1680\u2000\u2001\u2002\u2003\u2004\u2005\u2006\u2007\u2008"
@@ -23,11 +24,11 @@ std::string NameVerdict(View name, bool checkStart) {
         return "NameLengthERR_01";
     if (checkStart && name[0] >= u'0' && name[0] <= u'9')
         return "LeadingDigitERR_01";
-    return Holds(name, u"\".\\") ? "IllegalCharERR_01 -100" : "S_OK";
+    return Holds(name, kReserved) ? "IllegalCharERR_01 -100" : "S_OK";
 }
 
 std::string FileNameVerdict(View name) {
-    if (Holds(name, u"\"."))
+    if (Holds(name, kReserved.substr(0, 2)))
         return "IllegalCharERR_01 -100";
     return IsQuietlyIllegal(name) || Holds(name, u" ") ? "IllegalCharERR_02 -100" : "S_OK";
 }
