@@ -1,10 +1,10 @@
 // Any bytes are a document or one clear error; what was read can be judged, and nothing of it is left behind.
 
-#include "BadInput.h"
-#include "LoadedDocument.h"
+#include "ExitCode.h"
 #include "Operations.h"
 #include "QVRGenI18NUtils.h"
 #include "QVRNameUtil.h"
+#include "document/LoadedDocument.h"
 
 namespace {
 

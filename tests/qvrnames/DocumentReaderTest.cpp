@@ -1,6 +1,6 @@
-#include "BadInput.h"
-#include "LoadedDocument.h"
+#include "ExitCode.h"
 #include "Workshop.h"
+#include "document/LoadedDocument.h"
 
 #include "analysis/WorkbenchUtilities.h"
 

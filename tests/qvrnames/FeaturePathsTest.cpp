@@ -1,6 +1,6 @@
-#include "FeaturePaths.h"
+#include "document/FeaturePaths.h"
 
-#include "BadInput.h"
+#include "ExitCode.h"
 
 #include <gtest/gtest.h>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Run.h"
+#include "commands/CommandLine.h"
 
 #include "text/Utf8Path.h"
 

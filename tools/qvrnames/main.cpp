@@ -1,4 +1,4 @@
-#include "Run.h"
+#include "commands/CommandLine.h"
 
 #include <iostream>
 

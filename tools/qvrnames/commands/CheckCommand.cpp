@@ -1,0 +1,32 @@
+#include "commands/CommandLine.h"
+#include "commands/Commands.h"
+#include "commands/NameChecks.h"
+#include "terminal/Printing.h"
+#include "terminal/Table.h"
+
+#include <nlohmann/json.hpp>
+
+int CheckNames(const CheckRequest& request, Console console) {
+    nlohmann::ordered_json names = nlohmann::ordered_json::array();
+    Table table;
+    bool isRefused = false;
+    for (const std::string& argument : request.names) {
+        const ZFXUnicodeString name = TextOf(argument);
+        const Verdict verdict = request.areFileNames ? JudgeFileName(name) : JudgeText(name);
+        isRefused |= verdict.IsRefusal();
+        nlohmann::ordered_json said{{"name", argument}, {"legal", !verdict.IsRefusal()}};
+        table.rows.push_back({{Printable(argument)}, {verdict.IsRefusal() ? "refused" : "legal"}});
+        if (verdict.IsRefusal()) {
+            said["messageId"] = verdict.messageId;
+            said["message"] = verdict.message;
+            table.rows.back().push_back({verdict.messageId, Ink::Refusal});
+            table.rows.back().push_back({Printable(verdict.message)});
+        }
+        names.push_back(std::move(said));
+    }
+    if (console.isJson)
+        PrintJson(console.out, {{"legal", !isRefused}, {"names", names}});
+    else
+        PrintTable(console.out, table, console.screen);
+    return isRefused ? kRefused : kFine;
+}

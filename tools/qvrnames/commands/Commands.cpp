@@ -1,0 +1,32 @@
+#include "commands/Commands.h"
+
+#include "ExitCode.h"
+#include "document/FeaturePaths.h"
+#include "files/WholeFile.h"
+
+std::unique_ptr<LoadedDocument> OpenDocument(const std::string& file) {
+    std::string bytes = ReadWholeFile(file);
+    try {
+        return std::make_unique<LoadedDocument>(std::move(bytes));
+    } catch (const BadInput& error) {
+        throw BadInput(FileForPeople(file) + ": " + error.what());
+    }
+}
+
+std::uint32_t FindNamedFeature(const LoadedDocument& loaded, const std::string& file, const std::string& words) {
+    try {
+        const std::uint32_t entry = FindFeature(loaded, words);
+        if (entry == 0)
+            throw BadInput("\"" + words + "\" is the analysis model, which has no name in the file");
+        return entry;
+    } catch (const BadInput& error) {
+        throw BadInput(FileForPeople(file) + ": " + error.what());
+    }
+}
+
+ZFXUnicodeString TextOf(const std::string& argument) {
+    ZFXUnicodeString text(argument.c_str());
+    if (text.ConvertToChar() != argument) // what is no UTF-8 was read as U+FFFD
+        throw BadInput("an argument is no UTF-8 text: " + std::string(text.ConvertToChar()));
+    return text;
+}

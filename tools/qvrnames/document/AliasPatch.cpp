@@ -1,0 +1,22 @@
+#include "document/AliasPatch.h"
+
+#include <nlohmann/json.hpp>
+
+std::string WithName(const LoadedDocument& loaded, std::uint32_t entry, const std::string& name) {
+    const JsonValue object = loaded.text.BeginningAt(loaded.entries[entry].begin);
+    const std::string literal = nlohmann::json(name).dump();
+    std::string bytes = loaded.text.Bytes();
+    JsonValue firstKey;
+    JsonValue former;
+    object.ForEachMember([&](JsonValue key, JsonValue value) {
+        firstKey = firstKey ? firstKey : key;
+        if (key.Text() == SpellingOf(DocumentKey::Name))
+            former = value;
+    });
+    if (former)
+        return bytes.replace(former.Begin(), former.Literal().size(), literal);
+    const std::string member = nlohmann::json(SpellingOf(DocumentKey::Name)).dump() + ": " + literal;
+    if (firstKey)
+        return bytes.insert(firstKey.Begin(), member + ", ");
+    return bytes.insert(object.Begin() + 1, member);
+}

@@ -1,0 +1,100 @@
+#include "document/DocumentLinks.h"
+
+#include "document/EditDistance.h"
+
+#include <algorithm>
+
+namespace {
+
+void Connect(DocumentKey what, MemoryFeature from, MemoryFeature to) {
+    switch (what) {
+    case DocumentKey::Father:
+        from.Father(to);
+        break;
+    case DocumentKey::PointedAtBy:
+        from.PointedAtBy(to);
+        break;
+    case DocumentKey::Holds:
+        from.Hold(to);
+        break;
+    case DocumentKey::Group:
+        from.LeadTo(to);
+        break;
+    case DocumentKey::Connectors:
+        from.Connect(to);
+        break;
+    case DocumentKey::Master:
+        from.Master(to);
+        break;
+    default: // the slave side is the one that is left
+        from.Slave(to);
+        break;
+    }
+}
+
+/// The father of each object: the one that its place in the file gives, unless the file tells another.
+class Fathers {
+public:
+    explicit Fathers(const LoadedDocument& loaded) {
+        std::uint32_t history = 0;
+        for (const DocumentEntry& entry : loaded.entries) {
+            const bool isJobs = entry.key == DocumentKey::JobContainers || entry.key == DocumentKey::Jobs;
+            const bool underHistory = entry.key == DocumentKey::Steps && history > entry.parent;
+            const bool underModel = isJobs && loaded.entries[entry.parent].key == DocumentKey::Cases;
+            m_father.push_back(underHistory ? history : underModel ? 0 : entry.parent);
+            if (entry.key == DocumentKey::History)
+                history = static_cast<std::uint32_t>(m_father.size() - 1);
+        }
+        m_passed.resize(m_father.size());
+    }
+    void Tell(std::uint32_t child, std::uint32_t father) { m_father[child] = father; }
+
+    /// Over all questions each object is passed once.
+    bool LeadInACircle(std::uint32_t from) {
+        ++m_walk;
+        for (std::uint32_t at = from; at != DocumentEntry::kNone; at = m_father[at]) {
+            if (m_passed[at] != 0)
+                return m_passed[at] == m_walk;
+            m_passed[at] = m_walk;
+        }
+        return false;
+    }
+
+private:
+    std::vector<std::uint32_t> m_father;
+    std::vector<std::uint32_t> m_passed; // by which walk; 0 for none
+    std::uint32_t m_walk = 0;
+};
+
+} // namespace
+
+std::uint32_t DocumentLinks::TargetOf(const LoadedDocument& loaded, const Link& link) {
+    if (!link.to || link.to.Kind() == JsonKind::Null)
+        return link.target;
+    const std::string id = link.to.Text();
+    const auto found = loaded.ids.find(id);
+    if (found != loaded.ids.end())
+        return found->second;
+    std::vector<std::string> known;
+    for (const auto& [name, entry] : loaded.ids)
+        known.push_back(name);
+    std::sort(known.begin(), known.end());
+    link.to.Refuse("no object has the id \"" + id + "\"; " +
+                   (known.empty() ? "none in this file has one" : Suggestion(id, known)));
+}
+
+void DocumentLinks::Settle(LoadedDocument& loaded) const {
+    Fathers fathers(loaded);
+    for (const Link& link : m_links) {
+        const std::uint32_t target = TargetOf(loaded, link);
+        if (link.what == DocumentKey::Holds && target == link.from)
+            link.to.Refuse("a set cannot hold itself");
+        if (link.what == DocumentKey::Father)
+            fathers.Tell(link.from, target);
+        Connect(link.what, loaded.entries[link.from].feature,
+                target == DocumentEntry::kNone ? MemoryFeature() : loaded.entries[target].feature);
+    }
+    for (const Link& link : m_links)
+        if (link.what == DocumentKey::Father && fathers.LeadInACircle(link.from))
+            link.to.Refuse("the fathers lead in a circle");
+}

@@ -1,0 +1,172 @@
+#include "document/DocumentLinks.h"
+#include "document/JsonFields.h"
+#include "document/LoadedDocument.h"
+#include "document/ObjectFields.h"
+
+#include "LateTypes.h"
+
+#include <utility>
+
+// How a document file becomes an analysis document: one pass over the objects of the file, then one over
+// their references. The order of the keys in an object means nothing.
+
+namespace {
+
+class DocumentReader {
+public:
+    explicit DocumentReader(LoadedDocument& loaded) : m_loaded(loaded) {}
+
+    void Read() {
+        const JsonValue root = m_loaded.text.Root();
+        const ObjectFields fields(root, MemoryKind::Model);
+        m_loaded.entries.push_back({.feature = m_loaded.document.Model(), .begin = Place(root)});
+        Describe(0, fields);
+        ReadChildren(0, MemoryKind::Model, fields);
+        m_links.Settle(m_loaded);
+        if (m_firstIsCurrent)
+            m_loaded.document.MakeCurrent(m_firstCase);
+    }
+
+private:
+    static std::uint32_t Place(JsonValue value) { return static_cast<std::uint32_t>(value.Begin()); }
+
+    /// The object and all below it.
+    void ReadObject(JsonValue object, const ChildKey& place, std::uint32_t parent, std::uint32_t index) {
+        const ObjectFields fields(object, place.kind);
+        const JsonValue type = fields[DocumentKey::Type];
+        if (!type && place.defaultType == nullptr)
+            object.Refuse("expected the key \"type\", the late type of the object");
+        const std::string lateType = type ? ReadWord(type) : place.defaultType;
+        const JsonValue name = fields[DocumentKey::Name];
+        const MemoryFeature made = Make(place, parent, lateType.c_str(), name ? ReadText(name) : ZFXUnicodeString());
+        const auto entry = static_cast<std::uint32_t>(m_loaded.entries.size());
+        m_loaded.entries.push_back({made, Place(object), parent, index, place.key, static_cast<bool>(name)});
+        Describe(entry, fields);
+        if (place.kind == MemoryKind::Case)
+            DescribeCase(made, fields);
+        ReadChildren(entry, place.kind, fields);
+    }
+
+    MemoryFeature Make(const ChildKey& place, std::uint32_t parent, const char* type, const ZFXUnicodeString& name) {
+        MemoryFeature above = m_loaded.entries[parent].feature;
+        if (place.key == DocumentKey::MeshManager)
+            return m_loaded.document.MeshManager().Alias(name);
+        if (place.key == DocumentKey::Steps)
+            above = above.History();
+        if (place.key == DocumentKey::Jobs && m_loaded.entries[parent].key == DocumentKey::Cases)
+            above = m_jobs;
+        MemoryFeature made = above.Add(place.kind, type, name);
+        if (place.kind == MemoryKind::Material)
+            made.MaterialName(name); // the usual case
+        return made;
+    }
+
+    void ReadChildren(std::uint32_t entry, MemoryKind kind, const ObjectFields& fields) {
+        for (const ChildKey& place : kChildKeys) {
+            const JsonValue value = fields[place.key];
+            if (!value || IsNoHistory(place.key, value))
+                continue;
+            if (!place.isList) {
+                ReadObject(value, place, entry, DocumentEntry::kNone);
+                continue;
+            }
+            ExpectKind(value, JsonKind::Array);
+            value.ForEachElement([&](std::size_t index, JsonValue element) {
+                ReadElement(element, place, entry, static_cast<std::uint32_t>(index), kind);
+            });
+        }
+    }
+
+    /// An element of a list: an object that is made here or, on a side of a connection, one that is told by
+    /// its id.
+    void ReadElement(JsonValue element, const ChildKey& place, std::uint32_t entry, std::uint32_t index,
+                     MemoryKind kind) {
+        const bool isSide = kind == MemoryKind::Support || kind == MemoryKind::ConnectionDesign;
+        if (isSide && element.Kind() == JsonKind::String) {
+            m_links.Add(place.key, entry, element);
+            return;
+        }
+        const auto made = static_cast<std::uint32_t>(m_loaded.entries.size());
+        ReadObject(element, place, entry, index);
+        if (isSide)
+            m_links.Add(place.key, entry, made);
+    }
+
+    void Describe(std::uint32_t entry, const ObjectFields& fields) {
+        fields.Describe(m_loaded.entries[entry].feature);
+        if (const JsonValue id = fields[DocumentKey::Id])
+            TakeId(id, entry);
+        if (const JsonValue father = fields[DocumentKey::Father])
+            AddLink(DocumentKey::Father, entry, father, father.Kind() == JsonKind::Null);
+        if (const JsonValue group = fields[DocumentKey::Group])
+            AddLink(DocumentKey::Group, entry, group);
+        for (const DocumentKey key : {DocumentKey::PointedAtBy, DocumentKey::Holds}) {
+            const JsonValue list = fields[key];
+            if (!list)
+                continue;
+            ExpectKind(list, JsonKind::Array);
+            list.ForEachElement([&](std::size_t, JsonValue reference) { AddLink(key, entry, reference); });
+        }
+    }
+
+    void TakeId(JsonValue value, std::uint32_t entry) {
+        const std::string id = ReadWord(value);
+        if (id.front() == '/')
+            value.Refuse("expected an id that does not begin with \"/\", as JSON pointers do");
+        const auto [known, isNew] = m_loaded.ids.emplace(id, entry);
+        if (!isNew)
+            value.Refuse("the id \"" + id + "\" is that of another object, at " +
+                         m_loaded.text.LineAndColumn(m_loaded.entries[known->second].begin));
+    }
+
+    void AddLink(DocumentKey key, std::uint32_t entry, JsonValue reference, bool isNone = false) {
+        if (!isNone)
+            ExpectKind(reference, JsonKind::String);
+        m_links.Add(key, entry, reference);
+    }
+
+    void DescribeCase(MemoryFeature made, const ObjectFields& fields) {
+        TakeCurrent(made, fields[DocumentKey::Current]);
+        const JsonValue history = fields[DocumentKey::History];
+        const JsonValue steps = fields[DocumentKey::Steps];
+        if (steps && IsNoHistory(DocumentKey::History, history))
+            steps.Refuse("expected no steps in a case whose \"history\" is null");
+        if (!history)
+            made.Add(MemoryKind::History, LateTypes::QVROruSimHistLT, {});
+        m_jobs = {};
+        if (fields[DocumentKey::Jobs])
+            m_jobs = made.Add(MemoryKind::JobContainer, LateTypes::QVRJobContainerLT, {});
+    }
+
+    /// The first case is current unless it says that it is not, or another says that it is.
+    void TakeCurrent(MemoryFeature made, JsonValue current) {
+        if (!std::exchange(m_metCase, true)) {
+            m_firstCase = made;
+            m_firstIsCurrent = !current;
+        }
+        if (!current || !ReadBool(current))
+            return;
+        if (std::exchange(m_hasCurrent, true))
+            current.Refuse("another case is current already");
+        m_firstIsCurrent = false;
+        m_loaded.document.MakeCurrent(made);
+    }
+
+    static bool IsNoHistory(DocumentKey key, JsonValue value) {
+        return key == DocumentKey::History && value && value.Kind() == JsonKind::Null;
+    }
+
+    LoadedDocument& m_loaded;
+    DocumentLinks m_links;
+    MemoryFeature m_firstCase;
+    MemoryFeature m_jobs; // the container of the jobs that a case tells without one
+    bool m_metCase = false;
+    bool m_firstIsCurrent = false;
+    bool m_hasCurrent = false;
+};
+
+} // namespace
+
+LoadedDocument::LoadedDocument(std::string bytes) : text(std::move(bytes)), document(model.NewDocument()) {
+    DocumentReader(*this).Read();
+}

@@ -1,0 +1,68 @@
+#include "ExitCode.h"
+#include "document/JsonText.h"
+
+#include <nlohmann/json.hpp>
+
+// The one question whether a text is JSON. The answer builds no tree and goes into no recursion, whatever the
+// text.
+
+namespace {
+
+class SyntaxCheck final : public nlohmann::json_sax<nlohmann::json> {
+public:
+    bool null() override { return true; }
+    bool boolean(bool) override { return true; }
+    bool number_integer(number_integer_t) override { return true; }
+    bool number_unsigned(number_unsigned_t) override { return true; }
+    bool number_float(number_float_t, const string_t&) override { return true; }
+    bool string(string_t&) override { return true; }
+    bool binary(binary_t&) override { return true; }
+    bool key(string_t&) override { return true; }
+    bool start_object(std::size_t) override { return Deeper(); }
+    bool start_array(std::size_t) override { return Deeper(); }
+    bool end_object() override { return Shallower(); }
+    bool end_array() override { return Shallower(); }
+    bool parse_error(std::size_t position, const std::string&, const nlohmann::detail::exception& error) override {
+        place = position == 0 ? 0 : position - 1;
+        message = WithoutItsPlace(error.what());
+        return false;
+    }
+
+    std::size_t place = 0;
+    std::string message;
+
+private:
+    bool Deeper() { return ++m_depth <= JsonText::kDeepest; }
+    bool Shallower() {
+        --m_depth;
+        return true;
+    }
+
+    /// The reason alone: the place is told by the caller, and what was read last may be half the file or no
+    /// proper text.
+    static std::string WithoutItsPlace(std::string reason) {
+        if (const auto column = reason.find("column "); column != std::string::npos)
+            reason.erase(0, reason.find(": ", column) + 2);
+        else if (const auto id = reason.find("] "); id != std::string::npos)
+            reason.erase(0, id + 2);
+        const auto read = reason.find("; last read: ");
+        const auto expected = reason.rfind("'; expected ");
+        if (read != std::string::npos)
+            reason.erase(read, expected == std::string::npos ? std::string::npos : expected + 1 - read);
+        return reason;
+    }
+
+    int m_depth = 0;
+};
+
+} // namespace
+
+void JsonText::RefuseUnlessJson() const {
+    SyntaxCheck check;
+    if (nlohmann::json::sax_parse(m_bytes, &check))
+        return;
+    if (check.message.empty())
+        throw BadInput(LineAndColumn(PlaceTooDeep()) + ": nested more deeply than " + std::to_string(kDeepest) +
+                       " levels");
+    throw BadInput(LineAndColumn(check.place) + ": " + check.message);
+}

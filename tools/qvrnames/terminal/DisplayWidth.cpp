@@ -1,0 +1,61 @@
+#include "terminal/DisplayWidth.h"
+
+#include <algorithm>
+#include <iterator>
+
+namespace {
+
+struct CellRange {
+    char32_t first;
+    char32_t last;
+};
+#include "terminal/unicode/generated/CellRanges.inc"
+
+template <std::size_t count>
+bool IsIn(const CellRange (&ranges)[count], char32_t code) {
+    const auto* const range = std::lower_bound(std::begin(ranges), std::end(ranges), code,
+                                               [](const CellRange& at, char32_t c) { return at.last < c; });
+    return range != std::end(ranges) && range->first <= code;
+}
+
+std::size_t CellsOf(char32_t code) {
+    if (code < 0x300)
+        return 1;
+    return IsIn(kNoCellRanges, code) ? 0 : IsIn(kWideRanges, code) ? 2 : 1;
+}
+
+std::size_t BytesOf(unsigned char lead) { return lead < 0x80 ? 1 : lead < 0xE0 ? 2 : lead < 0xF0 ? 3 : 4; }
+
+} // namespace
+
+std::pair<char32_t, std::size_t> FirstCharacter(std::string_view text) {
+    const auto lead = static_cast<unsigned char>(text.front());
+    const std::size_t bytes = std::min(BytesOf(lead), text.size());
+    char32_t code = bytes == 1 ? lead : lead & (0xFFU >> (bytes + 1));
+    for (std::size_t i = 1; i < bytes; ++i)
+        code = (code << 6U) | (static_cast<unsigned char>(text[i]) & 0x3FU);
+    return {code, bytes};
+}
+
+std::size_t CellsOf(std::string_view text) {
+    std::size_t cells = 0;
+    while (!text.empty()) {
+        const auto [code, bytes] = FirstCharacter(text);
+        text.remove_prefix(bytes);
+        cells += CellsOf(code);
+    }
+    return cells;
+}
+
+std::size_t BytesThatFit(std::string_view text, std::size_t cells) {
+    std::size_t taken = 0;
+    std::size_t used = 0;
+    while (taken < text.size()) {
+        const auto [code, bytes] = FirstCharacter(text.substr(taken));
+        used += CellsOf(code);
+        if (used > cells && taken > 0)
+            break;
+        taken += bytes;
+    }
+    return taken;
+}

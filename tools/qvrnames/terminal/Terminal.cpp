@@ -1,0 +1,70 @@
+#include "terminal/Terminal.h"
+
+#include <cstdlib>
+#include <string_view>
+
+#ifdef _WIN32
+#include <windows.h>
+
+#include <cstdio>
+
+#include <io.h>
+#else
+#include <csignal>
+
+#include <sys/ioctl.h>
+#include <unistd.h>
+#endif
+
+namespace {
+
+std::string_view Environment(const char* name) {
+    const char* const value = std::getenv(name);
+    return value == nullptr ? std::string_view() : value;
+}
+
+#ifdef _WIN32
+
+bool IsTerminal() { return _isatty(_fileno(stdout)) != 0; }
+
+std::size_t Columns() {
+    CONSOLE_SCREEN_BUFFER_INFO info{};
+    if (GetConsoleScreenBufferInfo(GetStdHandle(STD_OUTPUT_HANDLE), &info) == 0)
+        return 0;
+    return static_cast<std::size_t>(info.srWindow.Right - info.srWindow.Left + 1);
+}
+
+/// The console takes colours once it is asked to.
+bool UnderstandsColour() {
+    const HANDLE console = GetStdHandle(STD_OUTPUT_HANDLE);
+    DWORD mode = 0;
+    return GetConsoleMode(console, &mode) != 0 &&
+           SetConsoleMode(console, mode | ENABLE_VIRTUAL_TERMINAL_PROCESSING) != 0;
+}
+
+#else
+
+bool IsTerminal() { return isatty(STDOUT_FILENO) == 1; }
+
+std::size_t Columns() {
+    winsize size{};
+    return ioctl(STDOUT_FILENO, TIOCGWINSZ, &size) == 0 ? size.ws_col : 0U;
+}
+
+bool UnderstandsColour() { return !Environment("TERM").empty() && Environment("TERM") != "dumb"; }
+
+#endif
+
+} // namespace
+
+Screen ScreenOfStandardOutput() {
+    if (!IsTerminal())
+        return {};
+    return {Columns(), Environment("NO_COLOR").empty() && UnderstandsColour()};
+}
+
+void EndWhenNobodyReads() {
+#ifndef _WIN32
+    std::signal(SIGPIPE, SIG_DFL);
+#endif
+}
