@@ -1,9 +1,9 @@
-#include "commands/CommandLine.h"
+#include "ExitCode.h"
 #include "commands/Commands.h"
 #include "commands/Deck.h"
 #include "commands/NameChecks.h"
 #include "document/FeaturePaths.h"
-#include "terminal/Printing.h"
+#include "terminal/DisplayWidth.h"
 #include "terminal/Table.h"
 
 #include <nlohmann/json.hpp>
@@ -105,14 +105,10 @@ void JudgeFeature(const LoadedDocument& loaded, std::uint32_t entry, std::vector
 
 int AuditDocument(const AuditRequest& request, Console console) {
     const auto loaded = OpenDocument(request.document);
-    std::size_t named = 0;
-    for (const DocumentEntry& entry : loaded->entries)
-        named += entry.isNamed ? 1 : 0;
-    Progress progress(console.err, named);
+    const std::vector<std::uint32_t> named = NamedEntries(*loaded);
+    Progress progress(console.err, named.size());
     Findings findings;
-    for (std::uint32_t entry = 0; entry < loaded->entries.size(); ++entry) {
-        if (!loaded->entries[entry].isNamed)
-            continue;
+    for (const std::uint32_t entry : named) {
         JudgeFeature(*loaded, entry, findings.refusals);
         progress.Done(++findings.checked);
     }

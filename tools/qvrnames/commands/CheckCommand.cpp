@@ -1,7 +1,7 @@
-#include "commands/CommandLine.h"
+#include "ExitCode.h"
 #include "commands/Commands.h"
 #include "commands/NameChecks.h"
-#include "terminal/Printing.h"
+#include "terminal/DisplayWidth.h"
 #include "terminal/Table.h"
 
 #include <nlohmann/json.hpp>

@@ -4,7 +4,7 @@
 #include "QVRNameUtilityVersion.h"
 #include "commands/Commands.h"
 #include "document/EditDistance.h"
-#include "terminal/Printing.h"
+#include "terminal/DisplayWidth.h"
 
 #include "errors/MessageCatalog.h"
 

@@ -2,7 +2,12 @@
 
 #include "ExitCode.h"
 #include "document/FeaturePaths.h"
+#include "files/FileErrors.h"
 #include "files/WholeFile.h"
+
+#include <nlohmann/json.hpp>
+
+#include <ostream>
 
 std::unique_ptr<LoadedDocument> OpenDocument(const std::string& file) {
     std::string bytes = ReadWholeFile(file);
@@ -30,3 +35,5 @@ ZFXUnicodeString TextOf(const std::string& argument) {
         throw BadInput("an argument is no UTF-8 text: " + std::string(text.ConvertToChar()));
     return text;
 }
+
+void PrintJson(std::ostream& out, const nlohmann::ordered_json& value) { out << value.dump(2) << '\n'; }

@@ -3,6 +3,8 @@
 #include "document/LoadedDocument.h"
 #include "terminal/Terminal.h"
 
+#include <nlohmann/json_fwd.hpp>
+
 #include <iosfwd>
 #include <memory>
 #include <string>
@@ -55,6 +57,7 @@ int RenameFeature(const RenameRequest& request, Console console);
 std::unique_ptr<LoadedDocument> OpenDocument(const std::string& file);
 /// FindFeature, for one that can have a name.
 std::uint32_t FindNamedFeature(const LoadedDocument& loaded, const std::string& file, const std::string& words);
+void PrintJson(std::ostream& out, const nlohmann::ordered_json& value);
 /// BadInput when an argument is no UTF-8.
 ZFXUnicodeString TextOf(const std::string& argument);
 /// @}

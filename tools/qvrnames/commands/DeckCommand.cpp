@@ -1,8 +1,8 @@
-#include "commands/CommandLine.h"
+#include "ExitCode.h"
 #include "commands/Commands.h"
 #include "commands/Deck.h"
 #include "document/FeaturePaths.h"
-#include "terminal/Printing.h"
+#include "terminal/DisplayWidth.h"
 #include "terminal/Table.h"
 
 #include <nlohmann/json.hpp>

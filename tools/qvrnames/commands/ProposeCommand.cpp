@@ -1,9 +1,8 @@
 #include "ExitCode.h"
-#include "commands/CommandLine.h"
 #include "commands/Commands.h"
 #include "document/FeaturePaths.h"
-#include "files/WholeFile.h"
-#include "terminal/Printing.h"
+#include "files/FileErrors.h"
+#include "terminal/DisplayWidth.h"
 #include "terminal/Table.h"
 
 #include "LateTypes.h"

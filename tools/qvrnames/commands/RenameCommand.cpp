@@ -1,12 +1,10 @@
 #include "ExitCode.h"
-#include "commands/CommandLine.h"
 #include "commands/Commands.h"
 #include "commands/NameChecks.h"
-#include "document/AliasPatch.h"
 #include "document/FeaturePaths.h"
+#include "files/FileErrors.h"
 #include "files/WholeFile.h"
-#include "terminal/Printing.h"
-#include "terminal/Table.h"
+#include "terminal/DisplayWidth.h"
 
 #include <nlohmann/json.hpp>
 

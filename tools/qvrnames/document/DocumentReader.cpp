@@ -1,5 +1,4 @@
 #include "document/DocumentLinks.h"
-#include "document/JsonFields.h"
 #include "document/LoadedDocument.h"
 #include "document/ObjectFields.h"
 

@@ -2,7 +2,7 @@
 
 #include "ExitCode.h"
 #include "document/EditDistance.h"
-#include "terminal/Printing.h"
+#include "terminal/DisplayWidth.h"
 
 #include <algorithm>
 #include <optional>
@@ -20,14 +20,6 @@ std::string NameOf(const DocumentEntry& entry) {
 
 bool IsEndOf(const std::string& path, const std::string& words) {
     return path.size() > words.size() && path.ends_with(words) && path[path.size() - words.size() - 1] == '/';
-}
-
-Entries NamedEntries(const LoadedDocument& loaded) {
-    Entries named;
-    for (std::uint32_t entry = 0; entry < loaded.entries.size(); ++entry)
-        if (loaded.entries[entry].isNamed)
-            named.push_back(entry);
-    return named;
 }
 
 /// As many parts of the end of the path as the words have.

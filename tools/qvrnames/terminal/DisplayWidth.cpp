@@ -1,6 +1,7 @@
 #include "terminal/DisplayWidth.h"
 
 #include <algorithm>
+#include <cstdio>
 #include <iterator>
 
 namespace {
@@ -25,6 +26,12 @@ std::size_t CellsOf(char32_t code) {
 }
 
 std::size_t BytesOf(unsigned char lead) { return lead < 0x80 ? 1 : lead < 0xE0 ? 2 : lead < 0xF0 ? 3 : 4; }
+
+/// Characters that break lines, steer a terminal, or turn around the direction of what follows them.
+bool IsControl(char32_t code) {
+    return code < 0x20 || (code >= 0x7F && code <= 0x9F) || (code >= 0x2028 && code <= 0x202E) ||
+           (code >= 0x2066 && code <= 0x2069);
+}
 
 } // namespace
 
@@ -58,4 +65,20 @@ std::size_t BytesThatFit(std::string_view text, std::size_t cells) {
         taken += bytes;
     }
     return taken;
+}
+
+std::string Printable(std::string_view text) {
+    std::string printable;
+    while (!text.empty()) {
+        const auto [code, bytes] = FirstCharacter(text);
+        if (!IsControl(code)) {
+            printable += text.substr(0, bytes);
+        } else {
+            char escape[8];
+            std::snprintf(escape, sizeof escape, "\\u%04X", static_cast<unsigned>(code) & 0xFFFFU);
+            printable += escape;
+        }
+        text.remove_prefix(bytes);
+    }
+    return printable;
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <string>
 #include <string_view>
 #include <utility>
 
@@ -14,3 +15,7 @@ std::size_t CellsOf(std::string_view text);
 /// The bytes that the beginning of a text takes: as much as goes into the cells, marks with what they are put
 /// on; at least one character unless the text is empty.
 std::size_t BytesThatFit(std::string_view text, std::size_t cells);
+
+/// The text with its control characters written as \u0009 and the like, so that a name can neither break a
+/// line nor steer a terminal nor turn the direction of writing around.
+std::string Printable(std::string_view text);

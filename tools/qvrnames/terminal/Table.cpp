@@ -139,13 +139,6 @@ void PrintStacked(std::ostream& out, const Table& table, const Screen& screen) {
 
 } // namespace
 
-std::string Inked(std::string_view text, Ink ink, const Screen& screen) {
-    static constexpr const char* kSequences[] = {"", "\x1B[1m", "\x1B[31m", "\x1B[32m"};
-    if (!screen.takesColour || ink == Ink::Plain)
-        return std::string(text);
-    return kSequences[static_cast<int>(ink)] + std::string(text) + "\x1B[0m";
-}
-
 void PrintTable(std::ostream& out, const Table& table, const Screen& screen) {
     Widths widths = ColumnWidths(table, false);
     const bool isTooWide = screen.columns > 0 && !widths.empty() && WithGaps(widths) > screen.columns;

@@ -7,12 +7,6 @@
 #include <string_view>
 #include <vector>
 
-/// What a piece of text stands out by, where colours are taken.
-enum class Ink { Plain, Heading, Refusal, Proposal };
-
-/// The text with the ink around it, or as it is for a screen that takes no colour.
-std::string Inked(std::string_view text, Ink ink, const Screen& screen);
-
 struct Cell {
     std::string text; ///< in one line
     Ink ink = Ink::Plain;

@@ -63,6 +63,13 @@ Screen ScreenOfStandardOutput() {
     return {Columns(), Environment("NO_COLOR").empty() && UnderstandsColour()};
 }
 
+std::string Inked(std::string_view text, Ink ink, const Screen& screen) {
+    static constexpr const char* kSequences[] = {"", "\x1B[1m", "\x1B[31m", "\x1B[32m"};
+    if (!screen.takesColour || ink == Ink::Plain)
+        return std::string(text);
+    return kSequences[static_cast<int>(ink)] + std::string(text) + "\x1B[0m";
+}
+
 void EndWhenNobodyReads() {
 #ifndef _WIN32
     std::signal(SIGPIPE, SIG_DFL);

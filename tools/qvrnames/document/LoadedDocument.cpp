@@ -1,6 +1,14 @@
-#include "document/AliasPatch.h"
+#include "document/LoadedDocument.h"
 
 #include <nlohmann/json.hpp>
+
+std::vector<std::uint32_t> NamedEntries(const LoadedDocument& loaded) {
+    std::vector<std::uint32_t> named;
+    for (std::uint32_t entry = 0; entry < loaded.entries.size(); ++entry)
+        if (loaded.entries[entry].isNamed)
+            named.push_back(entry);
+    return named;
+}
 
 std::string WithName(const LoadedDocument& loaded, std::uint32_t entry, const std::string& name) {
     const JsonValue object = loaded.text.BeginningAt(loaded.entries[entry].begin);
