@@ -31,15 +31,14 @@ Names FeatureNames(const ZFXISpecObject_var& feature) {
     return {If(named, display), If(named, compliant), If(generated, generic)};
 }
 
-/// The tag in an instance name as the deck shows it, in capitals; nothing when none can be read, which leaves the value
-/// that was passed.
+/// Returns the tag in an instance name, read from its upper-case form as it is written in the deck; nothing if there is
+/// none. The digits of a tag end at the first "-", so no tag that can be read is negative.
 std::optional<std::string> TagIn(const ZFXUnicodeString& instance) {
+    constexpr int kNoTag = -1;
     ZFXUnicodeString capitals(instance);
     capitals.ToUpper();
-    int tag = 0;
-    int again = 1;
-    if (Failed(QVRGenInstanceName::GetUniqueLegalInstanceTag(tag, capitals)) ||
-        Failed(QVRGenInstanceName::GetUniqueLegalInstanceTag(again, capitals)) || tag != again)
+    int tag = kNoTag;
+    if (Failed(QVRGenInstanceName::GetUniqueLegalInstanceTag(tag, capitals)) || tag == kNoTag)
         return std::nullopt;
     return std::to_string(tag);
 }
@@ -65,9 +64,10 @@ std::optional<std::string> GroupName(HRESULT code, const ZFXUnicodeString& name)
     return name.IsNull() != 0 ? std::nullopt : If(code, name);
 }
 
-Names SupportNames(ZFXISpecObject_var feature) {
+Names SupportNames(const ZFXISpecObject_var& feature) {
+    ZFXISpecObject_var support(feature);
     ZFXUnicodeString group;
-    const HRESULT code = QVRNameUtil::GetSupportGroupName(feature, group);
+    const HRESULT code = QVRNameUtil::GetSupportGroupName(support, group);
     return {DisplayName(feature), GroupName(code, group)};
 }
 
@@ -81,64 +81,91 @@ Names DesignNames(const ZFXISpecObject_var& feature) {
 
 Names JobNames(const ZFXISpecObject_var& feature) { return {DisplayName(feature)}; }
 
-enum Section { kFeatures, kMeshParts, kMaterials, kSupports, kDesigns, kJobs };
-
-/// Recognised as a host does: by the interfaces that the object offers and by its late type.
-Section SectionOf(const ZFXISpecObject_var& feature) {
-    if (ZFXIMSHMeshPart_var(feature) != nullptr)
-        return kMeshParts;
-    if (ZFXIMaterialFeature_var(feature) != nullptr)
-        return kMaterials;
-    if (ZFXISamAnalysisSupport_var(feature) != nullptr)
-        return kSupports;
-    if (QVRISamAnalysisConnectionDesign_var(feature) != nullptr)
-        return kDesigns;
-    return feature->GetLateType() == LateTypes::QVRJobLT ? kJobs : kFeatures;
+template <class Interface>
+bool Offers(const ZFXISpecObject_var& feature) {
+    return Interface(feature) != nullptr;
 }
 
-/// Whether the deck would hold the object: what has a name, and what lies in a set or is a step and may still get one.
-bool IsInDeck(const DocumentEntry& entry, const ZFXISpecObject_var& feature) {
-    return feature != nullptr && (entry.isNamed || SectionOf(feature) != kFeatures ||
-                                  QVRIStep_var(feature) != nullptr || ZFXISamAnalysisEntity_var(feature) != nullptr);
-}
+bool IsJob(const ZFXISpecObject_var& feature) { return feature->GetLateType() == LateTypes::QVRJobLT; }
+
+/// A section of the deck: how its objects are recognised, and the names that they get.
+struct SectionType {
+    const char* title;
+    const char* key;
+    bool (*matches)(const ZFXISpecObject_var& feature);  ///< null: every object that matches no other section
+    Names (*namesOf)(const ZFXISpecObject_var& feature); ///< in the order of the columns
+    std::vector<DeckColumn> columns;
+};
 
 constexpr DeckColumn kDisplay{"DISPLAY NAME", "displayName", false};
+
+/// In the order of the output. An object belongs to the first section that matches it.
+const std::vector<SectionType>& SectionTypes() {
+    static const std::vector<SectionType> types{
+        {"FEATURE",
+         "features",
+         nullptr,
+         FeatureNames,
+         {kDisplay, {"SOLVER NAME", "solverName", true}, {"GENERIC NAME", "genericName", false}}},
+        {"MESH PART",
+         "meshParts",
+         Offers<ZFXIMSHMeshPart_var>,
+         MeshPartNames,
+         {kDisplay, {"INSTANCE", "instanceName", true}, {"PART", "partName", true}, {"TAG", "tag", false}}},
+        {"MATERIAL",
+         "materials",
+         Offers<ZFXIMaterialFeature_var>,
+         MaterialNames,
+         {kDisplay, {"NAME", "materialName", true}, {"GENERIC NAME", "genericName", false}}},
+        {"SUPPORT",
+         "supports",
+         Offers<ZFXISamAnalysisSupport_var>,
+         SupportNames,
+         {kDisplay, {"GROUP", "group", false}}},
+        {"CONNECTION DESIGN",
+         "connectionDesigns",
+         Offers<QVRISamAnalysisConnectionDesign_var>,
+         DesignNames,
+         {kDisplay, {"MASTER GROUP", "masterGroup", false}, {"SLAVE GROUP", "slaveGroup", false}}},
+        {"JOB", "jobs", IsJob, JobNames, {{"NAME", "name", true}}},
+    };
+    return types;
+}
+
+/// Returns the index of the section of an object. Recognises objects as a host does: by the interfaces that they offer
+/// and by their late types.
+std::size_t SectionOf(const ZFXISpecObject_var& feature) {
+    const std::vector<SectionType>& types = SectionTypes();
+    std::size_t rest = 0;
+    for (std::size_t i = 0; i < types.size(); ++i) {
+        if (types[i].matches == nullptr)
+            rest = i;
+        else if (types[i].matches(feature))
+            return i;
+    }
+    return rest;
+}
+
+/// Returns true if the object is written into the deck: it has a name, belongs to a section of its own, or is a step or
+/// a member of a set, which may still get a name.
+bool IsInDeck(const DocumentEntry& entry, const ZFXISpecObject_var& feature) {
+    return feature != nullptr && (entry.isNamed || SectionTypes()[SectionOf(feature)].matches != nullptr ||
+                                  Offers<QVRIStep_var>(feature) || Offers<ZFXISamAnalysisEntity_var>(feature));
+}
 
 } // namespace
 
 std::vector<DeckSection> DeckOf(const LoadedDocument& loaded) {
-    std::vector<DeckSection> deck{
-        {"FEATURE",
-         "features",
-         {kDisplay, {"SOLVER NAME", "solverName", true}, {"GENERIC NAME", "genericName", false}},
-         {}},
-        {"MESH PART",
-         "meshParts",
-         {kDisplay, {"INSTANCE", "instanceName", true}, {"PART", "partName", true}, {"TAG", "tag", false}},
-         {}},
-        {"MATERIAL",
-         "materials",
-         {kDisplay, {"NAME", "materialName", true}, {"GENERIC NAME", "genericName", false}},
-         {}},
-        {"SUPPORT", "supports", {kDisplay, {"GROUP", "group", false}}, {}},
-        {"CONNECTION DESIGN",
-         "connectionDesigns",
-         {kDisplay, {"MASTER GROUP", "masterGroup", false}, {"SLAVE GROUP", "slaveGroup", false}},
-         {}},
-        {"JOB", "jobs", {{"NAME", "name", true}}, {}},
-    };
-    using Namer = Names (*)(const ZFXISpecObject_var&);
-    static constexpr Namer kNamers[] = {
-        FeatureNames,  MeshPartNames,
-        MaterialNames, [](const ZFXISpecObject_var& feature) { return SupportNames(feature); },
-        DesignNames,   JobNames};
+    std::vector<DeckSection> deck;
+    for (const SectionType& type : SectionTypes())
+        deck.push_back({type.title, type.key, type.columns, {}});
     QVRGenI18NUtils::Instance()->ResetAllLists();
     for (std::uint32_t entry = 0; entry < loaded.entries.size(); ++entry) {
         const ZFXISpecObject_var feature = loaded.entries[entry].feature;
         if (!IsInDeck(loaded.entries[entry], feature))
             continue;
-        const Section section = SectionOf(feature);
-        deck[section].rows.push_back({entry, kNamers[section](feature)});
+        const std::size_t section = SectionOf(feature);
+        deck[section].rows.push_back({entry, SectionTypes()[section].namesOf(feature)});
     }
     QVRGenI18NUtils::Instance()->ResetAllLists();
     return deck;

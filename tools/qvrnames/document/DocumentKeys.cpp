@@ -1,6 +1,6 @@
 #include "document/DocumentKeys.h"
 
-#include <algorithm>
+#include <cassert>
 #include <unordered_map>
 
 namespace {
@@ -17,58 +17,27 @@ constexpr Kinds kCase = Of(MemoryKind::Case);
 constexpr Kinds kFeature = Of(MemoryKind::Feature);
 constexpr Kinds kAll = ~0U;
 constexpr Kinds kBelowModel = kAll & ~kModel;
-/// The mesh manager is there from the start.
-constexpr Kinds kMade = kBelowModel & ~Of(MemoryKind::MeshManager);
-/// What can have features of any kind below it.
-constexpr Kinds kHolders = kModel | kCase | kFeature | Of(MemoryKind::Step, MemoryKind::Set);
+/// The mesh manager exists in every document, so the file does not choose its type.
+constexpr Kinds kCreated = kBelowModel & ~Of(MemoryKind::MeshManager);
+/// Objects of these kinds can have features, sets, materials and so on below them.
+constexpr Kinds kParents = kModel | kCase | kFeature | Of(MemoryKind::Step, MemoryKind::Set);
 
 struct Row {
     const char* spelling;
-    Kinds kinds;
+    Kinds owners;
 };
 
-/// In the order of DocumentKey.
 constexpr Row kRows[] = {
-    {"$schema", kModel},
-    {"comment", kAll},
-    {"id", kAll},
-    {"type", kMade},
-    {"name", kBelowModel},
-    {"father", kBelowModel},
-    {"attributes", kAll},
-    {"offers", kAll},
-    {"withholds", kAll},
-    {"pointedAtBy", kAll},
-    {"current", kCase},
-    {"solverCase", kCase},
-    {"propagated", kFeature},
-    {"property", kFeature},
-    {"amplitude", kFeature},
-    {"holds", Of(MemoryKind::Set, MemoryKind::JobContainer)},
-    {"tag", Of(MemoryKind::MeshPart)},
-    {"materialName", Of(MemoryKind::Material)},
-    {"group", Of(MemoryKind::Connector)},
-    {"meshManager", kModel},
-    {"propertySet", kModel},
-    {"cases", kModel},
-    {"history", kCase},
-    {"steps", kCase},
-    {"jobs", kCase | Of(MemoryKind::JobContainer)},
-    {"jobContainers", kCase},
-    {"sets", kHolders},
-    {"features", kHolders},
-    {"materials", kHolders},
-    {"groups", kHolders},
-    {"supports", kHolders},
-    {"connectors", kHolders | Of(MemoryKind::Support)},
-    {"master", Of(MemoryKind::ConnectionDesign)},
-    {"slave", Of(MemoryKind::ConnectionDesign)},
-    {"connectionDesigns", kHolders},
-    {"meshParts", Of(MemoryKind::MeshManager)},
+#define DOCUMENT_KEY(key, spelling, owners) {spelling, owners},
+#define DOCUMENT_OBJECT(key, spelling, owners, kind, defaultType) {spelling, owners},
+#define DOCUMENT_LIST(key, spelling, owners, kind, defaultType) {spelling, owners},
+#include "document/DocumentKeys.def"
+#undef DOCUMENT_KEY
+#undef DOCUMENT_OBJECT
+#undef DOCUMENT_LIST
 };
-static_assert(std::size(kRows) == kDocumentKeys);
 
-bool IsFor(const Row& row, MemoryKind kind) { return (row.kinds & Of(kind)) != 0; }
+bool IsFor(const Row& row, MemoryKind kind) { return (row.owners & Of(kind)) != 0; }
 
 } // namespace
 
@@ -85,7 +54,10 @@ std::optional<DocumentKey> FindDocumentKey(std::string_view spelling, MemoryKind
     return static_cast<DocumentKey>(found->second);
 }
 
-const char* SpellingOf(DocumentKey key) { return kRows[static_cast<std::size_t>(key)].spelling; }
+const char* SpellingOf(DocumentKey key) {
+    assert(key != DocumentKey::Count);
+    return kRows[static_cast<std::size_t>(key)].spelling;
+}
 
 std::vector<std::string> KeysOf(MemoryKind kind) {
     std::vector<std::string> keys;

@@ -6,27 +6,27 @@
 
 namespace {
 
-void Connect(DocumentKey what, MemoryFeature from, MemoryFeature to) {
-    switch (what) {
-    case DocumentKey::Father:
+void Connect(LinkKind kind, MemoryFeature from, MemoryFeature to) {
+    switch (kind) {
+    case LinkKind::Father:
         from.Father(to);
         break;
-    case DocumentKey::PointedAtBy:
+    case LinkKind::PointedAtBy:
         from.PointedAtBy(to);
         break;
-    case DocumentKey::Holds:
+    case LinkKind::Member:
         from.Hold(to);
         break;
-    case DocumentKey::Group:
+    case LinkKind::Group:
         from.LeadTo(to);
         break;
-    case DocumentKey::Connectors:
+    case LinkKind::Connector:
         from.Connect(to);
         break;
-    case DocumentKey::Master:
+    case LinkKind::MasterConnector:
         from.Master(to);
         break;
-    default: // the slave side is the one that is left
+    case LinkKind::SlaveConnector:
         from.Slave(to);
         break;
     }
@@ -83,18 +83,18 @@ std::uint32_t DocumentLinks::TargetOf(const LoadedDocument& loaded, const Link& 
                    (known.empty() ? "none in this file has one" : Suggestion(id, known)));
 }
 
-void DocumentLinks::Settle(LoadedDocument& loaded) const {
+void DocumentLinks::ResolveLinks(LoadedDocument& loaded) const {
     Fathers fathers(loaded);
     for (const Link& link : m_links) {
         const std::uint32_t target = TargetOf(loaded, link);
-        if (link.what == DocumentKey::Holds && target == link.from)
+        if (link.kind == LinkKind::Member && target == link.from)
             link.to.Refuse("a set cannot hold itself");
-        if (link.what == DocumentKey::Father)
+        if (link.kind == LinkKind::Father)
             fathers.Tell(link.from, target);
-        Connect(link.what, loaded.entries[link.from].feature,
+        Connect(link.kind, loaded.entries[link.from].feature,
                 target == DocumentEntry::kNone ? MemoryFeature() : loaded.entries[target].feature);
     }
     for (const Link& link : m_links)
-        if (link.what == DocumentKey::Father && fathers.LeadInACircle(link.from))
+        if (link.kind == LinkKind::Father && fathers.LeadInACircle(link.from))
             link.to.Refuse("the fathers lead in a circle");
 }

@@ -2,22 +2,24 @@
 
 #include "document/LoadedDocument.h"
 
-/// The references of a document file. An object may point at one that comes later, so they are gathered while
-/// the objects are made and settled, in the order of the file, when all are there.
+/// What the target of a reference is to the object with the reference.
+enum class LinkKind { Father, PointedAtBy, Member, Group, Connector, MasterConnector, SlaveConnector };
+
+/// The references of a document file. An object may refer to one that comes later in the file, so references are
+/// collected while the objects are created and resolved, in the order of the file, when all objects exist.
 class DocumentLinks {
 public:
-    /// `what` of the entry is the object whose id is in the string `to`; for a father also null.
-    void Add(DocumentKey what, std::uint32_t from, JsonValue to) { m_links.push_back({what, from, to}); }
-    /// ... is this entry.
-    void Add(DocumentKey what, std::uint32_t from, std::uint32_t target) {
-        m_links.push_back({what, from, {}, target});
-    }
-    /// BadInput for a reference that leads nowhere or, from father to father, in a circle.
-    void Settle(LoadedDocument& loaded) const;
+    /// Adds a reference by id: `to` is a string, or null for no father.
+    void Add(LinkKind kind, std::uint32_t from, JsonValue to) { m_links.push_back({kind, from, to}); }
+    /// Adds a reference to an entry.
+    void Add(LinkKind kind, std::uint32_t from, std::uint32_t target) { m_links.push_back({kind, from, {}, target}); }
+    /// Connects the objects of the document. Throws BadInput for an unknown id, for a set that contains itself, and for
+    /// fathers that form a cycle.
+    void ResolveLinks(LoadedDocument& loaded) const;
 
 private:
     struct Link {
-        DocumentKey what;
+        LinkKind kind;
         std::uint32_t from;
         JsonValue to;
         std::uint32_t target = DocumentEntry::kNone;

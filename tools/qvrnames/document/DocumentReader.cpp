@@ -4,6 +4,7 @@
 
 #include "LateTypes.h"
 
+#include <optional>
 #include <utility>
 
 // How a document file becomes an analysis document: one pass over the objects of the file, then one over
@@ -21,7 +22,7 @@ public:
         m_loaded.entries.push_back({.feature = m_loaded.document.Model(), .begin = Place(root)});
         Describe(0, fields);
         ReadChildren(0, MemoryKind::Model, fields);
-        m_links.Settle(m_loaded);
+        m_links.ResolveLinks(m_loaded);
         if (m_firstIsCurrent)
             m_loaded.document.MakeCurrent(m_firstCase);
     }
@@ -80,15 +81,26 @@ private:
     /// its id.
     void ReadElement(JsonValue element, const ChildKey& place, std::uint32_t entry, std::uint32_t index,
                      MemoryKind kind) {
-        const bool isSide = kind == MemoryKind::Support || kind == MemoryKind::ConnectionDesign;
-        if (isSide && element.Kind() == JsonKind::String) {
-            m_links.Add(place.key, entry, element);
+        const std::optional<LinkKind> side = SideOf(place.key, kind);
+        if (side && element.Kind() == JsonKind::String) {
+            m_links.Add(*side, entry, element);
             return;
         }
         const auto made = static_cast<std::uint32_t>(m_loaded.entries.size());
         ReadObject(element, place, entry, index);
-        if (isSide)
-            m_links.Add(place.key, entry, made);
+        if (side)
+            m_links.Add(*side, entry, made);
+    }
+
+    /// Returns how the elements of the list are linked to the owner of the list; nothing if they are only below it.
+    static std::optional<LinkKind> SideOf(DocumentKey key, MemoryKind owner) {
+        if (key == DocumentKey::Master)
+            return LinkKind::MasterConnector;
+        if (key == DocumentKey::Slave)
+            return LinkKind::SlaveConnector;
+        if (key == DocumentKey::Connectors && owner == MemoryKind::Support)
+            return LinkKind::Connector;
+        return std::nullopt;
     }
 
     void Describe(std::uint32_t entry, const ObjectFields& fields) {
@@ -96,16 +108,11 @@ private:
         if (const JsonValue id = fields[DocumentKey::Id])
             TakeId(id, entry);
         if (const JsonValue father = fields[DocumentKey::Father])
-            AddLink(DocumentKey::Father, entry, father, father.Kind() == JsonKind::Null);
+            AddLink(LinkKind::Father, entry, father, father.Kind() == JsonKind::Null);
         if (const JsonValue group = fields[DocumentKey::Group])
-            AddLink(DocumentKey::Group, entry, group);
-        for (const DocumentKey key : {DocumentKey::PointedAtBy, DocumentKey::Holds}) {
-            const JsonValue list = fields[key];
-            if (!list)
-                continue;
-            ExpectKind(list, JsonKind::Array);
-            list.ForEachElement([&](std::size_t, JsonValue reference) { AddLink(key, entry, reference); });
-        }
+            AddLink(LinkKind::Group, entry, group);
+        AddLinks(LinkKind::PointedAtBy, entry, fields[DocumentKey::PointedAtBy]);
+        AddLinks(LinkKind::Member, entry, fields[DocumentKey::Holds]);
     }
 
     void TakeId(JsonValue value, std::uint32_t entry) {
@@ -118,10 +125,17 @@ private:
                          m_loaded.text.LineAndColumn(m_loaded.entries[known->second].begin));
     }
 
-    void AddLink(DocumentKey key, std::uint32_t entry, JsonValue reference, bool isNone = false) {
+    void AddLinks(LinkKind kind, std::uint32_t entry, JsonValue list) {
+        if (!list)
+            return;
+        ExpectKind(list, JsonKind::Array);
+        list.ForEachElement([&](std::size_t, JsonValue reference) { AddLink(kind, entry, reference); });
+    }
+
+    void AddLink(LinkKind kind, std::uint32_t entry, JsonValue reference, bool isNone = false) {
         if (!isNone)
             ExpectKind(reference, JsonKind::String);
-        m_links.Add(key, entry, reference);
+        m_links.Add(kind, entry, reference);
     }
 
     void DescribeCase(MemoryFeature made, const ObjectFields& fields) {
