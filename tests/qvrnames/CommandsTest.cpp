@@ -1,4 +1,4 @@
-#include "Workshop.h"
+#include "TestSupport.h"
 
 #include <gtest/gtest.h>
 #include <nlohmann/json.hpp>
@@ -9,11 +9,11 @@
 namespace {
 
 TEST(Commands, EndWithTwoAndOneLineForWhatCannotBeUsed) {
-    const Workshop shop;
-    const std::string empty = shop.Write("empty.json", "");
-    const std::string large = shop.Write("large.json", "");
+    const TestFolder folder;
+    const std::string empty = folder.Write("empty.json", "");
+    const std::string large = folder.Write("large.json", "");
     std::filesystem::resize_file(Utf8::ToPath(large), (std::uintmax_t{256} << 20) + 1);
-    const std::string folder = shop.Path(".");
+    const std::string folderPath = folder.Path(".");
     const std::string step = Example("rename-a-step.json");
     const std::string load = Example("propose-a-pressure.json");
     const std::string pump = Example("pump-flange-bracket.json");
@@ -32,7 +32,7 @@ TEST(Commands, EndWithTwoAndOneLineForWhatCannotBeUsed) {
         {{"check"}, "NAME"},
         {{"check", "\xFF"}, "an argument is no UTF-8 text"},
         {{"audit", "/no/such.json"}, "/no/such.json: cannot be read: No such file or directory"},
-        {{"audit", folder}, folder + ": cannot be read: Is a directory"},
+        {{"audit", folderPath}, folderPath + ": cannot be read: Is a directory"},
         {{"audit", empty}, empty + ": the file is empty"},
         {{"audit", large}, large + ": larger than 256 MB"},
         {{"propose", load, "Step-1"}, "late type \"QVRGeneralStaticStepLT\", which has no base name"},
@@ -41,22 +41,22 @@ TEST(Commands, EndWithTwoAndOneLineForWhatCannotBeUsed) {
         {{"propose", load, "x", "--job"}, "leave FEATURE and --base out"},
         {{"rename", step, "Step-9", "x"}, step + ": no feature has the id, the path"},
         {{"rename", step, "step", "x", "--output", "/no/such/folder/x"}, "/no/such/folder/x: cannot be written"},
-        {{"rename", step, "step", "x", "--output", folder}, folder + ": cannot be written: it is no regular file"},
+        {{"rename", step, "step", "x", "--output", folderPath}, folderPath + ": cannot be written: not a regular file"},
     };
     for (const auto& row : rows) {
-        const Told told = RunWith(row.arguments);
-        EXPECT_EQ(told.code, 2) << row.expected;
-        EXPECT_EQ(told.out, "");
-        EXPECT_EQ(told.err.find("qvrnames: "), 0U) << told.err;
-        EXPECT_NE(told.err.find(row.expected), std::string::npos) << told.err;
+        const RunResult result = RunWith(row.arguments);
+        EXPECT_EQ(result.code, 2) << row.expected;
+        EXPECT_EQ(result.out, "");
+        EXPECT_EQ(result.err.find("qvrnames: "), 0U) << result.err;
+        EXPECT_NE(result.err.find(row.expected), std::string::npos) << result.err;
     }
 }
 
 TEST(Commands, HelpWithAnExample) {
     for (const char* command : {"check", "audit", "deck", "propose", "rename"}) {
-        const Told told = RunWith({command, "--help"});
-        EXPECT_EQ(told.code, 0);
-        EXPECT_NE(told.out.find(std::string("Example: qvrnames ") + command), std::string::npos) << told.out;
+        const RunResult result = RunWith({command, "--help"});
+        EXPECT_EQ(result.code, 0);
+        EXPECT_NE(result.out.find(std::string("Example: qvrnames ") + command), std::string::npos) << result.out;
     }
 }
 
@@ -76,32 +76,33 @@ TEST(Commands, CheckNamesByTheirText) {
     for (const auto& row : rows) {
         std::vector<std::string> arguments{"check", "--json"};
         arguments.insert(arguments.end(), row.arguments.begin(), row.arguments.end());
-        const Told told = RunWith(arguments);
-        const auto said = nlohmann::json::parse(told.out);
+        const RunResult result = RunWith(arguments);
+        const auto said = nlohmann::json::parse(result.out);
         const bool isLegal = *row.messageId == '\0';
-        EXPECT_EQ(told.code, isLegal ? 0 : 1) << row.arguments.back();
+        EXPECT_EQ(result.code, isLegal ? 0 : 1) << row.arguments.back();
         EXPECT_EQ(said["legal"], isLegal);
         EXPECT_EQ(said["names"][0].value("messageId", ""), row.messageId) << row.arguments.back();
         EXPECT_EQ(said["names"][0].value("message", "").empty(), isLegal);
     }
-    const Told told = RunWith({"check", "a\x1B[2J", "1"});
-    EXPECT_EQ(told.code, 1);
-    EXPECT_EQ(told.out.find("a\\u001B[2J  legal\n1           refused  LeadingDigitERR_01  The name"), 0U) << told.out;
+    const RunResult result = RunWith({"check", "a\x1B[2J", "1"});
+    EXPECT_EQ(result.code, 1);
+    EXPECT_EQ(result.out.find("a\\u001B[2J  legal\n1           refused  LeadingDigitERR_01  The name"), 0U)
+        << result.out;
     EXPECT_NE(RunWith({"--language", "de_AT", "check", "1"}).out.find("ERR_01  Der Name beginnt"), std::string::npos);
     EXPECT_NE(RunWith({"check", "1"}).out.find("ERR_01  The name begins"), std::string::npos) << "not for the next run";
 }
 
 TEST(Commands, AuditTheWholeExample) {
     const std::string document = Example("pump-flange-bracket.json");
-    const Told told = RunWith({"audit", document, "--json"});
-    EXPECT_EQ(told.code, 1);
-    const auto said = nlohmann::json::parse(told.out);
+    const RunResult result = RunWith({"audit", document, "--json"});
+    EXPECT_EQ(result.code, 1);
+    const auto said = nlohmann::json::parse(result.out);
     std::set<std::string> ids;
     std::set<std::string> refused;
     for (const auto& refusal : said["refusals"]) {
         ids.insert(refusal["messageId"]);
         refused.insert(refusal["feature"]);
-        const auto text = nlohmann::json::parse(TextOfFile(document));
+        const auto text = nlohmann::json::parse(ReadFile(document));
         const auto pointer = nlohmann::json::json_pointer(refusal["pointer"].get<std::string>());
         EXPECT_EQ(text.at(pointer).at("name"), refusal["name"]);
     }
@@ -119,7 +120,7 @@ TEST(Commands, AuditTheWholeExample) {
          {"Static/Job-1", "Static/Betriebsdruck", "Thermal and Shock/flange static", "m12 OBEN"})
         EXPECT_TRUE(refused.contains(refusedOne)) << refusedOne;
 
-    const Told table = RunWith({"audit", document});
+    const RunResult table = RunWith({"audit", document});
     const std::string closing = std::to_string(said["featuresChecked"].get<int>()) + " features checked, " +
                                 std::to_string(said["refusals"].size()) + " refusals\n";
     EXPECT_TRUE(table.out.ends_with("\n\n" + closing)) << table.out;
@@ -129,9 +130,9 @@ TEST(Commands, AuditTheWholeExample) {
 TEST(Commands, ShowWhatTheDeckCallsEverything) {
     const std::string document = Example("pump-flange-bracket.json");
     for (int run = 0; run < 2; ++run) { // each on fresh caches
-        const Told told = RunWith({"deck", document, "--json"});
-        EXPECT_EQ(told.code, 0);
-        const auto deck = nlohmann::json::parse(told.out);
+        const RunResult result = RunWith({"deck", document, "--json"});
+        EXPECT_EQ(result.code, 0);
+        const auto deck = nlohmann::json::parse(result.out);
         const auto row = [&](const char* section, const std::string& feature) {
             for (auto said : deck[section])
                 if (said["feature"] == feature) {
@@ -181,9 +182,9 @@ TEST(Commands, ShowWhatTheDeckCallsEverything) {
 }
 
 TEST(Commands, ProposeTheNextFreeName) {
-    const Workshop shop;
+    const TestFolder folder;
     const std::string cases =
-        shop.Write("cases.json", R"({"meshManager": {"meshParts": [{"name": "Mesh-4"}]}, "cases": [
+        folder.Write("cases.json", R"({"meshManager": {"meshParts": [{"name": "Mesh-4"}]}, "cases": [
         {"name": "A", "steps": [{"type": "S", "sets": [{"type": "L", "features": [
             {"type": "QVRGravity", "name": "Gravity-1"}]}]}]},
         {"name": "B", "steps": [{"type": "S", "sets": [{"type": "L", "features": [
@@ -209,9 +210,9 @@ TEST(Commands, ProposeTheNextFreeName) {
     for (const auto& row : rows) {
         std::vector<std::string> arguments{"propose", "--json"};
         arguments.insert(arguments.end(), row.arguments.begin(), row.arguments.end());
-        const Told told = RunWith(arguments);
-        const auto said = nlohmann::json::parse(told.out);
-        EXPECT_EQ(told.code, row.code) << told.out;
+        const RunResult result = RunWith(arguments);
+        const auto said = nlohmann::json::parse(result.out);
+        EXPECT_EQ(result.code, row.code) << result.out;
         EXPECT_EQ(said["base"], row.base);
         EXPECT_EQ(said["proposal"], row.proposal == nullptr ? nlohmann::json() : nlohmann::json(row.proposal));
     }

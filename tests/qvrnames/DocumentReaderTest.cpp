@@ -1,5 +1,5 @@
 #include "ExitCode.h"
-#include "Workshop.h"
+#include "TestSupport.h"
 #include "document/LoadedDocument.h"
 
 #include "analysis/WorkbenchUtilities.h"
@@ -13,7 +13,7 @@
 
 namespace {
 
-std::string WhyNot(const std::string& text) {
+std::string ErrorOf(const std::string& text) {
     try {
         const LoadedDocument loaded(text);
     } catch (const BadInput& error) {
@@ -79,20 +79,20 @@ TEST(DocumentReader, TellsTheFirstFaultAndItsPlace) {
          "/cases/0/history/father (line 1, column 35): the fathers lead in a circle"},
     };
     for (const auto& row : rows)
-        EXPECT_NE(WhyNot(row.text).find(row.expected), std::string::npos)
-            << row.text.substr(0, 200) << "\n  " << WhyNot(row.text) << "\n  is not\n  " << row.expected;
+        EXPECT_NE(ErrorOf(row.text).find(row.expected), std::string::npos)
+            << row.text.substr(0, 200) << "\n  " << ErrorOf(row.text) << "\n  is not\n  " << row.expected;
 }
 
 TEST(DocumentReader, NeverFailsInAnotherWay) {
-    const std::string text = TextOfFile(Example("pump-flange-bracket.json"));
-    ASSERT_EQ(WhyNot(text), "read");
+    const std::string text = ReadFile(Example("pump-flange-bracket.json"));
+    ASSERT_EQ(ErrorOf(text), "read");
     std::mt19937 random(7);
     const std::string marks = "{}[]\",:\\ \n0e-tfn\xC3\xE3";
     for (int i = 0; i < 400; ++i) {
         std::string bad = text;
         for (int change = 0; change < 3; ++change)
             bad[random() % bad.size()] = marks[random() % marks.size()];
-        WhyNot(i % 2 == 0 ? bad : bad.substr(0, random() % bad.size()));
+        ErrorOf(i % 2 == 0 ? bad : bad.substr(0, random() % bad.size()));
     }
     EXPECT_EQ(MemoryModel::LiveObjects(), 0);
 }
@@ -223,7 +223,7 @@ std::set<std::string> KeysIn(const nlohmann::json& schema, const nlohmann::json&
 }
 
 TEST(DocumentReader, TakesTheKeysThatTheSchemaTells) {
-    const auto schema = nlohmann::json::parse(TextOfFile(QVRNAMES_FOLDER "/document.schema.json"));
+    const auto schema = nlohmann::json::parse(ReadFile(QVRNAMES_FOLDER "/document.schema.json"));
     // clang-format off
     const std::pair<const char*, MemoryKind> rows[] = {
         {"case", MemoryKind::Case}, {"history", MemoryKind::History}, {"step", MemoryKind::Step},
@@ -238,8 +238,8 @@ TEST(DocumentReader, TakesTheKeysThatTheSchemaTells) {
         return std::set<std::string>(keys.begin(), keys.end());
     };
     for (const auto& [name, kind] : rows)
-        EXPECT_EQ(KeysIn(schema, schema.at("$defs").at(name)), sorted(KeysOf(kind))) << name;
-    EXPECT_EQ(KeysIn(schema, schema), sorted(KeysOf(MemoryKind::Model)));
+        EXPECT_EQ(KeysIn(schema, schema.at("$defs").at(name)), sorted(KeysFor(kind))) << name;
+    EXPECT_EQ(KeysIn(schema, schema), sorted(KeysFor(MemoryKind::Model)));
     const std::string text = schema.dump();
     for (const ChildKey& child : kChildKeys) {
         const bool isTold = child.defaultType == nullptr || child.kind == MemoryKind::MeshManager ||

@@ -41,7 +41,7 @@ TEST(FeaturePaths, FindOneFeatureByIdPointerOrPath) {
     for (const auto& row : rows) {
         std::string found;
         try {
-            found = PointerOf(loaded, FindFeature(loaded, row.words));
+            found = PointerOf(loaded, FindEntry(loaded, row.words));
         } catch (const BadInput& error) {
             found = error.what();
         }

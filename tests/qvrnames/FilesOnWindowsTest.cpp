@@ -1,4 +1,4 @@
-#include "Workshop.h"
+#include "TestSupport.h"
 
 #include <gtest/gtest.h>
 
@@ -7,17 +7,17 @@
 namespace {
 
 TEST(FilesOnWindows, LeavesTheFileWhenItCannotBeWritten) {
-    const Workshop shop;
-    const std::string text = TextOfFile(Example("rename-a-step.json"));
-    const std::string file = shop.Write("document.json", text);
+    const TestFolder folder;
+    const std::string text = ReadFile(Example("rename-a-step.json"));
+    const std::string file = folder.Write("document.json", text);
     const std::wstring name = Utf8::ToPath(file).wstring();
     const auto refused = [&](const char* why) {
-        const Told told = RunWith({"rename", file, "Perturbation", "Last"});
-        EXPECT_EQ(told.code, 2);
-        EXPECT_EQ(told.out, "") << "a change was told that did not happen";
-        EXPECT_NE(told.err.find(file + ": cannot be written: " + why), std::string::npos) << told.err;
-        EXPECT_EQ(TextOfFile(file), text);
-        EXPECT_EQ(shop.Files(), 1U);
+        const RunResult result = RunWith({"rename", file, "Perturbation", "Last"});
+        EXPECT_EQ(result.code, 2);
+        EXPECT_EQ(result.out, "") << "a change was result that did not happen";
+        EXPECT_NE(result.err.find(file + ": cannot be written: " + why), std::string::npos) << result.err;
+        EXPECT_EQ(ReadFile(file), text);
+        EXPECT_EQ(folder.Files(), 1U);
     };
     const HANDLE reader = CreateFileW(name.c_str(), GENERIC_READ, FILE_SHARE_READ, nullptr, OPEN_EXISTING, 0, nullptr);
     refused("Device or resource busy");

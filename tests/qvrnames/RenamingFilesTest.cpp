@@ -1,4 +1,4 @@
-#include "Workshop.h"
+#include "TestSupport.h"
 
 #include <gtest/gtest.h>
 #include <nlohmann/json.hpp>
@@ -24,21 +24,21 @@ TEST(RenamingFiles, ChangesTheBytesOfOneName) {
         {R"({"cases": [{"steps": [{"type": "QVRStaticLPStepLT", "name": "A"}]}]})", "A", " _B c_ ",
          R"({"cases": [{"steps": [{"type": "QVRStaticLPStepLT", "name": "B c"}]}]})"},
     };
-    const Workshop shop;
+    const TestFolder folder;
     for (const auto& row : rows) {
-        const std::string file = shop.Write("document.json", row.text);
-        const Told told = RunWith({"rename", file, row.feature, row.name});
-        EXPECT_EQ(told.code, 0) << told.err;
-        EXPECT_EQ(TextOfFile(file), row.expected);
+        const std::string file = folder.Write("document.json", row.text);
+        const RunResult result = RunWith({"rename", file, row.feature, row.name});
+        EXPECT_EQ(result.code, 0) << result.err;
+        EXPECT_EQ(ReadFile(file), row.expected);
     }
-    EXPECT_EQ(shop.Files(), 1U) << "something was left beside the document";
+    EXPECT_EQ(folder.Files(), 1U) << "something was left beside the document";
 }
 
 TEST(RenamingFiles, TellsARefusalAndLeavesTheFile) {
-    const Workshop shop;
-    const std::string text = TextOfFile(Example("pump-flange-bracket.json"));
-    const std::string file = shop.Write("document.json", text);
-    const std::string output = shop.Path("other.json");
+    const TestFolder folder;
+    const std::string text = ReadFile(Example("pump-flange-bracket.json"));
+    const std::string file = folder.Write("document.json", text);
+    const std::string output = folder.Path("other.json");
     const struct {
         const char* feature;
         const char* name;
@@ -54,30 +54,30 @@ TEST(RenamingFiles, TellsARefusalAndLeavesTheFile) {
         {"/cases/1/steps/2/sets/2/features/1", "x", "", false}, // cannot be named at all
     };
     for (const auto& row : rows) {
-        const Told told = RunWith({"rename", file, row.feature, row.name, "--json", "--output", output});
-        EXPECT_EQ(told.code, 1) << row.feature;
-        const auto said = nlohmann::json::parse(told.out); // nothing else is on standard output
+        const RunResult result = RunWith({"rename", file, row.feature, row.name, "--json", "--output", output});
+        EXPECT_EQ(result.code, 1) << row.feature;
+        const auto said = nlohmann::json::parse(result.out); // nothing else is on standard output
         EXPECT_EQ(said["renamed"], false);
-        EXPECT_EQ(said["messageId"], row.messageId) << told.out;
+        EXPECT_EQ(said["messageId"], row.messageId) << result.out;
         EXPECT_NE(said["message"], "");
-        EXPECT_EQ(said["printed"].get<std::string>().starts_with("NAME ERROR: "), row.isPrinted) << told.out;
+        EXPECT_EQ(said["printed"].get<std::string>().starts_with("NAME ERROR: "), row.isPrinted) << result.out;
         EXPECT_FALSE(std::filesystem::exists(Utf8::ToPath(output)));
 
-        const Told shown = RunWith({"rename", file, row.feature, row.name});
+        const RunResult shown = RunWith({"rename", file, row.feature, row.name});
         EXPECT_EQ(shown.code, 1);
         EXPECT_EQ(shown.out.starts_with("NAME ERROR: "), row.isPrinted) << shown.out;
         EXPECT_NE(shown.out.find(": refused"), std::string::npos) << shown.out;
     }
-    EXPECT_EQ(TextOfFile(file), text);
+    EXPECT_EQ(ReadFile(file), text);
 }
 
 TEST(RenamingFiles, TellsWhenNobodyGuardsTheName) {
-    const Workshop shop;
-    const std::string file = shop.Write("document.json", TextOfFile(Example("propose-a-pressure.json")));
-    const Told told = RunWith({"rename", file, "new-load", "Pressure-1"});
-    EXPECT_EQ(told.code, 0);
-    EXPECT_NE(told.out.find("\"\" -> \"Pressure-1\""), std::string::npos) << told.out;
-    EXPECT_NE(told.out.find("guards no names: DuplicateNameERR_02"), std::string::npos) << told.out;
+    const TestFolder folder;
+    const std::string file = folder.Write("document.json", ReadFile(Example("propose-a-pressure.json")));
+    const RunResult result = RunWith({"rename", file, "new-load", "Pressure-1"});
+    EXPECT_EQ(result.code, 0);
+    EXPECT_NE(result.out.find("\"\" -> \"Pressure-1\""), std::string::npos) << result.out;
+    EXPECT_NE(result.out.find("guards no names: DuplicateNameERR_02"), std::string::npos) << result.out;
 }
 
 } // namespace

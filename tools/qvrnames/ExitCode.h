@@ -2,15 +2,15 @@
 
 #include <stdexcept>
 
-/// How the program ends.
+/// The exit code of the program.
 enum ExitCode {
-    kFine = 0,
-    kRefused = 1,  ///< a name was refused, or names were found that would be
-    kBadInput = 2, ///< bad usage, or a document that cannot be used
+    kSuccess = 0,
+    kRefused = 1,  ///< a name is refused, an audit has findings, or no name can be proposed
+    kBadInput = 2, ///< the arguments or the document are unusable, or a file cannot be read or written
 };
 
-/// What the user gave cannot be used: a document, an argument, a file that cannot be read or written. The
-/// program says so on standard error, in one line, and ends with code 2.
+/// Input from the user that is unusable: an argument, a document, or a file that cannot be read or written. The program
+/// prints the message on standard error and returns kBadInput.
 class BadInput : public std::runtime_error {
 public:
     using std::runtime_error::runtime_error;

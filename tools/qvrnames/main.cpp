@@ -3,6 +3,6 @@
 #include <iostream>
 
 int main(int argc, char** argv) {
-    EndWhenNobodyReads();
-    return Run(argc, argv, std::cout, std::cerr, ScreenOfStandardOutput());
+    EndOnBrokenPipe();
+    return Run(argc, argv, std::cout, std::cerr, StandardOutputScreen());
 }

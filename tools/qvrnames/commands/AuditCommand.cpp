@@ -18,7 +18,7 @@ class Progress {
 public:
     Progress(std::ostream& err, std::size_t total) : m_err(err), m_total(total) {}
 
-    void Done(std::size_t checked) {
+    void Update(std::size_t checked) {
         const auto now = Clock::now();
         if (now < m_next)
             return;
@@ -47,7 +47,7 @@ struct Findings {
     std::vector<Finding> deck;
 };
 
-std::string NameOf(const ZFXISpecObject_var& feature) {
+std::string AliasOf(const ZFXISpecObject_var& feature) {
     const ZFXIAlias_var alias(feature);
     return alias == nullptr ? "" : alias->GetAlias().ConvertToChar();
 }
@@ -57,10 +57,10 @@ void PrintFindings(const LoadedDocument& loaded, const Findings& findings, bool 
     Table table{{"FEATURE", "NAME", "MESSAGE", "TEXT"}, {}};
     for (const std::vector<Finding>* list : {&findings.refusals, &findings.deck})
         for (const Finding& finding : *list)
-            table.rows.push_back({{Printable(TellingOf(loaded, finding.entry))},
+            table.rows.push_back({{Printable(DisplayPath(loaded, finding.entry))},
                                   {(finding.name.empty() ? "\"\"" : Printable(finding.name)) +
                                    (finding.deckColumn.empty() ? "" : "  (deck, " + finding.deckColumn + ")")},
-                                  {finding.verdict.messageId.empty() ? "-" : finding.verdict.messageId, Ink::Refusal},
+                                  {finding.verdict.messageId.empty() ? "-" : finding.verdict.messageId, Style::Refusal},
                                   {Printable(finding.verdict.message)}});
     if (!table.rows.empty()) {
         PrintTable(out, table, console.screen);
@@ -76,7 +76,7 @@ nlohmann::ordered_json AsJson(const LoadedDocument& loaded, const std::vector<Fi
     nlohmann::ordered_json list = nlohmann::ordered_json::array();
     for (const Finding& finding : findings) {
         const MemoryFeature feature = loaded.entries[finding.entry].feature;
-        list.push_back({{"feature", TellingOf(loaded, finding.entry)},
+        list.push_back({{"feature", DisplayPath(loaded, finding.entry)},
                         {"pointer", PointerOf(loaded, finding.entry)},
                         {"type", feature.LateType().ConvertToChar()},
                         {"name", finding.name},
@@ -89,12 +89,12 @@ nlohmann::ordered_json AsJson(const LoadedDocument& loaded, const std::vector<Fi
 }
 
 /// The refusals of the name that a feature has. One fault is told once, whichever of the checks find it.
-void JudgeFeature(const LoadedDocument& loaded, std::uint32_t entry, std::vector<Finding>& refusals) {
+void CheckFeature(const LoadedDocument& loaded, std::uint32_t entry, std::vector<Finding>& refusals) {
     const ZFXISpecObject_var feature = loaded.entries[entry].feature;
     // An empty name stands for the feature's own, which is the same here.
-    const std::string name = NameOf(feature);
-    const Verdict first = JudgeName(feature, name.c_str());
-    const Verdict further = JudgeFurther(feature);
+    const std::string name = AliasOf(feature);
+    const Verdict first = CheckFeatureName(feature, name.c_str());
+    const Verdict further = CheckSpecialRules(feature);
     if (first.IsRefusal())
         refusals.push_back({entry, name, first});
     if (further.IsRefusal() && further.messageId != first.messageId)
@@ -109,11 +109,11 @@ int AuditDocument(const AuditRequest& request, Console console) {
     Progress progress(console.err, named.size());
     Findings findings;
     for (const std::uint32_t entry : named) {
-        JudgeFeature(*loaded, entry, findings.refusals);
-        progress.Done(++findings.checked);
+        CheckFeature(*loaded, entry, findings.refusals);
+        progress.Update(++findings.checked);
     }
     if (request.withDeck)
-        for (DeckFinding& finding : FindingsOf(DeckOf(*loaded), *loaded))
+        for (DeckFinding& finding : CheckDeck(BuildDeck(*loaded), *loaded))
             findings.deck.push_back(
                 {finding.entry, finding.name, std::move(finding.verdict), std::move(finding.column)});
     if (console.isJson) {
@@ -125,5 +125,5 @@ int AuditDocument(const AuditRequest& request, Console console) {
     } else {
         PrintFindings(*loaded, findings, request.withDeck, console);
     }
-    return findings.refusals.empty() && findings.deck.empty() ? kFine : kRefused;
+    return findings.refusals.empty() && findings.deck.empty() ? kSuccess : kRefused;
 }

@@ -11,15 +11,15 @@ int CheckNames(const CheckRequest& request, Console console) {
     Table table;
     bool isRefused = false;
     for (const std::string& argument : request.names) {
-        const ZFXUnicodeString name = TextOf(argument);
-        const Verdict verdict = request.areFileNames ? JudgeFileName(name) : JudgeText(name);
+        const ZFXUnicodeString name = ToUnicode(argument);
+        const Verdict verdict = request.areFileNames ? CheckFileName(name) : CheckText(name);
         isRefused |= verdict.IsRefusal();
         nlohmann::ordered_json said{{"name", argument}, {"legal", !verdict.IsRefusal()}};
         table.rows.push_back({{Printable(argument)}, {verdict.IsRefusal() ? "refused" : "legal"}});
         if (verdict.IsRefusal()) {
             said["messageId"] = verdict.messageId;
             said["message"] = verdict.message;
-            table.rows.back().push_back({verdict.messageId, Ink::Refusal});
+            table.rows.back().push_back({verdict.messageId, Style::Refusal});
             table.rows.back().push_back({Printable(verdict.message)});
         }
         names.push_back(std::move(said));
@@ -28,5 +28,5 @@ int CheckNames(const CheckRequest& request, Console console) {
         PrintJson(console.out, {{"legal", !isRefused}, {"names", names}});
     else
         PrintTable(console.out, table, console.screen);
-    return isRefused ? kRefused : kFine;
+    return isRefused ? kRefused : kSuccess;
 }

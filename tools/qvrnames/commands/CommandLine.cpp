@@ -51,10 +51,10 @@ public:
         } catch (const CLI::ParseError& error) {
             if (error.get_exit_code() == 0) // help and version come this way
                 return m_app.exit(error, m_console.out, m_console.err);
-            throw BadInput(WhatIsUnknown().value_or(error.what()) + "; see --help");
+            throw BadInput(DescribeUnknownWord().value_or(error.what()) + "; see --help");
         }
         if (m_colour != "auto")
-            m_console.screen.takesColour = m_colour == "always";
+            m_console.screen.hasColour = m_colour == "always";
         if (!MessageCatalog::SetLanguage(m_language))
             throw BadInput("--language: there are no messages in \"" + m_language +
                            "\"; there are: " + Joined(MessageCatalog::Languages()));
@@ -63,7 +63,7 @@ public:
 
 private:
     /// A command or an option that there is not, with what may be meant; nothing for any other fault.
-    std::optional<std::string> WhatIsUnknown() const {
+    std::optional<std::string> DescribeUnknownWord() const {
         const std::vector<std::string> unknown = m_app.remaining(true);
         const std::vector<CLI::App*> parsed = m_app.get_subcommands();
         if (unknown.empty())

@@ -14,22 +14,22 @@ std::unique_ptr<LoadedDocument> OpenDocument(const std::string& file) {
     try {
         return std::make_unique<LoadedDocument>(std::move(bytes));
     } catch (const BadInput& error) {
-        throw BadInput(FileForPeople(file) + ": " + error.what());
+        throw BadInput(DisplayFileName(file) + ": " + error.what());
     }
 }
 
-std::uint32_t FindNamedFeature(const LoadedDocument& loaded, const std::string& file, const std::string& words) {
+std::uint32_t FindFeature(const LoadedDocument& loaded, const std::string& file, const std::string& reference) {
     try {
-        const std::uint32_t entry = FindFeature(loaded, words);
+        const std::uint32_t entry = FindEntry(loaded, reference);
         if (entry == 0)
-            throw BadInput("\"" + words + "\" is the analysis model, which has no name in the file");
+            throw BadInput("\"" + reference + "\" is the analysis model, which has no name in the file");
         return entry;
     } catch (const BadInput& error) {
-        throw BadInput(FileForPeople(file) + ": " + error.what());
+        throw BadInput(DisplayFileName(file) + ": " + error.what());
     }
 }
 
-ZFXUnicodeString TextOf(const std::string& argument) {
+ZFXUnicodeString ToUnicode(const std::string& argument) {
     ZFXUnicodeString text(argument.c_str());
     if (text.ConvertToChar() != argument) // what is no UTF-8 was read as U+FFFD
         throw BadInput("an argument is no UTF-8 text: " + std::string(text.ConvertToChar()));

@@ -55,9 +55,9 @@ int RenameFeature(const RenameRequest& request, Console console);
 /// The document in the file, or on standard input when the file is "-"; messages about it begin with the
 /// file's name.
 std::unique_ptr<LoadedDocument> OpenDocument(const std::string& file);
-/// FindFeature, for one that can have a name.
-std::uint32_t FindNamedFeature(const LoadedDocument& loaded, const std::string& file, const std::string& words);
+/// FindEntry, for one that can have a name.
+std::uint32_t FindFeature(const LoadedDocument& loaded, const std::string& file, const std::string& reference);
 void PrintJson(std::ostream& out, const nlohmann::ordered_json& value);
 /// BadInput when an argument is no UTF-8.
-ZFXUnicodeString TextOf(const std::string& argument);
+ZFXUnicodeString ToUnicode(const std::string& argument);
 /// @}

@@ -10,13 +10,13 @@ namespace {
 using Names = std::vector<std::optional<std::string>>;
 
 /// The text when the operation that gave it succeeded.
-std::optional<std::string> If(HRESULT code, const ZFXUnicodeString& text) {
+std::optional<std::string> ValueIf(HRESULT code, const ZFXUnicodeString& text) {
     return Failed(code) ? std::nullopt : std::optional<std::string>(text.ConvertToChar());
 }
 
 std::optional<std::string> DisplayName(const ZFXISpecObject_var& feature) {
     ZFXUnicodeString name;
-    return If(QVRNameUtil::GetObjectName(feature, name), name);
+    return ValueIf(QVRNameUtil::GetObjectName(feature, name), name);
 }
 
 Names FeatureNames(const ZFXISpecObject_var& feature) {
@@ -28,7 +28,7 @@ Names FeatureNames(const ZFXISpecObject_var& feature) {
     const HRESULT generated = english->GetGenericEnglishFeatureName(feature, generic);
     if (!Failed(named))
         english->GetTARNISCompliantFeatureName(display, generic, compliant);
-    return {If(named, display), If(named, compliant), If(generated, generic)};
+    return {ValueIf(named, display), ValueIf(named, compliant), ValueIf(generated, generic)};
 }
 
 /// Returns the tag in an instance name, read from its upper-case form as it is written in the deck; nothing if there is
@@ -47,7 +47,8 @@ Names MeshPartNames(const ZFXISpecObject_var& feature) {
     ZFXUnicodeString instance;
     ZFXUnicodeString part;
     const HRESULT named = QVRGenInstanceName::GetUniqueLegalInstanceName(feature, instance, part);
-    return {DisplayName(feature), If(named, instance), If(named, part), Failed(named) ? std::nullopt : TagIn(instance)};
+    return {DisplayName(feature), ValueIf(named, instance), ValueIf(named, part),
+            Failed(named) ? std::nullopt : TagIn(instance)};
 }
 
 Names MaterialNames(const ZFXISpecObject_var& feature) {
@@ -56,12 +57,12 @@ Names MaterialNames(const ZFXISpecObject_var& feature) {
     ZFXUnicodeString generic;
     const HRESULT named = english->GetMaterialName(feature, name);
     const HRESULT generated = english->GetGenericEnglishMaterialName(feature, generic);
-    return {DisplayName(feature), If(named, name), If(generated, generic)};
+    return {DisplayName(feature), ValueIf(named, name), ValueIf(generated, generic)};
 }
 
 /// An ambiguous or unusable group has an empty name, which is none.
 std::optional<std::string> GroupName(HRESULT code, const ZFXUnicodeString& name) {
-    return name.IsNull() != 0 ? std::nullopt : If(code, name);
+    return name.IsNull() != 0 ? std::nullopt : ValueIf(code, name);
 }
 
 Names SupportNames(const ZFXISpecObject_var& feature) {
@@ -155,7 +156,7 @@ bool IsInDeck(const DocumentEntry& entry, const ZFXISpecObject_var& feature) {
 
 } // namespace
 
-std::vector<DeckSection> DeckOf(const LoadedDocument& loaded) {
+std::vector<DeckSection> BuildDeck(const LoadedDocument& loaded) {
     std::vector<DeckSection> deck;
     for (const SectionType& type : SectionTypes())
         deck.push_back({type.title, type.key, type.columns, {}});

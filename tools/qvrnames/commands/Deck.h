@@ -30,7 +30,7 @@ struct DeckSection {
 };
 
 /// Works out every name, on name caches that are empty before and after.
-std::vector<DeckSection> DeckOf(const LoadedDocument& loaded);
+std::vector<DeckSection> BuildDeck(const LoadedDocument& loaded);
 
 /// A name that the rules let through although the solver cannot take it, or cannot tell it from another.
 struct DeckFinding {
@@ -39,4 +39,4 @@ struct DeckFinding {
     std::string name;
     Verdict verdict;
 };
-std::vector<DeckFinding> FindingsOf(const std::vector<DeckSection>& deck, const LoadedDocument& loaded);
+std::vector<DeckFinding> CheckDeck(const std::vector<DeckSection>& deck, const LoadedDocument& loaded);

@@ -16,7 +16,7 @@ void PrintSection(const DeckSection& section, const LoadedDocument& loaded, Cons
     for (const DeckColumn& column : section.columns)
         table.headings.emplace_back(column.title);
     for (const DeckRow& row : section.rows) {
-        table.rows.push_back({{Printable(TellingOf(loaded, row.entry))}});
+        table.rows.push_back({{Printable(DisplayPath(loaded, row.entry))}});
         for (const std::optional<std::string>& name : row.names)
             table.rows.back().push_back({!name ? "-" : name->empty() ? "\"\"" : Printable(*name)});
     }
@@ -27,7 +27,7 @@ void PrintSection(const DeckSection& section, const LoadedDocument& loaded, Cons
 nlohmann::ordered_json AsJson(const DeckSection& section, const LoadedDocument& loaded) {
     nlohmann::ordered_json rows = nlohmann::ordered_json::array();
     for (const DeckRow& row : section.rows) {
-        nlohmann::ordered_json said{{"feature", TellingOf(loaded, row.entry)},
+        nlohmann::ordered_json said{{"feature", DisplayPath(loaded, row.entry)},
                                     {"pointer", PointerOf(loaded, row.entry)}};
         for (std::size_t c = 0; c < section.columns.size(); ++c)
             said[section.columns[c].key] =
@@ -41,7 +41,7 @@ nlohmann::ordered_json AsJson(const DeckSection& section, const LoadedDocument& 
 
 int ShowDeck(const std::string& document, Console console) {
     const auto loaded = OpenDocument(document);
-    const std::vector<DeckSection> deck = DeckOf(*loaded);
+    const std::vector<DeckSection> deck = BuildDeck(*loaded);
     nlohmann::ordered_json said = nlohmann::ordered_json::object();
     std::size_t objects = 0;
     for (const DeckSection& section : deck) {
@@ -55,5 +55,5 @@ int ShowDeck(const std::string& document, Console console) {
         PrintJson(console.out, said);
     else
         console.out << objects << " objects named\n";
-    return kFine;
+    return kSuccess;
 }

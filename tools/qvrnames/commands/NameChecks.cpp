@@ -17,19 +17,19 @@ Verdict VerdictOf(HRESULT code) {
     return {code, {}, std::string("Refused without a message, code ") + hexadecimal + "."};
 }
 
-Verdict JudgeText(const ZFXUnicodeString& name) {
+Verdict CheckText(const ZFXUnicodeString& name) {
     ZFXUnicodeString judged(name);
     ZFXUnicodeString offending;
     const HRESULT code = QVRNameUtil::IsNameValid(judged, 1);
     return VerdictOf(Failed(code) ? code : QVRNameUtil::DoesNameContainDoubleByteChar(judged, offending));
 }
 
-Verdict JudgeFileName(const ZFXUnicodeString& name) {
+Verdict CheckFileName(const ZFXUnicodeString& name) {
     ZFXUnicodeString judged(name);
     return VerdictOf(QVRNameUtil::IsFileNameValid(judged));
 }
 
-Verdict JudgeName(const ZFXISpecObject_var& feature, const ZFXUnicodeString& name) {
+Verdict CheckFeatureName(const ZFXISpecObject_var& feature, const ZFXUnicodeString& name) {
     ZFXISpecObject_var judged(feature);
     const ZFXUnicodeString type = judged == nullptr ? ZFXUnicodeString() : judged->GetLateType();
     if (type == LateTypes::QVRJobLT)
@@ -37,7 +37,7 @@ Verdict JudgeName(const ZFXISpecObject_var& feature, const ZFXUnicodeString& nam
     return VerdictOf(QVRNameUtil::CheckName(judged, name, type == LateTypes::QVRShellSectionEnhLT ? 0 : 1));
 }
 
-Verdict JudgeFurther(const ZFXISpecObject_var& feature) {
+Verdict CheckSpecialRules(const ZFXISpecObject_var& feature) {
     ZFXISpecObject_var judged(feature);
     ZFXUnicodeString name;
     if (judged == nullptr || Failed(QVRNameUtil::GetObjectName(judged, name)))

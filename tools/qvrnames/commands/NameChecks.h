@@ -19,16 +19,16 @@ struct Verdict {
 Verdict VerdictOf(HRESULT code);
 
 /// The rules that a name must pass by its text alone, as those of a feature or of a file.
-Verdict JudgeText(const ZFXUnicodeString& name);
-Verdict JudgeFileName(const ZFXUnicodeString& name);
+Verdict CheckText(const ZFXUnicodeString& name);
+Verdict CheckFileName(const ZFXUnicodeString& name);
 
 /// Whether the name is one that the feature may have, judged as the module's own guard of new names judges:
 /// shell sections may begin with a digit, and for jobs nothing counts but that no case has the name.
-Verdict JudgeName(const ZFXISpecObject_var& feature, const ZFXUnicodeString& name);
+Verdict CheckFeatureName(const ZFXISpecObject_var& feature, const ZFXUnicodeString& name);
 
 /// What else can be said of the name that a feature has: a job's against all jobs of the document, a bolt
 /// tightening's once made legal and against its siblings'. No refusal for any other feature.
-Verdict JudgeFurther(const ZFXISpecObject_var& feature);
+Verdict CheckSpecialRules(const ZFXISpecObject_var& feature);
 
 /// The name without the blanks and then the underscores at its ends, as the guard stores it.
 ZFXUnicodeString TrimmedName(const ZFXUnicodeString& name);

@@ -24,9 +24,10 @@ bool IsJob(const ZFXISpecObject_var& feature) {
 }
 
 ZFXUnicodeString BaseOf(const ProposeRequest& request, ZFXISpecObject_var feature) {
-    ZFXUnicodeString base = TextOf(request.base);
+    ZFXUnicodeString base = ToUnicode(request.base);
     if (IsJob(feature) && !base.IsNull() && base != kJobBase)
-        throw BadInput(FileForPeople(request.document) + ": jobs are numbered after \"Job-\" alone; leave --base out");
+        throw BadInput(DisplayFileName(request.document) +
+                       ": jobs are numbered after \"Job-\" alone; leave --base out");
     if (!base.IsNull())
         return base;
     QVRNameUtil::CreateBaseName(feature, base);
@@ -35,7 +36,7 @@ ZFXUnicodeString BaseOf(const ProposeRequest& request, ZFXISpecObject_var featur
     if (IsJob(feature))
         return kJobBase;
     const std::string type = feature == nullptr ? "" : feature->GetLateType().ConvertToChar();
-    throw BadInput(FileForPeople(request.document) + ": \"" + request.feature + "\" is of the late type \"" + type +
+    throw BadInput(DisplayFileName(request.document) + ": \"" + request.feature + "\" is of the late type \"" + type +
                    "\", which has no base name; give one with --base");
 }
 
@@ -65,7 +66,8 @@ ZFXUnicodeString NextName(ZFXISpecObject_var feature, const ZFXUnicodeString& ba
 }
 
 void PrintProposal(const std::string& base, const std::string& name, Console console) {
-    const Table table{{}, {{{"base name"}, {Printable(base)}}, {{"next free name"}, {Printable(name), Ink::Proposal}}}};
+    const Table table{{},
+                      {{{"base name"}, {Printable(base)}}, {{"next free name"}, {Printable(name), Style::Proposal}}}};
     PrintTable(console.out, table, console.screen);
 }
 
@@ -80,7 +82,7 @@ int ProposeJobName(const ProposeRequest& request, Console console) {
         PrintJson(console.out, {{"base", kJobBase}, {"proposal", name.ConvertToChar()}});
     else
         PrintProposal(kJobBase, name.ConvertToChar(), console);
-    return kFine;
+    return kSuccess;
 }
 
 } // namespace
@@ -91,13 +93,13 @@ int ProposeName(const ProposeRequest& request, Console console) {
     if (request.feature.empty())
         throw BadInput("FEATURE is required; see --help");
     const auto loaded = OpenDocument(request.document);
-    const std::uint32_t entry = FindNamedFeature(*loaded, request.document, request.feature);
+    const std::uint32_t entry = FindFeature(*loaded, request.document, request.feature);
     ZFXISpecObject_var feature = loaded->entries[entry].feature;
     const ZFXUnicodeString base = BaseOf(request, feature);
     const ZFXUnicodeString name = NextName(feature, base);
     const bool isProposed = name != base; // it has no other way to tell
     if (console.isJson) {
-        nlohmann::ordered_json said{{"feature", TellingOf(*loaded, entry)},
+        nlohmann::ordered_json said{{"feature", DisplayPath(*loaded, entry)},
                                     {"type", loaded->entries[entry].feature.LateType().ConvertToChar()},
                                     {"base", base.ConvertToChar()}};
         said["proposal"] = isProposed ? nlohmann::ordered_json(name.ConvertToChar()) : nlohmann::ordered_json();
@@ -108,5 +110,5 @@ int ProposeName(const ProposeRequest& request, Console console) {
         console.out << "no name can be proposed: there is no analysis case to number in, or the names in use "
                        "cannot be listed\n";
     }
-    return isProposed ? kFine : kRefused;
+    return isProposed ? kSuccess : kRefused;
 }

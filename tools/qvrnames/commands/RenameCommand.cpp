@@ -14,17 +14,17 @@
 namespace {
 
 /// Keeps what is written on standard output, for as long as it lives.
-class StandardOutput {
+class CapturedOutput {
 public:
-    StandardOutput() : m_former(std::cout.rdbuf(m_kept.rdbuf())) {}
-    StandardOutput(const StandardOutput&) = delete;
-    StandardOutput& operator=(const StandardOutput&) = delete;
-    ~StandardOutput() { std::cout.rdbuf(m_former); }
+    CapturedOutput() : m_former(std::cout.rdbuf(m_text.rdbuf())) {}
+    CapturedOutput(const CapturedOutput&) = delete;
+    CapturedOutput& operator=(const CapturedOutput&) = delete;
+    ~CapturedOutput() { std::cout.rdbuf(m_former); }
 
-    std::string Kept() const { return m_kept.str(); }
+    std::string Text() const { return m_text.str(); }
 
 private:
-    std::ostringstream m_kept;
+    std::ostringstream m_text;
     std::streambuf* m_former;
 };
 
@@ -37,21 +37,21 @@ struct Outcome {
 };
 
 /// What a guard says to this name: it judges with the name stored, for which an empty one stands.
-Verdict JudgeAsStored(const ZFXISpecObject_var& feature, const ZFXUnicodeString& name) {
+Verdict CheckAsStored(const ZFXISpecObject_var& feature, const ZFXUnicodeString& name) {
     const ZFXISpecAttrAccess_var attributes(feature);
     if (attributes == nullptr)
-        return JudgeName(feature, name);
+        return CheckFeatureName(feature, name);
     const auto key = ZFXISpecAttrKey_var::TakeOver(attributes->GetAttrKey("Alias"));
     const ZFXUnicodeString former = attributes->GetString(key, 0);
     attributes->SetString(key, name, 0);
-    Verdict verdict = JudgeName(feature, name);
+    Verdict verdict = CheckFeatureName(feature, name);
     attributes->SetString(key, former, 0);
     return verdict;
 }
 
 /// Asks the feature for the change as a workbench does. It answers nothing, so the name is read again: it is
 /// the former one although another was asked for, or a refusal was printed, when the change was refused.
-Outcome SetName(const ZFXISpecObject_var& feature, const ZFXUnicodeString& name) {
+Outcome ApplyName(const ZFXISpecObject_var& feature, const ZFXUnicodeString& name) {
     Outcome outcome;
     const ZFXUnicodeString trimmed = TrimmedName(name);
     const ZFXIAlias_var alias(feature);
@@ -62,13 +62,13 @@ Outcome SetName(const ZFXISpecObject_var& feature, const ZFXUnicodeString& name)
     }
     const ZFXUnicodeString former = alias->GetAlias();
     {
-        const StandardOutput output;
+        const CapturedOutput output;
         alias->SetAlias(name);
-        outcome.printed = output.Kept();
+        outcome.printed = output.Text();
     }
     const ZFXUnicodeString now = alias->GetAlias();
     outcome.isRefused = now == former && (!outcome.printed.empty() || (former != trimmed && former != name));
-    outcome.verdict = JudgeAsStored(feature, outcome.isRefused ? trimmed : now);
+    outcome.verdict = CheckAsStored(feature, outcome.isRefused ? trimmed : now);
     outcome.former = former.ConvertToChar();
     outcome.now = now.ConvertToChar();
     return outcome;
@@ -81,7 +81,7 @@ void Print(const std::string& feature, const RenameRequest& request, const Outco
     out << outcome.printed << Printable(feature) << ": ";
     if (outcome.isRefused) {
         const Verdict& why = outcome.verdict;
-        const std::string id = Inked(why.messageId, Ink::Refusal, console.screen);
+        const std::string id = Styled(why.messageId, Style::Refusal, console.screen);
         out << "refused" << (why.messageId.empty() ? "" : " (" + id + ")") << ", the name stays "
             << Quoted(outcome.former) << '\n';
         if (outcome.printed.empty())
@@ -111,7 +111,7 @@ void PrintAsJson(const std::string& feature, const RenameRequest& request, const
 }
 
 /// The document with the new name, where it was asked for.
-void Store(const std::string& bytes, const RenameRequest& request, const std::string& target, Console console) {
+void WriteDocument(const std::string& bytes, const RenameRequest& request, const std::string& target, Console console) {
     if (target != kStandardStream) {
         ReplaceWholeFile(target, bytes, request.document);
         return;
@@ -123,19 +123,20 @@ void Store(const std::string& bytes, const RenameRequest& request, const std::st
 } // namespace
 
 int RenameFeature(const RenameRequest& request, Console console) {
-    const ZFXUnicodeString name = TextOf(request.name);
+    const ZFXUnicodeString name = ToUnicode(request.name);
     const auto loaded = OpenDocument(request.document);
-    const std::uint32_t entry = FindNamedFeature(*loaded, request.document, request.feature);
-    const std::string feature = TellingOf(*loaded, entry);
-    const Outcome outcome = SetName(loaded->entries[entry].feature, name);
+    const std::uint32_t entry = FindFeature(*loaded, request.document, request.feature);
+    const std::string feature = DisplayPath(*loaded, entry);
+    const Outcome outcome = ApplyName(loaded->entries[entry].feature, name);
     const std::string& target = request.output.empty() ? request.document : request.output;
     // The file is written before anything is told, so that nothing is told that did not happen.
     const bool isOther = outcome.now != outcome.former || !request.output.empty() || target == kStandardStream;
     const bool isToWrite = !outcome.isRefused && isOther;
     if (isToWrite)
-        Store(WithName(*loaded, entry, outcome.now), request, target, console);
+        WriteDocument(TextWithName(*loaded, entry, outcome.now), request, target, console);
     // A document on standard output stands there alone.
-    const Console teller = target == kStandardStream ? Console{console.err, console.err, {}, console.isJson} : console;
-    (console.isJson ? PrintAsJson : Print)(feature, request, outcome, teller);
-    return outcome.isRefused ? kRefused : kFine;
+    const Console messages =
+        target == kStandardStream ? Console{console.err, console.err, {}, console.isJson} : console;
+    (console.isJson ? PrintAsJson : Print)(feature, request, outcome, messages);
+    return outcome.isRefused ? kRefused : kSuccess;
 }

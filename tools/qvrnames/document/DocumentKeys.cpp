@@ -59,7 +59,7 @@ const char* SpellingOf(DocumentKey key) {
     return kRows[static_cast<std::size_t>(key)].spelling;
 }
 
-std::vector<std::string> KeysOf(MemoryKind kind) {
+std::vector<std::string> KeysFor(MemoryKind kind) {
     std::vector<std::string> keys;
     for (const Row& row : kRows)
         if (IsFor(row, kind))

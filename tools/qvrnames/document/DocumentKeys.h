@@ -29,7 +29,7 @@ inline constexpr std::size_t kDocumentKeys = static_cast<std::size_t>(DocumentKe
 std::optional<DocumentKey> FindDocumentKey(std::string_view spelling, MemoryKind kind);
 const char* SpellingOf(DocumentKey key);
 /// Returns the spellings of all keys that objects of the kind take.
-std::vector<std::string> KeysOf(MemoryKind kind);
+std::vector<std::string> KeysFor(MemoryKind kind);
 
 /// A key that leads to objects below its owner.
 struct ChildKey {

@@ -45,24 +45,24 @@ public:
             if (entry.key == DocumentKey::History)
                 history = static_cast<std::uint32_t>(m_father.size() - 1);
         }
-        m_passed.resize(m_father.size());
+        m_visited.resize(m_father.size());
     }
-    void Tell(std::uint32_t child, std::uint32_t father) { m_father[child] = father; }
+    void Set(std::uint32_t child, std::uint32_t father) { m_father[child] = father; }
 
     /// Over all questions each object is passed once.
-    bool LeadInACircle(std::uint32_t from) {
+    bool IsOnCycle(std::uint32_t from) {
         ++m_walk;
         for (std::uint32_t at = from; at != DocumentEntry::kNone; at = m_father[at]) {
-            if (m_passed[at] != 0)
-                return m_passed[at] == m_walk;
-            m_passed[at] = m_walk;
+            if (m_visited[at] != 0)
+                return m_visited[at] == m_walk;
+            m_visited[at] = m_walk;
         }
         return false;
     }
 
 private:
     std::vector<std::uint32_t> m_father;
-    std::vector<std::uint32_t> m_passed; // by which walk; 0 for none
+    std::vector<std::uint32_t> m_visited; // by which walk; 0 for none
     std::uint32_t m_walk = 0;
 };
 
@@ -79,8 +79,8 @@ std::uint32_t DocumentLinks::TargetOf(const LoadedDocument& loaded, const Link& 
     for (const auto& [name, entry] : loaded.ids)
         known.push_back(name);
     std::sort(known.begin(), known.end());
-    link.to.Refuse("no object has the id \"" + id + "\"; " +
-                   (known.empty() ? "none in this file has one" : Suggestion(id, known)));
+    link.to.ThrowError("no object has the id \"" + id + "\"; " +
+                       (known.empty() ? "none in this file has one" : Suggestion(id, known)));
 }
 
 void DocumentLinks::ResolveLinks(LoadedDocument& loaded) const {
@@ -88,13 +88,13 @@ void DocumentLinks::ResolveLinks(LoadedDocument& loaded) const {
     for (const Link& link : m_links) {
         const std::uint32_t target = TargetOf(loaded, link);
         if (link.kind == LinkKind::Member && target == link.from)
-            link.to.Refuse("a set cannot hold itself");
+            link.to.ThrowError("a set cannot hold itself");
         if (link.kind == LinkKind::Father)
-            fathers.Tell(link.from, target);
+            fathers.Set(link.from, target);
         Connect(link.kind, loaded.entries[link.from].feature,
                 target == DocumentEntry::kNone ? MemoryFeature() : loaded.entries[target].feature);
     }
     for (const Link& link : m_links)
-        if (link.kind == LinkKind::Father && fathers.LeadInACircle(link.from))
-            link.to.Refuse("the fathers lead in a circle");
+        if (link.kind == LinkKind::Father && fathers.IsOnCycle(link.from))
+            link.to.ThrowError("the fathers lead in a circle");
 }

@@ -19,7 +19,7 @@ public:
     void Read() {
         const JsonValue root = m_loaded.text.Root();
         const ObjectFields fields(root, MemoryKind::Model);
-        m_loaded.entries.push_back({.feature = m_loaded.document.Model(), .begin = Place(root)});
+        m_loaded.entries.push_back({.feature = m_loaded.document.Model(), .begin = Offset(root)});
         Describe(0, fields);
         ReadChildren(0, MemoryKind::Model, fields);
         m_links.ResolveLinks(m_loaded);
@@ -28,26 +28,28 @@ public:
     }
 
 private:
-    static std::uint32_t Place(JsonValue value) { return static_cast<std::uint32_t>(value.Begin()); }
+    static std::uint32_t Offset(JsonValue value) { return static_cast<std::uint32_t>(value.Begin()); }
 
     /// The object and all below it.
     void ReadObject(JsonValue object, const ChildKey& place, std::uint32_t parent, std::uint32_t index) {
         const ObjectFields fields(object, place.kind);
         const JsonValue type = fields[DocumentKey::Type];
         if (!type && place.defaultType == nullptr)
-            object.Refuse("expected the key \"type\", the late type of the object");
-        const std::string lateType = type ? ReadWord(type) : place.defaultType;
+            object.ThrowError("expected the key \"type\", the late type of the object");
+        const std::string lateType = type ? ReadNonEmptyText(type) : place.defaultType;
         const JsonValue name = fields[DocumentKey::Name];
-        const MemoryFeature made = Make(place, parent, lateType.c_str(), name ? ReadText(name) : ZFXUnicodeString());
+        const MemoryFeature made =
+            CreateObject(place, parent, lateType.c_str(), name ? ReadText(name) : ZFXUnicodeString());
         const auto entry = static_cast<std::uint32_t>(m_loaded.entries.size());
-        m_loaded.entries.push_back({made, Place(object), parent, index, place.key, static_cast<bool>(name)});
+        m_loaded.entries.push_back({made, Offset(object), parent, index, place.key, static_cast<bool>(name)});
         Describe(entry, fields);
         if (place.kind == MemoryKind::Case)
             DescribeCase(made, fields);
         ReadChildren(entry, place.kind, fields);
     }
 
-    MemoryFeature Make(const ChildKey& place, std::uint32_t parent, const char* type, const ZFXUnicodeString& name) {
+    MemoryFeature CreateObject(const ChildKey& place, std::uint32_t parent, const char* type,
+                               const ZFXUnicodeString& name) {
         MemoryFeature above = m_loaded.entries[parent].feature;
         if (place.key == DocumentKey::MeshManager)
             return m_loaded.document.MeshManager().Alias(name);
@@ -64,7 +66,7 @@ private:
     void ReadChildren(std::uint32_t entry, MemoryKind kind, const ObjectFields& fields) {
         for (const ChildKey& place : kChildKeys) {
             const JsonValue value = fields[place.key];
-            if (!value || IsNoHistory(place.key, value))
+            if (!value || IsNullHistory(place.key, value))
                 continue;
             if (!place.isList) {
                 ReadObject(value, place, entry, DocumentEntry::kNone);
@@ -104,9 +106,9 @@ private:
     }
 
     void Describe(std::uint32_t entry, const ObjectFields& fields) {
-        fields.Describe(m_loaded.entries[entry].feature);
+        fields.ApplyTo(m_loaded.entries[entry].feature);
         if (const JsonValue id = fields[DocumentKey::Id])
-            TakeId(id, entry);
+            RegisterId(id, entry);
         if (const JsonValue father = fields[DocumentKey::Father])
             AddLink(LinkKind::Father, entry, father, father.Kind() == JsonKind::Null);
         if (const JsonValue group = fields[DocumentKey::Group])
@@ -115,14 +117,14 @@ private:
         AddLinks(LinkKind::Member, entry, fields[DocumentKey::Holds]);
     }
 
-    void TakeId(JsonValue value, std::uint32_t entry) {
-        const std::string id = ReadWord(value);
+    void RegisterId(JsonValue value, std::uint32_t entry) {
+        const std::string id = ReadNonEmptyText(value);
         if (id.front() == '/')
-            value.Refuse("expected an id that does not begin with \"/\", as JSON pointers do");
+            value.ThrowError("expected an id that does not begin with \"/\", as JSON pointers do");
         const auto [known, isNew] = m_loaded.ids.emplace(id, entry);
         if (!isNew)
-            value.Refuse("the id \"" + id + "\" is that of another object, at " +
-                         m_loaded.text.LineAndColumn(m_loaded.entries[known->second].begin));
+            value.ThrowError("the id \"" + id + "\" is that of another object, at " +
+                             m_loaded.text.LineAndColumn(m_loaded.entries[known->second].begin));
     }
 
     void AddLinks(LinkKind kind, std::uint32_t entry, JsonValue list) {
@@ -139,11 +141,11 @@ private:
     }
 
     void DescribeCase(MemoryFeature made, const ObjectFields& fields) {
-        TakeCurrent(made, fields[DocumentKey::Current]);
+        ReadCurrent(made, fields[DocumentKey::Current]);
         const JsonValue history = fields[DocumentKey::History];
         const JsonValue steps = fields[DocumentKey::Steps];
-        if (steps && IsNoHistory(DocumentKey::History, history))
-            steps.Refuse("expected no steps in a case whose \"history\" is null");
+        if (steps && IsNullHistory(DocumentKey::History, history))
+            steps.ThrowError("expected no steps in a case whose \"history\" is null");
         if (!history)
             made.Add(MemoryKind::History, LateTypes::QVROruSimHistLT, {});
         m_jobs = {};
@@ -152,20 +154,20 @@ private:
     }
 
     /// The first case is current unless it says that it is not, or another says that it is.
-    void TakeCurrent(MemoryFeature made, JsonValue current) {
-        if (!std::exchange(m_metCase, true)) {
+    void ReadCurrent(MemoryFeature made, JsonValue current) {
+        if (!std::exchange(m_hasCase, true)) {
             m_firstCase = made;
             m_firstIsCurrent = !current;
         }
         if (!current || !ReadBool(current))
             return;
         if (std::exchange(m_hasCurrent, true))
-            current.Refuse("another case is current already");
+            current.ThrowError("another case is current already");
         m_firstIsCurrent = false;
         m_loaded.document.MakeCurrent(made);
     }
 
-    static bool IsNoHistory(DocumentKey key, JsonValue value) {
+    static bool IsNullHistory(DocumentKey key, JsonValue value) {
         return key == DocumentKey::History && value && value.Kind() == JsonKind::Null;
     }
 
@@ -173,7 +175,7 @@ private:
     DocumentLinks m_links;
     MemoryFeature m_firstCase;
     MemoryFeature m_jobs; // the container of the jobs that a case tells without one
-    bool m_metCase = false;
+    bool m_hasCase = false;
     bool m_firstIsCurrent = false;
     bool m_hasCurrent = false;
 };

@@ -9,9 +9,9 @@ namespace {
 
 char Lower(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; }
 
-double Change(char a, char b) { return a == b ? 0 : Lower(a) == Lower(b) ? 0.5 : 1; }
+double SubstitutionCost(char a, char b) { return a == b ? 0 : Lower(a) == Lower(b) ? 0.5 : 1; }
 
-std::string Listed(const std::vector<std::string>& words) {
+std::string JoinFirst(const std::vector<std::string>& words) {
     constexpr std::size_t kMost = 40;
     std::string list;
     for (std::size_t i = 0; i < std::min(words.size(), kMost); ++i)
@@ -32,10 +32,10 @@ double EditDistance(std::string_view a, std::string_view b, double limit) {
     for (std::size_t n = 1; n <= a.size(); ++n) {
         std::vector<double> next(b.size() + 1, static_cast<double>(n));
         for (std::size_t i = 1; i < next.size(); ++i) {
-            next[i] = std::min({row[i] + 1, next[i - 1] + 1, row[i - 1] + Change(a[n - 1], b[i - 1])});
+            next[i] = std::min({row[i] + 1, next[i - 1] + 1, row[i - 1] + SubstitutionCost(a[n - 1], b[i - 1])});
             if (n > 1 && i > 1 && a[n - 1] != a[n - 2])
-                next[i] =
-                    std::min(next[i], former[i - 2] + 1 + Change(a[n - 1], b[i - 2]) + Change(a[n - 2], b[i - 1]));
+                next[i] = std::min(next[i], former[i - 2] + 1 + SubstitutionCost(a[n - 1], b[i - 2]) +
+                                                SubstitutionCost(a[n - 2], b[i - 1]));
         }
         former = std::exchange(row, std::move(next));
     }
@@ -54,5 +54,5 @@ std::string Suggestion(std::string_view word, const std::vector<std::string>& kn
         nearest = distance;
         found = &candidate;
     }
-    return found == nullptr ? "known: " + Listed(known) : "did you mean \"" + *found + "\"?";
+    return found == nullptr ? "known: " + JoinFirst(known) : "did you mean \"" + *found + "\"?";
 }

@@ -9,36 +9,38 @@
 
 namespace {
 
-constexpr std::size_t kMostCandidates = 10;
+constexpr std::size_t kMaxCandidates = 10;
 
 using Entries = std::vector<std::uint32_t>;
 
-std::string NameOf(const DocumentEntry& entry) {
+std::string PathSegment(const DocumentEntry& entry) {
     const std::string name = entry.feature.StoredAlias().ConvertToChar();
     return name.empty() ? "\"\"" : name;
 }
 
-bool IsEndOf(const std::string& path, const std::string& words) {
-    return path.size() > words.size() && path.ends_with(words) && path[path.size() - words.size() - 1] == '/';
+bool EndsWithSegments(const std::string& path, const std::string& reference) {
+    return path.size() > reference.size() && path.ends_with(reference) &&
+           path[path.size() - reference.size() - 1] == '/';
 }
 
-/// As many parts of the end of the path as the words have.
-std::string EndLike(const std::string& words, const std::string& path) {
+/// As many parts of the end of the path as the reference have.
+std::string LastSegments(const std::string& reference, const std::string& path) {
     auto begin = path.size();
-    for (auto parts = std::count(words.begin(), words.end(), '/') + 1; parts > 0 && begin != std::string::npos; --parts)
+    for (auto parts = std::count(reference.begin(), reference.end(), '/') + 1; parts > 0 && begin != std::string::npos;
+         --parts)
         begin = begin == 0 ? std::string::npos : path.rfind('/', begin - 1);
     return begin == std::string::npos ? path : path.substr(begin + 1);
 }
 
-/// The features whose ids, paths or ends of paths come near to the words, the nearest first.
-Entries Nearest(const LoadedDocument& loaded, std::string words) {
-    words.erase(words.find_last_not_of('/') + 1);
-    const double limit = 1 + static_cast<double>(words.size()) / 3;
+/// The features whose ids, paths or ends of paths come near to the reference, the nearest first.
+Entries ClosestEntries(const LoadedDocument& loaded, std::string reference) {
+    reference.erase(reference.find_last_not_of('/') + 1);
+    const double limit = 1 + static_cast<double>(reference.size()) / 3;
     std::vector<std::pair<double, std::uint32_t>> near;
     for (const std::uint32_t entry : NamedEntries(loaded))
-        near.emplace_back(EditDistance(words, EndLike(words, PathOf(loaded, entry)), limit), entry);
+        near.emplace_back(EditDistance(reference, LastSegments(reference, PathOf(loaded, entry)), limit), entry);
     for (const auto& [id, entry] : loaded.ids)
-        near.emplace_back(EditDistance(words, id, limit), entry);
+        near.emplace_back(EditDistance(reference, id, limit), entry);
     std::sort(near.begin(), near.end());
     Entries nearest;
     for (const auto& [distance, entry] : near)
@@ -48,7 +50,7 @@ Entries Nearest(const LoadedDocument& loaded, std::string words) {
 }
 
 /// The named objects whose pointers begin most like this one, in document order.
-Entries Neighbours(const LoadedDocument& loaded, const std::string& pointer) {
+Entries EntriesNear(const LoadedDocument& loaded, const std::string& pointer) {
     Entries neighbours;
     std::size_t longest = 0;
     for (const std::uint32_t entry : NamedEntries(loaded)) {
@@ -64,13 +66,13 @@ Entries Neighbours(const LoadedDocument& loaded, const std::string& pointer) {
     return neighbours;
 }
 
-std::string Candidates(const LoadedDocument& loaded, const Entries& entries) {
+std::string CandidateLines(const LoadedDocument& loaded, const Entries& entries) {
     std::string lines;
-    for (std::size_t i = 0; i < std::min(entries.size(), kMostCandidates); ++i)
-        lines += "\n  " + Printable(TellingOf(loaded, entries[i])) +
+    for (std::size_t i = 0; i < std::min(entries.size(), kMaxCandidates); ++i)
+        lines += "\n  " + Printable(DisplayPath(loaded, entries[i])) +
                  (loaded.entries[entries[i]].isNamed ? "  (" + PointerOf(loaded, entries[i]) + ")" : "");
-    if (entries.size() > kMostCandidates)
-        lines += "\n  and " + std::to_string(entries.size() - kMostCandidates) + " more";
+    if (entries.size() > kMaxCandidates)
+        lines += "\n  and " + std::to_string(entries.size() - kMaxCandidates) + " more";
     return lines;
 }
 
@@ -84,14 +86,14 @@ std::optional<std::uint32_t> FindByPointer(const LoadedDocument& loaded, const s
     return std::nullopt;
 }
 
-Entries FindByPath(const LoadedDocument& loaded, const std::string& words) {
+Entries FindByPath(const LoadedDocument& loaded, const std::string& reference) {
     Entries exact;
     Entries ends;
     for (const std::uint32_t entry : NamedEntries(loaded)) {
         const std::string path = PathOf(loaded, entry);
-        if (path == words)
+        if (path == reference)
             exact.push_back(entry);
-        else if (IsEndOf(path, words))
+        else if (EndsWithSegments(path, reference))
             ends.push_back(entry);
     }
     return exact.empty() ? ends : exact;
@@ -106,7 +108,7 @@ std::string PathOf(const LoadedDocument& loaded, std::uint32_t entry) {
             continue;
         if (!path.empty())
             path.insert(0, "/");
-        path.insert(0, NameOf(loaded.entries[entry]));
+        path.insert(0, PathSegment(loaded.entries[entry]));
     }
     return path;
 }
@@ -123,30 +125,30 @@ std::string PointerOf(const LoadedDocument& loaded, std::uint32_t entry) {
     return pointer;
 }
 
-std::string TellingOf(const LoadedDocument& loaded, std::uint32_t entry) {
+std::string DisplayPath(const LoadedDocument& loaded, std::uint32_t entry) {
     return loaded.entries[entry].isNamed ? PathOf(loaded, entry) : PointerOf(loaded, entry);
 }
 
-std::uint32_t FindFeature(const LoadedDocument& loaded, const std::string& words) {
-    if (const auto known = loaded.ids.find(words); known != loaded.ids.end())
+std::uint32_t FindEntry(const LoadedDocument& loaded, const std::string& reference) {
+    if (const auto known = loaded.ids.find(reference); known != loaded.ids.end())
         return known->second;
-    if (words.starts_with('/')) {
-        if (const auto found = FindByPointer(loaded, words))
+    if (reference.starts_with('/')) {
+        if (const auto found = FindByPointer(loaded, reference))
             return *found;
-        throw BadInput("the JSON pointer \"" + words + "\" leads to no object of the document; near it are:" +
-                       Candidates(loaded, Neighbours(loaded, words)));
+        throw BadInput("the JSON pointer \"" + reference + "\" leads to no object of the document; near it are:" +
+                       CandidateLines(loaded, EntriesNear(loaded, reference)));
     }
-    const Entries found = FindByPath(loaded, words);
+    const Entries found = FindByPath(loaded, reference);
     if (found.size() == 1)
         return found.front();
     if (found.empty()) {
-        const Entries nearest = Nearest(loaded, words);
-        throw BadInput("no feature has the id, the path or the end of a path \"" + words + "\"; " +
-                       (nearest.empty() ? "there are:" + Candidates(loaded, NamedEntries(loaded))
-                                        : "did you mean:" + Candidates(loaded, nearest)));
+        const Entries nearest = ClosestEntries(loaded, reference);
+        throw BadInput("no feature has the id, the path or the end of a path \"" + reference + "\"; " +
+                       (nearest.empty() ? "there are:" + CandidateLines(loaded, NamedEntries(loaded))
+                                        : "did you mean:" + CandidateLines(loaded, nearest)));
     }
-    throw BadInput("\"" + words +
+    throw BadInput("\"" + reference +
                    "\" may be each of these features; tell one by its id, its whole path or its"
                    " JSON pointer:" +
-                   Candidates(loaded, found));
+                   CandidateLines(loaded, found));
 }

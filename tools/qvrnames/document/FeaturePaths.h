@@ -12,9 +12,9 @@ std::string PathOf(const LoadedDocument& loaded, std::uint32_t entry);
 /// The JSON pointer of the object in the file.
 std::string PointerOf(const LoadedDocument& loaded, std::uint32_t entry);
 /// The path of a named object, the pointer of another.
-std::string TellingOf(const LoadedDocument& loaded, std::uint32_t entry);
+std::string DisplayPath(const LoadedDocument& loaded, std::uint32_t entry);
 
-/// The object that the words mean: an id, a JSON pointer (which begins with "/"), a path of names, or the
+/// The object that the reference mean: an id, a JSON pointer (which begins with "/"), a path of names, or the
 /// last part of a path when only one ends so. BadInput, with the objects that may be meant, for anything
 /// else.
-std::uint32_t FindFeature(const LoadedDocument& loaded, const std::string& words);
+std::uint32_t FindEntry(const LoadedDocument& loaded, const std::string& reference);

@@ -18,29 +18,29 @@ public:
     bool string(string_t&) override { return true; }
     bool binary(binary_t&) override { return true; }
     bool key(string_t&) override { return true; }
-    bool start_object(std::size_t) override { return Deeper(); }
-    bool start_array(std::size_t) override { return Deeper(); }
-    bool end_object() override { return Shallower(); }
-    bool end_array() override { return Shallower(); }
+    bool start_object(std::size_t) override { return Enter(); }
+    bool start_array(std::size_t) override { return Enter(); }
+    bool end_object() override { return Leave(); }
+    bool end_array() override { return Leave(); }
     bool parse_error(std::size_t position, const std::string&, const nlohmann::detail::exception& error) override {
-        place = position == 0 ? 0 : position - 1;
-        message = WithoutItsPlace(error.what());
+        offset = position == 0 ? 0 : position - 1;
+        message = WithoutLocation(error.what());
         return false;
     }
 
-    std::size_t place = 0;
+    std::size_t offset = 0;
     std::string message;
 
 private:
-    bool Deeper() { return ++m_depth <= JsonText::kDeepest; }
-    bool Shallower() {
+    bool Enter() { return ++m_depth <= JsonText::kMaxDepth; }
+    bool Leave() {
         --m_depth;
         return true;
     }
 
-    /// The reason alone: the place is told by the caller, and what was read last may be half the file or no
+    /// The reason alone: the offset is told by the caller, and what was read last may be half the file or no
     /// proper text.
-    static std::string WithoutItsPlace(std::string reason) {
+    static std::string WithoutLocation(std::string reason) {
         if (const auto column = reason.find("column "); column != std::string::npos)
             reason.erase(0, reason.find(": ", column) + 2);
         else if (const auto id = reason.find("] "); id != std::string::npos)
@@ -57,12 +57,12 @@ private:
 
 } // namespace
 
-void JsonText::RefuseUnlessJson() const {
+void JsonText::CheckSyntax() const {
     SyntaxCheck check;
     if (nlohmann::json::sax_parse(m_bytes, &check))
         return;
     if (check.message.empty())
-        throw BadInput(LineAndColumn(PlaceTooDeep()) + ": nested more deeply than " + std::to_string(kDeepest) +
-                       " levels");
-    throw BadInput(LineAndColumn(check.place) + ": " + check.message);
+        throw BadInput(LineAndColumn(OffsetBeyondMaxDepth()) + ": nested more deeply than " +
+                       std::to_string(kMaxDepth) + " levels");
+    throw BadInput(LineAndColumn(check.offset) + ": " + check.message);
 }

@@ -25,58 +25,58 @@ std::string Unescaped(std::string token) {
 } // namespace
 
 JsonText::JsonText(std::string text) : m_bytes(std::move(text)) {
-    if (SkipBlank(m_bytes.starts_with(kByteOrderMark) ? kByteOrderMark.size() : 0) == m_bytes.size())
+    if (SkipSpace(m_bytes.starts_with(kByteOrderMark) ? kByteOrderMark.size() : 0) == m_bytes.size())
         throw BadInput("the file is empty; a JSON object was expected");
-    RefuseUnlessJson();
+    CheckSyntax();
 }
 
 JsonValue JsonText::Root() const {
-    return {this, SkipBlank(m_bytes.starts_with(kByteOrderMark) ? kByteOrderMark.size() : 0)};
+    return {this, SkipSpace(m_bytes.starts_with(kByteOrderMark) ? kByteOrderMark.size() : 0)};
 }
 
-JsonValue JsonText::BeginningAt(std::size_t place) const { return {this, place}; }
+JsonValue JsonText::ValueAt(std::size_t offset) const { return {this, offset}; }
 
-std::size_t JsonText::SkipBlank(std::size_t place) const noexcept {
-    return std::min(m_bytes.find_first_not_of(" \t\r\n", place), m_bytes.size());
+std::size_t JsonText::SkipSpace(std::size_t offset) const noexcept {
+    return std::min(m_bytes.find_first_not_of(" \t\r\n", offset), m_bytes.size());
 }
 
-std::size_t JsonText::EndOfString(std::size_t place) const noexcept {
-    ++place;
-    while (m_bytes[place] != '"')
-        place += m_bytes[place] == '\\' ? 2 : 1;
-    return place + 1;
+std::size_t JsonText::EndOfString(std::size_t offset) const noexcept {
+    ++offset;
+    while (m_bytes[offset] != '"')
+        offset += m_bytes[offset] == '\\' ? 2 : 1;
+    return offset + 1;
 }
 
-std::size_t JsonText::EndOfValue(std::size_t place) const noexcept {
-    if (m_bytes[place] == '"')
-        return EndOfString(place);
-    if (m_bytes[place] != '{' && m_bytes[place] != '[')
-        return std::min(m_bytes.find_first_of(" \t\r\n,]}", place), m_bytes.size());
+std::size_t JsonText::EndOfValue(std::size_t offset) const noexcept {
+    if (m_bytes[offset] == '"')
+        return EndOfString(offset);
+    if (m_bytes[offset] != '{' && m_bytes[offset] != '[')
+        return std::min(m_bytes.find_first_of(" \t\r\n,]}", offset), m_bytes.size());
     int depth = 0;
     do {
-        const char c = m_bytes[place];
+        const char c = m_bytes[offset];
         if (c == '"') {
-            place = EndOfString(place);
+            offset = EndOfString(offset);
             continue;
         }
         depth += c == '{' || c == '[' ? 1 : c == '}' || c == ']' ? -1 : 0;
-        ++place;
+        ++offset;
     } while (depth > 0);
-    return place;
+    return offset;
 }
 
 /// Where the first bracket beyond the deepest level stands. The text is JSON up to there.
-std::size_t JsonText::PlaceTooDeep() const {
-    std::size_t place = 0;
-    for (int depth = 0; place < m_bytes.size();) {
-        const char c = m_bytes[place];
-        if ((c == '{' || c == '[') && ++depth > kDeepest)
+std::size_t JsonText::OffsetBeyondMaxDepth() const {
+    std::size_t offset = 0;
+    for (int depth = 0; offset < m_bytes.size();) {
+        const char c = m_bytes[offset];
+        if ((c == '{' || c == '[') && ++depth > kMaxDepth)
             break;
         if (c == '}' || c == ']')
             --depth;
-        place = c == '"' ? EndOfString(place) : place + 1;
+        offset = c == '"' ? EndOfString(offset) : offset + 1;
     }
-    return place;
+    return offset;
 }
 
 JsonValue JsonText::At(std::string_view pointer) const {
@@ -101,26 +101,26 @@ JsonValue JsonText::At(std::string_view pointer) const {
     return value;
 }
 
-std::string JsonText::PointerTo(std::size_t place) const {
+std::string JsonText::PointerTo(std::size_t offset) const {
     std::string pointer;
     JsonValue inside = Root();
     while (inside) {
         JsonValue next;
         const auto step = [&](JsonValue value, const std::string& token) {
-            if (value.Begin() > place || place >= value.End())
+            if (value.Begin() > offset || offset >= value.End())
                 return;
             next = value;
             pointer += '/' + token;
         };
         inside.ForEachMember([&](JsonValue key, JsonValue value) { step(value, Escaped(key.Text())); });
         inside.ForEachElement([&](std::size_t index, JsonValue value) { step(value, std::to_string(index)); });
-        inside = next && next.Begin() != place ? next : JsonValue();
+        inside = next && next.Begin() != offset ? next : JsonValue();
     }
     return pointer;
 }
 
-std::string JsonText::LineAndColumn(std::size_t place) const {
-    const std::string_view before = std::string_view(m_bytes).substr(0, place);
+std::string JsonText::LineAndColumn(std::size_t offset) const {
+    const std::string_view before = std::string_view(m_bytes).substr(0, offset);
     const auto lines = std::count(before.begin(), before.end(), '\n');
     std::string_view line = before.substr(before.rfind('\n') + 1); // npos + 1 is the beginning
     if (line.starts_with(kByteOrderMark))
@@ -166,15 +166,15 @@ void JsonValue::ForEachMember(const MemberVisitor& visit) const {
     if (Kind() != JsonKind::Object)
         return;
     const JsonText& text = *m_text;
-    std::size_t place = text.SkipBlank(m_begin + 1);
-    while (text.m_bytes[place] != '}') {
-        const JsonValue key(m_text, place);
-        const std::size_t colon = text.SkipBlank(text.EndOfString(place));
-        const JsonValue value(m_text, text.SkipBlank(colon + 1));
-        place = text.SkipBlank(value.End());
+    std::size_t offset = text.SkipSpace(m_begin + 1);
+    while (text.m_bytes[offset] != '}') {
+        const JsonValue key(m_text, offset);
+        const std::size_t colon = text.SkipSpace(text.EndOfString(offset));
+        const JsonValue value(m_text, text.SkipSpace(colon + 1));
+        offset = text.SkipSpace(value.End());
         visit(key, value);
-        if (text.m_bytes[place] == ',')
-            place = text.SkipBlank(place + 1);
+        if (text.m_bytes[offset] == ',')
+            offset = text.SkipSpace(offset + 1);
     }
 }
 
@@ -182,18 +182,18 @@ void JsonValue::ForEachElement(const ElementVisitor& visit) const {
     if (Kind() != JsonKind::Array)
         return;
     const JsonText& text = *m_text;
-    std::size_t place = text.SkipBlank(m_begin + 1);
-    for (std::size_t index = 0; text.m_bytes[place] != ']'; ++index) {
-        const JsonValue element(m_text, place);
-        place = text.SkipBlank(element.End());
+    std::size_t offset = text.SkipSpace(m_begin + 1);
+    for (std::size_t index = 0; text.m_bytes[offset] != ']'; ++index) {
+        const JsonValue element(m_text, offset);
+        offset = text.SkipSpace(element.End());
         visit(index, element);
-        if (text.m_bytes[place] == ',')
-            place = text.SkipBlank(place + 1);
+        if (text.m_bytes[offset] == ',')
+            offset = text.SkipSpace(offset + 1);
     }
 }
 
-void JsonValue::Refuse(const std::string& message) const {
+void JsonValue::ThrowError(const std::string& message) const {
     const std::string pointer = m_text->PointerTo(m_begin);
-    const std::string place = m_text->LineAndColumn(m_begin);
-    throw BadInput((pointer.empty() ? place : pointer + " (" + place + ")") + ": " + message);
+    const std::string offset = m_text->LineAndColumn(m_begin);
+    throw BadInput((pointer.empty() ? offset : pointer + " (" + offset + ")") + ": " + message);
 }

@@ -9,7 +9,7 @@ class JsonText;
 
 enum class JsonKind { Object, Array, String, Number, Boolean, Null };
 
-/// A value in a JSON text: no more than the place where it begins, so that a document of many megabytes needs
+/// A value in a JSON text: no more than the offset where it begins, so that a document of many megabytes needs
 /// no tree beside its text, and so that every value knows where to blame and what to patch. An empty one
 /// stands for a value that is not there.
 class JsonValue {
@@ -32,7 +32,7 @@ public:
     void ForEachMember(const MemberVisitor& visit) const;
     void ForEachElement(const ElementVisitor& visit) const;
     /// Ends the reading: BadInput with the JSON pointer of this value, its line and its column.
-    [[noreturn]] void Refuse(const std::string& message) const;
+    [[noreturn]] void ThrowError(const std::string& message) const;
 
 private:
     friend class JsonText;
@@ -45,32 +45,32 @@ private:
 /// A text that is JSON, made sure of when it is built.
 class JsonText {
 public:
-    /// BadInput with line and column when it is none, or when it is nested more deeply than kDeepest.
+    /// BadInput with line and column when it is none, or when it is nested more deeply than kMaxDepth.
     explicit JsonText(std::string text);
     JsonText(const JsonText&) = delete;
     JsonText& operator=(const JsonText&) = delete;
 
-    static constexpr int kDeepest = 100;
+    static constexpr int kMaxDepth = 100;
 
     const std::string& Bytes() const noexcept { return m_bytes; }
     JsonValue Root() const;
     /// The value that is known to begin there.
-    JsonValue BeginningAt(std::size_t place) const;
+    JsonValue ValueAt(std::size_t offset) const;
     /// The value that a JSON pointer leads to; empty when it leads nowhere.
     JsonValue At(std::string_view pointer) const;
-    /// The way to the value that begins at this place, or to the innermost one around it.
-    std::string PointerTo(std::size_t place) const;
+    /// The way to the value that begins at this offset, or to the innermost one around it.
+    std::string PointerTo(std::size_t offset) const;
     /// "line 3, column 17"; a column counts characters.
-    std::string LineAndColumn(std::size_t place) const;
+    std::string LineAndColumn(std::size_t offset) const;
 
 private:
     friend class JsonValue;
-    void RefuseUnlessJson() const;
-    std::size_t PlaceTooDeep() const;
-    /// The first place from here on that is no white space.
-    std::size_t SkipBlank(std::size_t place) const noexcept;
-    std::size_t EndOfString(std::size_t place) const noexcept;
-    std::size_t EndOfValue(std::size_t place) const noexcept;
+    void CheckSyntax() const;
+    std::size_t OffsetBeyondMaxDepth() const;
+    /// The first offset from here on that is no white space.
+    std::size_t SkipSpace(std::size_t offset) const noexcept;
+    std::size_t EndOfString(std::size_t offset) const noexcept;
+    std::size_t EndOfValue(std::size_t offset) const noexcept;
 
     std::string m_bytes;
 };

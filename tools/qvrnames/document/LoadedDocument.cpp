@@ -10,8 +10,8 @@ std::vector<std::uint32_t> NamedEntries(const LoadedDocument& loaded) {
     return named;
 }
 
-std::string WithName(const LoadedDocument& loaded, std::uint32_t entry, const std::string& name) {
-    const JsonValue object = loaded.text.BeginningAt(loaded.entries[entry].begin);
+std::string TextWithName(const LoadedDocument& loaded, std::uint32_t entry, const std::string& name) {
+    const JsonValue object = loaded.text.ValueAt(loaded.entries[entry].begin);
     const std::string literal = nlohmann::json(name).dump();
     std::string bytes = loaded.text.Bytes();
     JsonValue firstKey;

@@ -12,15 +12,15 @@ ObjectFields::ObjectFields(JsonValue object, MemoryKind kind) {
         const std::string spelling = key.Text();
         const std::optional<DocumentKey> known = FindDocumentKey(spelling, kind);
         if (!known)
-            key.Refuse("unknown key \"" + spelling + "\"; " + Suggestion(spelling, KeysOf(kind)));
+            key.ThrowError("unknown key \"" + spelling + "\"; " + Suggestion(spelling, KeysFor(kind)));
         JsonValue& taken = m_values[static_cast<std::size_t>(*known)];
         if (taken)
-            key.Refuse("the key \"" + spelling + "\" stands here twice");
+            key.ThrowError("the key \"" + spelling + "\" stands here twice");
         taken = value;
     });
 }
 
-void ObjectFields::Describe(MemoryFeature feature) const {
+void ObjectFields::ApplyTo(MemoryFeature feature) const {
     const ObjectFields& fields = *this;
     for (const DocumentKey ignored : {DocumentKey::Comment, DocumentKey::Schema})
         if (const JsonValue text = fields[ignored])
@@ -37,23 +37,23 @@ void ObjectFields::Describe(MemoryFeature feature) const {
         feature.Tag(ReadInt(tag));
     if (const JsonValue material = fields[DocumentKey::MaterialName])
         feature.MaterialName(ReadText(material));
-    ReadAttributes(feature);
+    ApplyAttributes(feature);
     ForEachInterface(DocumentKey::Offers, [&](const IID& iid) { feature.With(iid); });
     ForEachInterface(DocumentKey::Withholds, [&](const IID& iid) { feature.Without(iid); });
 }
 
-void ObjectFields::ReadAttributes(MemoryFeature feature) const {
+void ObjectFields::ApplyAttributes(MemoryFeature feature) const {
     const JsonValue attributes = (*this)[DocumentKey::Attributes];
     if (!attributes)
         return;
     ExpectKind(attributes, JsonKind::Object);
     std::set<std::string> known;
     attributes.ForEachMember([&](JsonValue key, JsonValue value) {
-        const std::string name = ReadWord(key);
+        const std::string name = ReadNonEmptyText(key);
         if (name == "Alias")
-            key.Refuse(R"(the attribute "Alias" is written as the key "name" of the object)");
+            key.ThrowError(R"(the attribute "Alias" is written as the key "name" of the object)");
         if (!known.insert(name).second)
-            key.Refuse("the key \"" + name + "\" stands here twice");
+            key.ThrowError("the key \"" + name + "\" stands here twice");
         feature.Attribute(name.c_str(), ReadText(value));
     });
 }
@@ -70,17 +70,17 @@ void ObjectFields::ForEachInterface(DocumentKey key, Visit visit) const {
         return;
     ExpectKind(names, JsonKind::Array);
     names.ForEachElement([&](std::size_t, JsonValue element) {
-        const std::string name = ReadWord(element);
+        const std::string name = ReadNonEmptyText(element);
         const IID* iid = ZFXFindInterface(name.c_str());
         if (iid == nullptr || *iid == IID_ZFXBaseUnknown)
-            element.Refuse("unknown interface \"" + name + "\"; " + Suggestion(name, known));
+            element.ThrowError("unknown interface \"" + name + "\"; " + Suggestion(name, known));
         visit(*iid);
     });
 }
 
 namespace {
 
-const char* Told(JsonKind kind) {
+const char* KindName(JsonKind kind) {
     switch (kind) {
     case JsonKind::Object:
         return "an object";
@@ -98,11 +98,11 @@ const char* Told(JsonKind kind) {
     return "null";
 }
 
-std::string ReadNarrow(JsonValue value) {
+std::string ReadUtf8(JsonValue value) {
     ExpectKind(value, JsonKind::String);
     std::string text = value.Text();
     if (text.find('\0') != std::string::npos) // a narrow text ends there
-        value.Refuse("expected a text without the character U+0000");
+        value.ThrowError("expected a text without the character U+0000");
     return text;
 }
 
@@ -110,15 +110,15 @@ std::string ReadNarrow(JsonValue value) {
 
 void ExpectKind(JsonValue value, JsonKind kind) {
     if (value.Kind() != kind)
-        value.Refuse(std::string("expected ") + Told(kind) + ", found " + Told(value.Kind()));
+        value.ThrowError(std::string("expected ") + KindName(kind) + ", found " + KindName(value.Kind()));
 }
 
-ZFXUnicodeString ReadText(JsonValue value) { return ReadNarrow(value).c_str(); }
+ZFXUnicodeString ReadText(JsonValue value) { return ReadUtf8(value).c_str(); }
 
-std::string ReadWord(JsonValue value) {
-    std::string word = ReadNarrow(value);
+std::string ReadNonEmptyText(JsonValue value) {
+    std::string word = ReadUtf8(value);
     if (word.empty())
-        value.Refuse("expected a text that is not empty");
+        value.ThrowError("expected a text that is not empty");
     return word;
 }
 
@@ -133,7 +133,8 @@ int ReadInt(JsonValue value) {
     int number = 0;
     const auto [end, error] = std::from_chars(digits.data(), digits.data() + digits.size(), number);
     if (error != std::errc() || end != digits.data() + digits.size())
-        value.Refuse("expected a whole number from " + std::to_string(std::numeric_limits<int>::min()) + " to " +
-                     std::to_string(std::numeric_limits<int>::max()) + ", found " + std::string(digits.substr(0, 40)));
+        value.ThrowError("expected a whole number from " + std::to_string(std::numeric_limits<int>::min()) + " to " +
+                         std::to_string(std::numeric_limits<int>::max()) + ", found " +
+                         std::string(digits.substr(0, 40)));
     return number;
 }

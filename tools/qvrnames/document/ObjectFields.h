@@ -15,10 +15,10 @@ public:
     JsonValue operator[](DocumentKey key) const { return m_values[static_cast<std::size_t>(key)]; }
 
     /// Tells the feature what the object says of itself, but for what names other objects.
-    void Describe(MemoryFeature feature) const;
+    void ApplyTo(MemoryFeature feature) const;
 
 private:
-    void ReadAttributes(MemoryFeature feature) const;
+    void ApplyAttributes(MemoryFeature feature) const;
     template <class Visit>
     void ForEachInterface(DocumentKey key, Visit visit) const;
 
@@ -31,6 +31,6 @@ private:
 void ExpectKind(JsonValue value, JsonKind kind);
 ZFXUnicodeString ReadText(JsonValue value);
 /// A text that is not empty, such as a late type.
-std::string ReadWord(JsonValue value);
+std::string ReadNonEmptyText(JsonValue value);
 bool ReadBool(JsonValue value);
 int ReadInt(JsonValue value);

@@ -6,19 +6,23 @@
 #include <string>
 
 /// The largest document that is read: 256 MB.
-inline constexpr std::size_t kLargestDocument = std::size_t{256} << 20;
+inline constexpr std::size_t kMaxDocumentBytes = std::size_t{256} << 20;
 
-/// What stands for standard input where a file is read.
+/// The path that means standard input or standard output.
 inline constexpr const char* kStandardStream = "-";
 
-/// The path, or what a message calls the standard stream.
-inline std::string FileForPeople(const std::string& path) { return path == kStandardStream ? "standard input" : path; }
-
-[[noreturn]] inline void RefuseFile(const std::string& path, const std::string& action, const std::string& reason) {
-    throw BadInput(FileForPeople(path) + ": cannot be " + action + ": " + reason);
+/// Returns the path as a message about reading names it.
+inline std::string DisplayFileName(const std::string& path) {
+    return path == kStandardStream ? "standard input" : path;
 }
 
-[[noreturn]] inline void RefuseSize(const std::string& path) {
-    throw BadInput(FileForPeople(path) + ": larger than " + std::to_string(kLargestDocument >> 20) +
-                   " MB, which is the largest document that is read");
+/// Throws BadInput: "PATH: cannot be ACTION: REASON". `action` is "read" or "written".
+[[noreturn]] inline void ThrowFileError(const std::string& path, const std::string& action, const std::string& reason) {
+    throw BadInput(DisplayFileName(path) + ": cannot be " + action + ": " + reason);
+}
+
+/// Throws BadInput for a file of more than kMaxDocumentBytes.
+[[noreturn]] inline void ThrowTooLarge(const std::string& path) {
+    throw BadInput(DisplayFileName(path) + ": larger than " + std::to_string(kMaxDocumentBytes >> 20) +
+                   " MB, the maximum size of a document");
 }

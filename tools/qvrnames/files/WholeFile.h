@@ -2,14 +2,18 @@
 
 #include <string>
 
-// Paths are UTF-8 on every system.
+// Reads and replaces whole files. A document is read once, kept in memory and written once, so there is no stream
+// interface. Each system has its own source. Paths are UTF-8 on every system.
 
-/// All bytes of the file, or of standard input for "-". BadInput when there is no such file, when it cannot be read or
-/// is too large.
-std::string ReadWholeFile(const std::string& path);
+/// Returns all bytes of a file, or of standard input if `path` is "-". Throws BadInput if the file does not exist,
+/// cannot be read or is larger than kMaxDocumentBytes.
+[[nodiscard]] std::string ReadWholeFile(const std::string& path);
 
-/// The file holds these bytes from now on, or, with BadInput, what it held before: they are written beside
-/// it, brought to the disk and put in its place in one go. A file that is there keeps its permissions, a new
-/// one gets those of `model`, or the usual ones when that is "-" (on Windows those of its folder); a symbolic link
-/// stays one.
+/// Replaces the content of a file, or creates the file. The bytes are written to a temporary file in the same folder,
+/// flushed to the disk and moved over the file in one step, so that a reader or a crash never sees half of them. Throws
+/// BadInput if any step fails; the file then has its former content.
+/// - An existing file keeps its permissions. A new file gets those of `model`, or the default permissions if `model` is
+///   "-". On Windows, a new file gets those of its folder.
+/// - If `path` is a symbolic link, its target is replaced.
+/// @pre `path` is not "-"
 void ReplaceWholeFile(const std::string& path, const std::string& bytes, const std::string& model);

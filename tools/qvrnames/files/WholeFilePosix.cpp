@@ -2,10 +2,13 @@
 
 #include "files/ReadToEnd.h"
 
+#include <cassert>
 #include <cerrno>
+#include <cstdio>
 #include <filesystem>
 #include <string_view>
 #include <system_error>
+#include <tuple>
 
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -13,11 +16,11 @@
 
 namespace {
 
-[[noreturn]] void RefuseFile(const std::string& path, const std::string& action, int error) {
-    ::RefuseFile(path, action, std::generic_category().message(error));
+[[noreturn]] void ThrowFileError(const std::string& path, const std::string& action, int error) {
+    ::ThrowFileError(path, action, std::generic_category().message(error));
 }
 
-/// Closes the file when it goes.
+/// Owns a file descriptor.
 class OpenFile {
 public:
     explicit OpenFile(int file) : m_file(file) {}
@@ -25,7 +28,7 @@ public:
     OpenFile& operator=(const OpenFile&) = delete;
     ~OpenFile() {
         if (m_file >= 0)
-            close(m_file);
+            std::ignore = close(m_file);
     }
     operator int() const noexcept { return m_file; }
 
@@ -33,26 +36,26 @@ private:
     int m_file;
 };
 
-/// The file that takes the place of another, removed again unless it did.
-class FileBeside {
+/// A temporary file next to the file that it will replace. The destructor removes it unless ReplaceTarget succeeded.
+class TemporaryFile {
 public:
-    explicit FileBeside(const std::string& target)
+    explicit TemporaryFile(const std::string& target)
         : m_target(target),
           m_path((std::filesystem::path(target).parent_path() / ".qvrnames-XXXXXX").string()),
           m_file(mkstemp(m_path.data())) {
         if (m_file < 0)
-            RefuseFile(m_target, "written", errno);
+            ThrowFileError(m_target, "written", errno);
     }
-    FileBeside(const FileBeside&) = delete;
-    FileBeside& operator=(const FileBeside&) = delete;
-    ~FileBeside() {
+    TemporaryFile(const TemporaryFile&) = delete;
+    TemporaryFile& operator=(const TemporaryFile&) = delete;
+    ~TemporaryFile() {
         if (!m_isInPlace && m_file >= 0)
-            unlink(m_path.c_str());
+            std::ignore = unlink(m_path.c_str());
     }
 
-    void LookLike(const struct stat& model) {
-        // Another owner can only be given by one who may; the permissions are what counts.
-        [[maybe_unused]] const int ownerKept = fchown(m_file, model.st_uid, model.st_gid);
+    /// Copies the permissions, and the owner if the process may change it.
+    void CopyOwnerAndMode(const struct stat& model) {
+        std::ignore = fchown(m_file, model.st_uid, model.st_gid);
         Check(fchmod(m_file, model.st_mode & 07777U));
     }
     void Write(std::string_view bytes) {
@@ -65,17 +68,18 @@ public:
         }
         Check(fsync(m_file));
     }
-    void TakeThePlace() {
+    void ReplaceTarget() {
         Check(std::rename(m_path.c_str(), m_target.c_str()));
         m_isInPlace = true;
         const OpenFile folder(open(std::filesystem::path(m_path).parent_path().c_str(), O_RDONLY | O_CLOEXEC));
-        fsync(folder); // the new name on the disk too; the file is whole either way
+        // Brings the new folder entry to the disk. If this fails, a crash may restore the former file, which is whole.
+        std::ignore = fsync(folder);
     }
 
 private:
     void Check(ssize_t result) const {
         if (result < 0)
-            RefuseFile(m_target, "written", errno);
+            ThrowFileError(m_target, "written", errno);
     }
 
     std::string m_target;
@@ -84,10 +88,10 @@ private:
     bool m_isInPlace = false;
 };
 
-/// The permissions that a new file gets.
-mode_t UsualPermissions() {
-    const mode_t mask = umask(0);
-    umask(mask);
+/// Returns the permissions that the process gives to new files.
+mode_t DefaultPermissions() {
+    const mode_t mask = umask(0); // the mask can only be read by setting it
+    std::ignore = umask(mask);
     return 0666U & ~mask;
 }
 
@@ -97,39 +101,40 @@ std::string ReadWholeFile(const std::string& path) {
     const OpenFile file(path == kStandardStream ? dup(STDIN_FILENO) : open(path.c_str(), O_RDONLY | O_CLOEXEC));
     struct stat status {};
     if (file < 0 || fstat(file, &status) < 0)
-        RefuseFile(path, "read", errno);
+        ThrowFileError(path, "read", errno);
     if (S_ISDIR(status.st_mode))
-        RefuseFile(path, "read", EISDIR);
+        ThrowFileError(path, "read", EISDIR);
     const std::size_t size = S_ISREG(status.st_mode) ? static_cast<std::size_t>(status.st_size) : 0;
-    return AllBytes(path, size, [&](char* place, std::size_t room) {
+    return ReadToEnd(path, size, [&](char* buffer, std::size_t capacity) {
         for (;;) {
-            const ssize_t got = read(file, place, room);
-            if (got >= 0)
-                return static_cast<std::size_t>(got);
+            const ssize_t count = read(file, buffer, capacity);
+            if (count >= 0)
+                return static_cast<std::size_t>(count);
             if (errno != EINTR)
-                RefuseFile(path, "read", errno);
+                ThrowFileError(path, "read", errno);
         }
     });
 }
 
 void ReplaceWholeFile(const std::string& path, const std::string& bytes, const std::string& model) {
+    assert(path != kStandardStream);
     std::error_code error;
-    // Where a link leads, so that the link stays; a path that leads nowhere yet is a new file.
+    // Replaces the target of a link, not the link. A path that does not exist yet is a new file.
     const std::filesystem::path real = std::filesystem::canonical(path, error);
     const std::string target = error ? std::filesystem::absolute(path).string() : real.string();
     struct stat status {};
-    const bool isThere = stat(target.c_str(), &status) == 0;
-    if (isThere && !S_ISREG(status.st_mode))
-        throw BadInput(path + ": cannot be written: it is no regular file");
-    if (!isThere && model == kStandardStream) {
+    const bool exists = stat(target.c_str(), &status) == 0;
+    if (exists && !S_ISREG(status.st_mode))
+        throw BadInput(path + ": cannot be written: not a regular file");
+    if (!exists && model == kStandardStream) {
         status.st_uid = geteuid();
         status.st_gid = getegid();
-        status.st_mode = UsualPermissions();
-    } else if (!isThere && stat(model.c_str(), &status) < 0) {
-        RefuseFile(model, "read", errno);
+        status.st_mode = DefaultPermissions();
+    } else if (!exists && stat(model.c_str(), &status) < 0) {
+        ThrowFileError(model, "read", errno);
     }
-    FileBeside file(target);
-    file.LookLike(status);
+    TemporaryFile file(target);
+    file.CopyOwnerAndMode(status);
     file.Write(bytes);
-    file.TakeThePlace();
+    file.ReplaceTarget();
 }

@@ -5,6 +5,7 @@
 #include "text/Utf8Path.h"
 
 #include <algorithm>
+#include <cassert>
 #include <cerrno>
 #include <filesystem>
 #include <string_view>
@@ -14,13 +15,13 @@
 
 namespace {
 
-/// The system's last error, in the words that other systems have for it.
-[[noreturn]] void RefuseFile(const std::string& path, const std::string& action) {
+/// Throws BadInput with the system's last error, in the generic wording that POSIX systems use as well.
+[[noreturn]] void ThrowFileError(const std::string& path, const std::string& action) {
     const int error = static_cast<int>(GetLastError());
-    ::RefuseFile(path, action, std::system_category().default_error_condition(error).message());
+    ::ThrowFileError(path, action, std::system_category().default_error_condition(error).message());
 }
 
-/// Closes the file when it goes.
+/// Owns a file handle.
 class FileHandle {
 public:
     explicit FileHandle(HANDLE file) : m_file(file) {}
@@ -42,36 +43,37 @@ private:
 
 constexpr DWORD kShareAll = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
 
-HANDLE OpenAsItIs(const std::filesystem::path& path, DWORD access) {
+HANDLE OpenExisting(const std::filesystem::path& path, DWORD access) {
     return CreateFileW(path.c_str(), access, kShareAll, nullptr, OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr);
 }
 
-/// A handle of its own, so that it may be closed like any other.
+/// Returns a duplicate of the handle of standard input, which the caller closes.
 HANDLE StandardInput() {
-    HANDLE own = INVALID_HANDLE_VALUE;
-    DuplicateHandle(GetCurrentProcess(), GetStdHandle(STD_INPUT_HANDLE), GetCurrentProcess(), &own, 0, FALSE,
+    HANDLE duplicate = INVALID_HANDLE_VALUE;
+    DuplicateHandle(GetCurrentProcess(), GetStdHandle(STD_INPUT_HANDLE), GetCurrentProcess(), &duplicate, 0, FALSE,
                     DUPLICATE_SAME_ACCESS);
-    return own;
+    return duplicate;
 }
 
-bool Has(DWORD attributes, DWORD attribute) {
+bool HasAttribute(DWORD attributes, DWORD attribute) {
     return attributes != INVALID_FILE_ATTRIBUTES && (attributes & attribute) != 0;
 }
 
-/// The file that takes the place of another, removed again unless it did. One at a time in a process.
-class FileBeside {
+/// A temporary file next to the file that it will replace. The destructor removes it unless ReplaceTarget succeeded. A
+/// process uses one at a time, because the name contains only the process id.
+class TemporaryFile {
 public:
-    FileBeside(const std::string& asGiven, const std::filesystem::path& target)
-        : m_asGiven(asGiven),
+    TemporaryFile(const std::string& displayPath, const std::filesystem::path& target)
+        : m_displayPath(displayPath),
           m_target(target),
           m_path(target.parent_path() / (L".qvrnames-" + std::to_wstring(GetCurrentProcessId()))),
           m_file(
               CreateFileW(m_path.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, FILE_ATTRIBUTE_NORMAL, nullptr)) {
         Check(m_file.IsOpen());
     }
-    FileBeside(const FileBeside&) = delete;
-    FileBeside& operator=(const FileBeside&) = delete;
-    ~FileBeside() {
+    TemporaryFile(const TemporaryFile&) = delete;
+    TemporaryFile& operator=(const TemporaryFile&) = delete;
+    ~TemporaryFile() {
         m_file.Close();
         if (!m_isInPlace)
             DeleteFileW(m_path.c_str());
@@ -86,21 +88,21 @@ public:
         }
         Check(FlushFileBuffers(m_file) != 0);
     }
-    /// What is there hands over its permissions and attributes.
-    void TakeThePlace(bool isThere) {
+    /// Replaces the target, whose permissions and attributes are kept, or creates it if it does not exist.
+    void ReplaceTarget(bool exists) {
         m_file.Close();
-        Check(isThere ? ReplaceFileW(m_target.c_str(), m_path.c_str(), nullptr, 0, nullptr, nullptr) != 0
-                      : MoveFileExW(m_path.c_str(), m_target.c_str(), MOVEFILE_WRITE_THROUGH) != 0);
+        Check(exists ? ReplaceFileW(m_target.c_str(), m_path.c_str(), nullptr, 0, nullptr, nullptr) != 0
+                     : MoveFileExW(m_path.c_str(), m_target.c_str(), MOVEFILE_WRITE_THROUGH) != 0);
         m_isInPlace = true;
     }
 
 private:
     void Check(bool isDone) const {
         if (!isDone)
-            RefuseFile(m_asGiven, "written");
+            ThrowFileError(m_displayPath, "written");
     }
 
-    std::string m_asGiven;
+    std::string m_displayPath;
     std::filesystem::path m_target;
     std::filesystem::path m_path;
     FileHandle m_file;
@@ -112,36 +114,37 @@ private:
 std::string ReadWholeFile(const std::string& path) {
     const std::filesystem::path name = Utf8::ToPath(path);
     const bool isStream = path == kStandardStream;
-    if (!isStream && Has(GetFileAttributesW(name.c_str()), FILE_ATTRIBUTE_DIRECTORY))
-        RefuseFile(path, "read", std::generic_category().message(EISDIR));
-    const FileHandle file(isStream ? StandardInput() : OpenAsItIs(name, GENERIC_READ));
+    if (!isStream && HasAttribute(GetFileAttributesW(name.c_str()), FILE_ATTRIBUTE_DIRECTORY))
+        ThrowFileError(path, "read", std::generic_category().message(EISDIR));
+    const FileHandle file(isStream ? StandardInput() : OpenExisting(name, GENERIC_READ));
     if (!file.IsOpen())
-        RefuseFile(path, "read");
-    LARGE_INTEGER size{}; // stays 0 for what has none
+        ThrowFileError(path, "read");
+    LARGE_INTEGER size{}; // stays 0 for a pipe, which has no size
     GetFileSizeEx(file, &size);
-    return AllBytes(path, static_cast<std::size_t>(size.QuadPart), [&](char* place, std::size_t room) {
-        DWORD got = 0;
-        if (ReadFile(file, place, static_cast<DWORD>(room), &got, nullptr) == 0 &&
-            GetLastError() != ERROR_BROKEN_PIPE) // the end of a pipe
-            RefuseFile(path, "read");
-        return static_cast<std::size_t>(got);
+    return ReadToEnd(path, static_cast<std::size_t>(size.QuadPart), [&](char* buffer, std::size_t capacity) {
+        DWORD count = 0;
+        if (ReadFile(file, buffer, static_cast<DWORD>(capacity), &count, nullptr) == 0 &&
+            GetLastError() != ERROR_BROKEN_PIPE) // the other end was closed: the end of the input
+            ThrowFileError(path, "read");
+        return static_cast<std::size_t>(count);
     });
 }
 
 void ReplaceWholeFile(const std::string& path, const std::string& bytes, const std::string& /*model*/) {
+    assert(path != kStandardStream);
     std::error_code error;
     const std::filesystem::path name = Utf8::ToPath(path);
-    // Where a link leads, so that the link stays; a path that leads nowhere yet is a new file.
+    // Replaces the target of a link, not the link. A path that does not exist yet is a new file.
     const std::filesystem::path real = std::filesystem::canonical(name, error);
     const std::filesystem::path target = error ? std::filesystem::absolute(name) : real;
     const DWORD attributes = GetFileAttributesW(target.c_str());
-    if (Has(attributes, FILE_ATTRIBUTE_DIRECTORY))
-        throw BadInput(path + ": cannot be written: it is no regular file");
-    const bool isThere = attributes != INVALID_FILE_ATTRIBUTES;
-    // A file that another program keeps for itself is told before anything is written.
-    if (isThere && !FileHandle(OpenAsItIs(target, DELETE)).IsOpen())
-        RefuseFile(path, "written");
-    FileBeside file(path, target);
+    if (HasAttribute(attributes, FILE_ATTRIBUTE_DIRECTORY))
+        throw BadInput(path + ": cannot be written: not a regular file");
+    const bool exists = attributes != INVALID_FILE_ATTRIBUTES;
+    // Reports a file that another program has locked before anything is written.
+    if (exists && !FileHandle(OpenExisting(target, DELETE)).IsOpen())
+        ThrowFileError(path, "written");
+    TemporaryFile file(path, target);
     file.Write(bytes);
-    file.TakeThePlace(isThere);
+    file.ReplaceTarget(exists);
 }

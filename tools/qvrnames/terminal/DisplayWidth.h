@@ -5,17 +5,21 @@
 #include <string_view>
 #include <utility>
 
-/// The first character of a well-formed UTF-8 text that is not empty, and the bytes that it takes.
-std::pair<char32_t, std::size_t> FirstCharacter(std::string_view text);
+// Widths are in columns of a terminal. Texts are UTF-8; for ill-formed text the results are unspecified, but no
+// function reads beyond its end.
 
-/// The cells that a text takes on a terminal: two for each wide character of East Asia, none for a combining
-/// mark, one for any other. The locale counts for nothing.
-std::size_t CellsOf(std::string_view text);
+/// Returns the first character of a text and its length in bytes.
+/// @pre `text` is not empty
+[[nodiscard]] std::pair<char32_t, std::size_t> FirstCharacter(std::string_view text);
 
-/// The bytes that the beginning of a text takes: as much as goes into the cells, marks with what they are put
-/// on; at least one character unless the text is empty.
-std::size_t BytesThatFit(std::string_view text, std::size_t cells);
+/// Returns the width of a text: two columns for each wide East Asian character, none for a combining mark, one for each
+/// other character. Independent of the locale.
+[[nodiscard]] std::size_t DisplayWidth(std::string_view text);
 
-/// The text with its control characters written as \u0009 and the like, so that a name can neither break a
-/// line nor steer a terminal nor turn the direction of writing around.
-std::string Printable(std::string_view text);
+/// Returns the length in bytes of the longest beginning that is not wider than `width`. Combining marks stay with their
+/// base character. At least one character is included, unless the text is empty.
+[[nodiscard]] std::size_t BytesThatFit(std::string_view text, std::size_t width);
+
+/// Returns the text with control characters replaced by \u0009 and so on, so that a name cannot break a line, control
+/// the terminal or reverse the direction of the text after it.
+[[nodiscard]] std::string Printable(std::string_view text);

@@ -3,84 +3,91 @@
 #include "terminal/DisplayWidth.h"
 
 #include <algorithm>
+#include <cassert>
 #include <numeric>
 #include <ostream>
 
 namespace {
 
 constexpr std::size_t kGap = 2;
-/// Off a terminal a column grows no wider than this; longer texts push what follows them.
-constexpr std::size_t kWidestColumn = 48;
-/// On a terminal columns of up to so many cells are not wrapped, so that message ids stay whole; others are
-/// wrapped to no less than the next number, and sentences, which are wider than the widest column, to no less
-/// than the last.
-constexpr std::size_t kWidestWhole = 24;
-constexpr std::size_t kNarrowestColumn = 16;
-constexpr std::size_t kNarrowestText = 30;
+/// Without a terminal, columns are padded to at most this width. Longer texts move the rest of their row to the right.
+constexpr std::size_t kMaxColumnWidth = 48;
+/// On a terminal, columns up to this width are not wrapped, so that message ids stay in one piece.
+constexpr std::size_t kMaxUnwrappedWidth = 24;
+/// The minimum width of a wrapped column.
+constexpr std::size_t kMinColumnWidth = 16;
+/// The minimum width of a wrapped column of sentences, that is, one wider than kMaxColumnWidth.
+constexpr std::size_t kMinTextWidth = 30;
 
 using Widths = std::vector<std::size_t>;
 using Lines = std::vector<std::string_view>;
 
-/// How wide the columns are with all rows, or with all but the widest tenth of the cells of each that is
-/// wrapped.
+/// Returns the width of each column. With `isWithoutOutliers`, ignores the widest tenth of the cells of each column
+/// that can be wrapped.
 Widths ColumnWidths(const Table& table, bool isWithoutOutliers) {
     std::vector<Widths> columns;
     for (const std::string& heading : table.headings)
-        columns.push_back({CellsOf(heading)});
+        columns.push_back({DisplayWidth(heading)});
     for (const Row& row : table.rows) {
         columns.resize(std::max(columns.size(), row.size()));
         for (std::size_t i = 0; i < row.size(); ++i)
-            columns[i].push_back(CellsOf(row[i].text));
+            columns[i].push_back(DisplayWidth(row[i].text));
     }
     Widths widths;
     for (Widths& cells : columns) {
         std::sort(cells.begin(), cells.end());
-        const bool isCut = isWithoutOutliers && cells.back() > kWidestWhole;
-        widths.push_back(cells[cells.size() - 1 - (isCut ? cells.size() / 10 : 0)]);
+        const bool canWrap = cells.back() > kMaxUnwrappedWidth;
+        widths.push_back(cells[cells.size() - 1 - (isWithoutOutliers && canWrap ? cells.size() / 10 : 0)]);
     }
     return widths;
 }
 
-std::size_t WithGaps(const Widths& widths) {
+/// Returns the width of a line.
+std::size_t TotalWidth(const Widths& widths) {
+    assert(!widths.empty());
     return std::accumulate(widths.begin(), widths.end(), kGap * (widths.size() - 1));
 }
 
-std::size_t NarrowestOf(std::size_t natural) {
-    if (natural <= kWidestWhole)
+/// Returns the width below which a column must not be narrowed.
+std::size_t MinWidth(std::size_t natural) {
+    if (natural <= kMaxUnwrappedWidth)
         return natural;
-    return natural <= kWidestColumn ? kNarrowestColumn : kNarrowestText;
+    return natural <= kMaxColumnWidth ? kMinColumnWidth : kMinTextWidth;
 }
 
-/// The widths taken down to the same limit, the largest with which the table fits; nothing when that would
-/// leave slivers. The last column gets what is left over. A few wide cells make no column wider.
-Widths FittedWidths(const Table& table, std::size_t columns) {
+/// Returns widths with which the table fits on the terminal, or nothing if columns would become too narrow. Limits all
+/// columns to the same width, as large as possible, and gives the remaining space to the last one. Outliers are
+/// ignored, so that a few wide cells do not widen their column.
+Widths FitWidths(const Table& table, std::size_t columns) {
     const Widths usual = ColumnWidths(table, true);
     Widths fitted;
     for (std::size_t limit = 0; limit <= columns; ++limit) {
         Widths tried;
         for (const std::size_t width : usual)
-            tried.push_back(std::max(std::min(width, limit), NarrowestOf(width)));
-        if (WithGaps(tried) > columns)
+            tried.push_back(std::max(std::min(width, limit), MinWidth(width)));
+        if (TotalWidth(tried) > columns)
             break;
         fitted = std::move(tried);
     }
     if (!fitted.empty())
-        fitted.back() += columns - WithGaps(fitted);
+        fitted.back() += columns - TotalWidth(fitted);
     return fitted;
 }
 
-/// Whether a line may end in front of the place without breaking a word: wide characters are words of their own.
-bool MayBreakAt(std::string_view text, std::size_t place) {
-    const std::string_view rest = text.substr(place);
-    return rest.front() == ' ' || CellsOf(rest.substr(0, FirstCharacter(rest).second)) > 1;
+/// Returns true if a line can end before the offset without breaking a word. Each wide character is a word.
+/// @pre `offset` is less than the length of the text
+bool CanBreakBefore(std::string_view text, std::size_t offset) {
+    assert(offset < text.size());
+    const std::string_view rest = text.substr(offset);
+    return rest.front() == ' ' || DisplayWidth(rest.substr(0, FirstCharacter(rest).second)) > 1;
 }
 
-/// The text in lines of so many cells, broken behind blanks and slashes where there are any.
-Lines Wrapped(std::string_view text, std::size_t width) {
+/// Splits the text into lines of at most `width` columns, after spaces and slashes if possible.
+Lines Wrap(std::string_view text, std::size_t width) {
     Lines lines;
-    while (CellsOf(text) > width) {
+    while (DisplayWidth(text) > width) {
         std::size_t end = BytesThatFit(text, width);
-        if (!MayBreakAt(text, end))
+        if (!CanBreakBefore(text, end))
             if (const auto wordEnd = text.substr(0, end).find_last_of(" /"); wordEnd != std::string_view::npos)
                 end = wordEnd + 1;
         const std::string_view line = text.substr(0, end);
@@ -91,48 +98,47 @@ Lines Wrapped(std::string_view text, std::size_t width) {
     return lines;
 }
 
-std::string Blanks(std::size_t count) { return std::string(count, ' '); }
+std::string Spaces(std::size_t count) { return std::string(count, ' '); }
 
-/// One row, on as many lines as its longest cell needs; no width: nothing is wrapped.
+/// Prints one row, in as many lines as its longest cell needs.
 void PrintRow(std::ostream& out, const Row& row, const Widths& widths, bool isWrapped, const Screen& screen) {
     std::vector<Lines> cells;
     std::size_t height = 0;
     for (std::size_t i = 0; i < row.size(); ++i) {
-        cells.push_back(isWrapped ? Wrapped(row[i].text, widths[i]) : Lines{row[i].text});
+        cells.push_back(isWrapped ? Wrap(row[i].text, widths[i]) : Lines{row[i].text});
         height = std::max(height, cells.back().size());
     }
     for (std::size_t line = 0; line < height; ++line) {
-        std::size_t missing = 0; // blanks are only written in front of text
+        std::size_t padding = 0; // printed before the next text, so that no line ends with spaces
         for (std::size_t i = 0; i < row.size(); ++i) {
             const std::string_view text = line < cells[i].size() ? cells[i][line] : std::string_view();
             if (!text.empty())
-                out << Blanks(missing) << Inked(text, row[i].ink, screen);
-            const std::size_t cellsUsed = CellsOf(text);
-            const std::size_t filling = widths[i] - std::min(widths[i], cellsUsed) + kGap;
-            missing = text.empty() ? missing + filling : filling;
+                out << Spaces(padding) << Styled(text, row[i].style, screen);
+            const std::size_t rest = widths[i] - std::min(widths[i], DisplayWidth(text)) + kGap;
+            padding = text.empty() ? padding + rest : rest;
         }
         out << '\n';
     }
 }
 
-/// The cells below each other: the first one, and the others indented, behind the headings if there are any.
+/// Prints the cells of each row below each other: the first one, then the others, indented, after their headings.
 void PrintStacked(std::ostream& out, const Table& table, const Screen& screen) {
     std::size_t indent = kGap;
     for (std::size_t i = 1; i < table.headings.size(); ++i)
-        indent = std::max(indent, kGap + CellsOf(table.headings[i]) + kGap);
+        indent = std::max(indent, kGap + DisplayWidth(table.headings[i]) + kGap);
     for (const Row& row : table.rows)
         for (std::size_t i = 0; i < row.size(); ++i) {
-            const std::size_t before = i == 0 ? 0 : indent;
-            const std::size_t room = std::max(screen.columns, before + kNarrowestColumn) - before;
-            std::string beginning = Blanks(before);
+            const std::size_t margin = i == 0 ? 0 : indent;
+            const std::size_t width = std::max(screen.columns, margin + kMinColumnWidth) - margin;
+            std::string prefix = Spaces(margin);
             if (i > 0 && i < table.headings.size()) {
                 const std::string& heading = table.headings[i];
-                beginning =
-                    Blanks(kGap) + Inked(heading, Ink::Heading, screen) + Blanks(indent - kGap - CellsOf(heading));
+                prefix = Spaces(kGap) + Styled(heading, Style::Heading, screen) +
+                         Spaces(indent - kGap - DisplayWidth(heading));
             }
-            for (const std::string_view line : Wrapped(row[i].text, room)) {
-                out << beginning << Inked(line, row[i].ink, screen) << '\n';
-                beginning = Blanks(before);
+            for (const std::string_view line : Wrap(row[i].text, width)) {
+                out << prefix << Styled(line, row[i].style, screen) << '\n';
+                prefix = Spaces(margin);
             }
         }
 }
@@ -141,19 +147,19 @@ void PrintStacked(std::ostream& out, const Table& table, const Screen& screen) {
 
 void PrintTable(std::ostream& out, const Table& table, const Screen& screen) {
     Widths widths = ColumnWidths(table, false);
-    const bool isTooWide = screen.columns > 0 && !widths.empty() && WithGaps(widths) > screen.columns;
+    const bool isTooWide = screen.columns > 0 && !widths.empty() && TotalWidth(widths) > screen.columns;
     if (isTooWide)
-        widths = FittedWidths(table, screen.columns);
+        widths = FitWidths(table, screen.columns);
     else if (screen.columns == 0)
         for (std::size_t& width : widths)
-            width = std::min(width, kWidestColumn);
+            width = std::min(width, kMaxColumnWidth);
     if (widths.empty()) {
         PrintStacked(out, table, screen);
         return;
     }
     Row headings;
     for (const std::string& heading : table.headings)
-        headings.push_back({heading, Ink::Heading});
+        headings.push_back({heading, Style::Heading});
     if (!headings.empty())
         PrintRow(out, headings, widths, isTooWide, screen);
     for (const Row& row : table.rows)

@@ -4,22 +4,21 @@
 
 #include <iosfwd>
 #include <string>
-#include <string_view>
 #include <vector>
 
 struct Cell {
-    std::string text; ///< in one line
-    Ink ink = Ink::Plain;
+    std::string text; ///< a single line
+    Style style = Style::Plain;
 };
 using Row = std::vector<Cell>;
 
 struct Table {
-    std::vector<std::string> headings; ///< none, or one a column
-    std::vector<Row> rows;             ///< a row may end early
+    std::vector<std::string> headings; ///< one per column, or none
+    std::vector<Row> rows;             ///< may have fewer cells than there are columns
 };
 
-/// The rows below each other, the columns of every row beside each other; the last one is not filled up.
+/// Prints the rows with aligned columns. No text is shortened.
 ///
-/// Nothing is ever cut. On a terminal that is too narrow the texts are wrapped in their columns, and where
-/// that would leave a column only a sliver, the cells of a row stand below each other, each behind its heading.
+/// If the terminal is too narrow, the texts are wrapped in their columns. If the columns would become narrower than a
+/// minimum, the cells of a row are printed below each other, each after its heading.
 void PrintTable(std::ostream& out, const Table& table, const Screen& screen);

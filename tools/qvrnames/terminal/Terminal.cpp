@@ -34,8 +34,8 @@ std::size_t Columns() {
     return static_cast<std::size_t>(info.srWindow.Right - info.srWindow.Left + 1);
 }
 
-/// The console takes colours once it is asked to.
-bool UnderstandsColour() {
+/// Switches on the processing of escape sequences, which a console does not do by default.
+bool SupportsColour() {
     const HANDLE console = GetStdHandle(STD_OUTPUT_HANDLE);
     DWORD mode = 0;
     return GetConsoleMode(console, &mode) != 0 &&
@@ -51,26 +51,27 @@ std::size_t Columns() {
     return ioctl(STDOUT_FILENO, TIOCGWINSZ, &size) == 0 ? size.ws_col : 0U;
 }
 
-bool UnderstandsColour() { return !Environment("TERM").empty() && Environment("TERM") != "dumb"; }
+bool SupportsColour() { return !Environment("TERM").empty() && Environment("TERM") != "dumb"; }
 
 #endif
 
 } // namespace
 
-Screen ScreenOfStandardOutput() {
+Screen StandardOutputScreen() {
     if (!IsTerminal())
         return {};
-    return {Columns(), Environment("NO_COLOR").empty() && UnderstandsColour()};
+    return {Columns(), Environment("NO_COLOR").empty() && SupportsColour()};
 }
 
-std::string Inked(std::string_view text, Ink ink, const Screen& screen) {
+std::string Styled(std::string_view text, Style style, const Screen& screen) {
+    // In the order of Style.
     static constexpr const char* kSequences[] = {"", "\x1B[1m", "\x1B[31m", "\x1B[32m"};
-    if (!screen.takesColour || ink == Ink::Plain)
+    if (!screen.hasColour || style == Style::Plain)
         return std::string(text);
-    return kSequences[static_cast<int>(ink)] + std::string(text) + "\x1B[0m";
+    return kSequences[static_cast<int>(style)] + std::string(text) + "\x1B[0m";
 }
 
-void EndWhenNobodyReads() {
+void EndOnBrokenPipe() {
 #ifndef _WIN32
     std::signal(SIGPIPE, SIG_DFL);
 #endif

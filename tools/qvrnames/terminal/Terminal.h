@@ -4,22 +4,21 @@
 #include <string>
 #include <string_view>
 
-/// What standard output leads to.
+/// The properties of the terminal, if any, to which standard output is connected.
 struct Screen {
-    std::size_t columns = 0; ///< of the terminal; 0: no terminal, or one that does not tell
-    bool takesColour = false;
+    std::size_t columns = 0; ///< of the terminal; 0 if there is no terminal or its width is unknown
+    bool hasColour = false;
 };
 
-/// The screen that standard output leads to. Colour is only for a terminal that understands it (TERM is set
-/// and not "dumb"), and for none when NO_COLOR is set and not empty.
-Screen ScreenOfStandardOutput();
+/// Returns the screen of standard output. Colour is used on a terminal that supports it (TERM is set and not "dumb"),
+/// unless NO_COLOR is set and not empty.
+[[nodiscard]] Screen StandardOutputScreen();
 
-/// What a piece of text stands out by, where colours are taken.
-enum class Ink { Plain, Heading, Refusal, Proposal };
+/// How a piece of text is emphasised.
+enum class Style { Plain, Heading, Refusal, Proposal };
 
-/// The text with the ink around it, or as it is for a screen that takes no colour.
-std::string Inked(std::string_view text, Ink ink, const Screen& screen);
+/// Returns the text between the escape sequences of the style, or the text alone if the screen has no colour.
+[[nodiscard]] std::string Styled(std::string_view text, Style style, const Screen& screen);
 
-/// Lets the program end at once and without a word when nobody reads its output any more, even when the
-/// program that started it had asked for something else.
-void EndWhenNobodyReads();
+/// Makes the program end silently when its output is a closed pipe, even if its parent process ignores SIGPIPE.
+void EndOnBrokenPipe();

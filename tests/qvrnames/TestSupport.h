@@ -11,12 +11,12 @@
 #include <vector>
 
 /// A folder for the files of one test, gone with it. Its name is one that only UTF-8 can tell.
-class Workshop {
+class TestFolder {
 public:
-    Workshop() { std::filesystem::create_directory(m_folder); }
-    Workshop(const Workshop&) = delete;
-    Workshop& operator=(const Workshop&) = delete;
-    ~Workshop() { std::filesystem::remove_all(m_folder); }
+    TestFolder() { std::filesystem::create_directory(m_folder); }
+    TestFolder(const TestFolder&) = delete;
+    TestFolder& operator=(const TestFolder&) = delete;
+    ~TestFolder() { std::filesystem::remove_all(m_folder); }
 
     std::string Path(const std::string& name) const { return Utf8::FromPath(m_folder / name); }
     std::string Write(const std::string& name, const std::string& text) const {
@@ -33,7 +33,7 @@ private:
         std::filesystem::temp_directory_path() / Utf8::ToPath("Träger-温-" + std::to_string(std::random_device{}()));
 };
 
-inline std::string TextOfFile(const std::string& path) {
+inline std::string ReadFile(const std::string& path) {
     std::ostringstream text;
     text << std::ifstream(Utf8::ToPath(path), std::ios::binary).rdbuf();
     return text.str();
@@ -42,12 +42,12 @@ inline std::string TextOfFile(const std::string& path) {
 inline std::string Example(const std::string& name) { return QVRNAMES_FOLDER "/examples/" + name; }
 
 /// What the program does with these arguments.
-struct Told {
+struct RunResult {
     int code;
     std::string out;
     std::string err;
 };
-inline Told RunWith(const std::vector<std::string>& arguments) {
+inline RunResult RunWith(const std::vector<std::string>& arguments) {
     std::vector<const char*> argv{"qvrnames"};
     for (const std::string& argument : arguments)
         argv.push_back(argument.c_str());
