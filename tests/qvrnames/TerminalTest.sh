@@ -42,7 +42,7 @@ check_terminals() {
             holds "$words prints something" [ "$(wc -l <lines.txt)" -gt 2 ]
         done
     done
-    on_terminal 400 audit "$pump" | plain >wide.txt
+    on_terminal 500 audit "$pump" | plain >wide.txt
     holds "one line a row" [ "$(wc -l <wide.txt)" = "$("$program" audit "$pump" | wc -l)" ]
     # Nothing is cut: the cells below each other are the same text as in one line.
     for arguments in "--language=en" "--language=ja"; do
