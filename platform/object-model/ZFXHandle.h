@@ -121,6 +121,18 @@ public:
     friend bool operator!=(std::nullptr_t, const ZFXHandle& b) noexcept { return b.m_face != nullptr; }
     /// @}
 
+    /// Handles have no order: the conversion to a pointer would order the addresses of interfaces, and one object may
+    /// have several.
+    /// @{
+    friend bool operator<(const ZFXHandle&, const ZFXHandle&) = delete;
+    friend bool operator<=(const ZFXHandle&, const ZFXHandle&) = delete;
+    friend bool operator>(const ZFXHandle&, const ZFXHandle&) = delete;
+    friend bool operator>=(const ZFXHandle&, const ZFXHandle&) = delete;
+#ifdef __cpp_impl_three_way_comparison
+    friend bool operator<=>(const ZFXHandle&, const ZFXHandle&) = delete;
+#endif
+    /// @}
+
 private:
     template <class Other>
     void Cast(Other* object) {

@@ -25,10 +25,14 @@ public:
     /// The first code unit of a zero-terminated UTF-8 text; U+0000 for a null or empty one.
     ZFXUnicodeChar& operator=(const char* text) noexcept;
 
-    /// Nonzero when the units are the same.
-    constexpr int operator==(const ZFXUnicodeChar& other) const noexcept { return m_unit == other.m_unit; }
-    /// The opposite.
-    constexpr int operator!=(const ZFXUnicodeChar& other) const noexcept { return m_unit != other.m_unit; }
+    /// Returns nonzero if the units are equal. Either side may be a char.
+    friend constexpr int operator==(const ZFXUnicodeChar& a, const ZFXUnicodeChar& b) noexcept {
+        return a.m_unit == b.m_unit;
+    }
+    /// Returns nonzero if the units differ. Either side may be a char.
+    friend constexpr int operator!=(const ZFXUnicodeChar& a, const ZFXUnicodeChar& b) noexcept {
+        return a.m_unit != b.m_unit;
+    }
 
     /// Nonzero for '0' to '9' and nothing else.
     constexpr int IsDigit() const noexcept { return m_unit >= u'0' && m_unit <= u'9'; }

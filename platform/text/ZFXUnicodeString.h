@@ -75,6 +75,25 @@ public:
     int operator==(const char* text) const noexcept;
     /// The opposite.
     int operator!=(const char* text) const noexcept { return !(*this == text); }
+    /// Compare a narrow text on the left by content. Without these two operators, C++17 converts the string to
+    /// const char* and compares addresses.
+    /// @{
+    friend int operator==(const char* text, const ZFXUnicodeString& string) noexcept { return string == text; }
+    friend int operator!=(const char* text, const ZFXUnicodeString& string) noexcept { return string != text; }
+    /// @}
+
+    /// Strings have no order and no truth value: the conversion to const char* would order addresses, and every string
+    /// would be true. Order strings by Units(); test for an empty one with IsNull().
+    /// @{
+    friend bool operator<(const ZFXUnicodeString&, const ZFXUnicodeString&) = delete;
+    friend bool operator<=(const ZFXUnicodeString&, const ZFXUnicodeString&) = delete;
+    friend bool operator>(const ZFXUnicodeString&, const ZFXUnicodeString&) = delete;
+    friend bool operator>=(const ZFXUnicodeString&, const ZFXUnicodeString&) = delete;
+#ifdef __cpp_impl_three_way_comparison
+    friend bool operator<=>(const ZFXUnicodeString&, const ZFXUnicodeString&) = delete;
+#endif
+    explicit operator bool() const = delete;
+    /// @}
 
     /// 2 when the texts are identical, 1 when they are equal apart from letter case (Unicode simple case
     /// folding), 0 otherwise.

@@ -1,5 +1,60 @@
 #include "Everything.h"
 
+#include <functional>
+#include <type_traits>
+
+namespace {
+
+template <class Left, class Right, class... Operators>
+constexpr bool kEvery = (std::is_invocable_v<Operators, const Left&, const Right&> && ...);
+template <class Left, class Right, class... Operators>
+constexpr bool kSome = (std::is_invocable_v<Operators, const Left&, const Right&> || ...);
+
+template <class Left, class Right>
+constexpr bool kHaveEquality = kEvery<Left, Right, std::equal_to<>, std::not_equal_to<>>&&
+    kEvery<Right, Left, std::equal_to<>, std::not_equal_to<>>;
+#ifdef __cpp_impl_three_way_comparison
+template <class Left, class Right>
+constexpr bool kHaveThreeWay = requires(const Left& left, const Right& right) {
+    left <=> right;
+};
+#else
+template <class Left, class Right>
+constexpr bool kHaveThreeWay = false;
+#endif
+template <class Left, class Right>
+constexpr bool kHaveOrder = kSome<Left, Right, std::less<>, std::less_equal<>, std::greater<>, std::greater_equal<>> ||
+                            kSome<Right, Left, std::less<>, std::less_equal<>, std::greater<>, std::greater_equal<>> ||
+                            kHaveThreeWay<Left, Right> || kHaveThreeWay<Right, Left>;
+
+/// Both orders of the operands compare for equality, and neither compares addresses for an order.
+template <class Left, class Right>
+constexpr bool kHaveOnlyEquality = kHaveEquality<Left, Right> && !kHaveOrder<Left, Right>;
+
+static_assert(kHaveOnlyEquality<ZFXUnicodeString, ZFXUnicodeString>);
+static_assert(kHaveOnlyEquality<ZFXUnicodeString, const char*>);
+static_assert(kHaveOnlyEquality<ZFXUnicodeString, char[5]>);
+static_assert(kHaveOnlyEquality<ZFXUnicodeString, std::nullptr_t>);
+static_assert(kHaveOnlyEquality<ZFXUnicodeChar, ZFXUnicodeChar>);
+static_assert(kHaveOnlyEquality<ZFXUnicodeChar, char>);
+static_assert(kHaveOnlyEquality<ZFXIAlias_var, ZFXIAlias_var>);
+static_assert(kHaveOnlyEquality<ZFXIAlias_var, ZFXBaseUnknown_var>);
+static_assert(kHaveOnlyEquality<ZFXIAlias_var, ZFXIAlias*>);
+static_assert(kHaveOnlyEquality<ZFXIAlias_var, const ZFXBaseUnknown*>);
+static_assert(kHaveOnlyEquality<ZFXIAlias_var, std::nullptr_t>);
+static_assert(!std::is_invocable_v<std::logical_not<>, const ZFXUnicodeString&>); // would compare a pointer with null
+
+/// All forms in which strings are compared with narrow text: by content, wherever it is stored.
+bool StringsCompareByContent() {
+    const ZFXUnicodeString name("Step");
+    const char equal[] = "Step";
+    const char other[] = "Stop";
+    return name == equal && equal == name && name != other && other != name && !(name != equal) && !(equal != name) &&
+           !(name == other) && !(other == name);
+}
+
+} // namespace
+
 /// All forms in which handles are compared: before C++20 none follows from another.
 int main() {
     MemoryModel model;
@@ -10,5 +65,5 @@ int main() {
     const bool same = step == root && root == step && step == raw && raw == root && none == nullptr && nullptr == none;
     const bool other = step != none && step != nullptr && nullptr != root && raw != none && none != raw;
     const bool notOther = !(step != root) && !(root != raw) && !(raw != step) && !(none != nullptr);
-    return same && other && notOther && IID_ZFXIAlias != IID_ZFXBaseUnknown ? 0 : 1;
+    return StringsCompareByContent() && same && other && notOther && IID_ZFXIAlias != IID_ZFXBaseUnknown ? 0 : 1;
 }
