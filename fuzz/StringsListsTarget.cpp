@@ -343,7 +343,7 @@ private:
         ZFXListVal<Element>& list = m_lists[at];
         std::vector<Element>& plain = m_plain[at];
         const int place = m_input.Number();
-        switch (m_input.Below(9)) {
+        switch (m_input.Below(8)) {
         case 0:
             plain.push_back(Make<Element>(m_input));
             list.Append(plain.back());
@@ -352,7 +352,7 @@ private:
             if (plain.size() >= 40)
                 break;
             plain.push_back(Holds(other, place) ? Element(At(other, place)) : Element());
-            list.Append(std::as_const(m_lists[other])[place]);
+            list.Append(m_lists[other][place]);
             break;
         case 2:
             if (Holds(at, place))
@@ -380,16 +380,9 @@ private:
             list.RemoveAll(ZFXCollec::ReleaseAllocation);
             plain.clear();
             break;
-        case 7: { // outside the list an element of nobody is written
-            const Element made = Make<Element>(m_input);
-            list[place] = made;
-            if (Holds(at, place))
-                At(at, place) = made;
-            break;
-        }
         default:
             list.Reserve(place % 1000);
-            ExpectThat(Holds(at, place) || std::as_const(list)[place] == Element{}, "outside a list there is nothing");
+            ExpectThat(Holds(at, place) || list[place] == Element{}, "outside a list there is nothing");
             break;
         }
     }

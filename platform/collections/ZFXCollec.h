@@ -1,8 +1,8 @@
 #pragma once
 
-/// What the platform's lists have in common.
+/// The scope of the enumeration that all lists use.
 class ZFXCollec {
 public:
-    /// How a list is emptied: its storage is released as well.
+    /// What happens to a list's storage when its elements are removed: it is freed.
     enum MemoryHandling { ReleaseAllocation = 1 };
 };

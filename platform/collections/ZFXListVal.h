@@ -5,61 +5,55 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <utility>
 #include <vector>
 
-/// An ordered list of values, counted from 1 to Size(). Duplicates are kept; order is insertion order. A copy
-/// holds the same elements (handles are copied, the objects behind them are not).
+/// An ordered list of values, with indexes from 1 to Size(). Elements are in the order in which they were appended, and
+/// duplicates are allowed. An element cannot be changed in place. A copy contains copies of the elements: handles are
+/// copied, the objects that they refer to are not.
 template <class Element>
 class ZFXListVal {
 public:
-    /// How many elements there are.
+    /// Returns the number of elements.
     int Size() const noexcept { return static_cast<int>(m_elements.size()); }
 
-    /// The element at index i. Outside 1 to Size() an empty element is given, so that no index is undefined.
+    /// Returns the element at index i, or an empty element if i is not in 1 to Size().
     const Element& operator[](int i) const {
-        static const Element kNone{};
-        return Holds(i) ? m_elements[Slot(i)] : kNone;
-    }
-    /// The same to be changed; what is written outside goes nowhere.
-    Element& operator[](int i) {
-        if (Holds(i))
-            return m_elements[Slot(i)];
-        m_outside = Element{};
-        return m_outside;
+        static const Element kEmpty{};
+        return IsIndex(i) ? m_elements[static_cast<std::size_t>(i - 1)] : kEmpty;
     }
 
-    /// The elements in order, for a range-for.
+    /// Returns an iterator to the first element.
     auto begin() const noexcept { return m_elements.begin(); }
-    /// Behind the last one.
+    /// Returns an iterator past the last element.
     auto end() const noexcept { return m_elements.end(); }
 
-    /// Puts a copy at the end.
+    /// Appends a copy of x.
     void Append(const Element& x) { m_elements.push_back(x); }
-    /// Puts it at the end.
+    /// Appends x.
     void Append(Element&& x) { m_elements.push_back(std::move(x)); }
 
-    /// The index of the first element equal to x at or after index `from`; 0 when there is none.
+    /// Returns the index of the first element equal to x at or after index `from`, or 0 if there is none.
     int Locate(const Element& x, int from = 1) const {
         const auto start = m_elements.begin() + (std::clamp(from, 1, Size() + 1) - 1);
         const auto found = std::find(start, m_elements.end(), x);
         return found == m_elements.end() ? 0 : static_cast<int>(found - m_elements.begin()) + 1;
     }
-    /// How many elements equal x.
+    /// Returns the number of elements equal to x.
     int NbOccur(const Element& x) const {
         return static_cast<int>(std::count(m_elements.begin(), m_elements.end(), x));
     }
-    /// Removes the element at index i; the later ones move up. Outside 1 to Size() nothing happens.
+    /// Removes the element at index i; the later elements move up by one. Does nothing if i is not in 1 to Size().
     void RemovePosition(int i) {
-        if (Holds(i))
+        if (IsIndex(i))
             m_elements.erase(m_elements.begin() + (i - 1));
     }
-    /// Empties the list.
-    void RemoveAll(ZFXCollec::MemoryHandling /*storage goes as well*/ = ZFXCollec::ReleaseAllocation) {
+    /// Removes all elements and frees the storage.
+    void RemoveAll(ZFXCollec::MemoryHandling = ZFXCollec::ReleaseAllocation) {
         std::vector<Element>().swap(m_elements);
-        m_outside = Element{};
     }
-    /// Makes room for n elements at once; for some more when there was room for some, so that a list that grows by many
-    /// such calls is not moved by each.
+    /// Reserves storage for at least n elements. The storage grows by at least half, so that many calls with a slowly
+    /// growing n do not move the elements each time.
     void Reserve(int n) {
         const auto wanted = static_cast<std::size_t>(std::max(n, 0));
         if (wanted > m_elements.capacity())
@@ -67,11 +61,9 @@ public:
     }
 
 private:
-    bool Holds(int i) const noexcept { return i >= 1 && i <= Size(); }
-    static std::size_t Slot(int i) noexcept { return static_cast<std::size_t>(i - 1); }
+    bool IsIndex(int i) const noexcept { return i >= 1 && i <= Size(); }
 
     std::vector<Element> m_elements;
-    Element m_outside{};
 };
 
 using ZFXListValZFXUnicodeString = ZFXListVal<ZFXUnicodeString>;
