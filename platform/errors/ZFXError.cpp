@@ -9,6 +9,7 @@
 #include <functional>
 #include <iostream>
 #include <optional>
+#include <string_view>
 
 namespace {
 
@@ -78,6 +79,26 @@ std::vector<ZFXUnicodeString> Collect(int count, ZFXUnicodeString* first, va_lis
     return parameters;
 }
 
+/// Returns the number of the placeholder at the start of `text`, from "/P1" to "/P9", or 0 if there is none.
+std::size_t PlaceholderNumber(std::u16string_view text) noexcept {
+    const bool isPlaceholder =
+        text.size() > 2 && text[0] == u'/' && text[1] == u'P' && text[2] >= u'1' && text[2] <= u'9';
+    return isPlaceholder ? static_cast<std::size_t>(text[2] - u'0') : 0;
+}
+
+/// Replaces placeholders by their parameters in one pass, so that a parameter may contain "/P1". A placeholder without
+/// a parameter stays.
+ZFXUnicodeString Substitute(std::u16string_view text, const std::vector<ZFXUnicodeString>& parameters) {
+    std::u16string result;
+    while (!text.empty()) {
+        const std::size_t number = PlaceholderNumber(text);
+        const bool isKnown = number > 0 && number <= parameters.size();
+        result.append(isKnown ? parameters[number - 1].Units() : text.substr(0, 1));
+        text.remove_prefix(isKnown ? 3 : 1);
+    }
+    return ZFXUnicodeString(result);
+}
+
 constexpr ZFXErrorTable kErrorTable{"ZFXError", nullptr};
 constexpr ZFXErrorTable kInputErrorTable{"ZFXInputError", &kErrorTable};
 
@@ -131,11 +152,8 @@ const char* ZFXError::GetMessageText() {
 
 ZFXUnicodeString ZFXError::Text(Section section) const {
     static constexpr const char* kKeys[] = {".Request", ".Diagnostic", ".Advice"};
-    ZFXUnicodeString text = MessageCatalog::Find(m_catalog, m_msgId + kKeys[section]).value_or(ZFXUnicodeString());
-    const std::vector<ZFXUnicodeString>& parameters = m_parameters[section];
-    for (std::size_t i = 0; i < parameters.size() && i < 9; ++i)
-        text.ReplaceAll(ZFXUnicodeString(("/P" + std::to_string(i + 1)).c_str()), parameters[i]);
-    return text;
+    const auto text = MessageCatalog::Find(m_catalog, m_msgId + kKeys[section]);
+    return text ? Substitute(text->Units(), m_parameters[section]) : ZFXUnicodeString();
 }
 
 ZFXUnicodeString ZFXError::GetNLSMessage() {

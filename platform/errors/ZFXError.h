@@ -79,14 +79,15 @@ public:
     virtual void PrintHistory(std::ostream& out) const;
     /// Throws a reference to this error, for a host that reports that way.
     [[noreturn]] virtual void Throw(const char* sourceFile, int sourceLine);
-    /// `count` addresses of strings follow or start with `first`; they are copied. They replace "/P1" to
-    /// "/P9" in all three texts, or in the one that the name tells.
+    /// Sets the parameters that replace "/P1" to "/P9" in the request, the diagnostic and the advice. A placeholder
+    /// inside a parameter is not replaced.
+    /// `count` is the number of addresses, beginning with `first`. The strings are copied; null counts as empty.
     virtual void SetNLSParameters(int count, ZFXUnicodeString* first, ...);
-    /// Those of the request alone.
+    /// Sets the parameters of the request only.
     virtual void SetNLSRequestParams(int count, ZFXUnicodeString* first, ...);
-    /// Those of the diagnostic alone.
+    /// Sets the parameters of the diagnostic only.
     virtual void SetNLSDiagnosticParams(int count, ZFXUnicodeString* first, ...);
-    /// Those of the advice alone.
+    /// Sets the parameters of the advice only.
     virtual void SetNLSAdviceParams(int count, ZFXUnicodeString* first, ...);
     /// For a host's own records.
     virtual void SetSourceContext(const ZFXUnicodeString& context);

@@ -43,7 +43,8 @@ TEST(Error, IsFoundUnderItsOwnCodeUntilManyOthersCame) {
 TEST(Error, SpeaksAsItsCatalogSays) {
     const auto folder = std::filesystem::temp_directory_path() / Utf8::ToPath("qvr-catalog-Träger");
     std::filesystem::create_directories(folder);
-    std::ofstream(folder / "Tests.msg") << "# comment\n\nId.Diagnostic = Bad: /P1, /P2 \r\nId.Advice=Mend = it\n";
+    std::ofstream(folder / "Tests.msg") << "# comment\n\nId.Diagnostic = Bad: /P1, /P2 \r\nId.Advice=Mend = it\n"
+                                        << "Once.Diagnostic = /P1 /P2 /P1 /P3 /P //P2\n";
     std::ofstream(folder / "Tests_xy.msg") << "Id.Diagnostic = /P2, /P1: böse\n";
     MessageCatalog::SetFolder(Utf8::FromPath(folder));
     auto* error = new ZFXInputError("Id", "Tests");
@@ -69,6 +70,12 @@ TEST(Error, SpeaksAsItsCatalogSays) {
         EXPECT_EQ(MessageCatalog::SetLanguage(language), language != "zz") << language;
         EXPECT_EQ(Text(error->GetNLSMessage()), "Bad: ä, b Mend = it") << language;
     }
+    auto* once = new ZFXInputError("Once", "Tests");
+    a = "x/P2y";
+    b = "/P1";
+    once->SetNLSParameters(2, &a, &b); // placeholders inside a parameter and those without a parameter stay
+    EXPECT_EQ(Text(once->GetNLSDiagnostic()), "x/P2y /P1 x/P2y /P3 /P //P1");
+    once->Release();
     EXPECT_EQ(MessageCatalog::Languages(), (std::vector<std::string>{"en", "xy"}));
     error->Release();
     std::filesystem::remove_all(folder);
