@@ -1,12 +1,12 @@
 #pragma once
 
-/// A result code: negative is failure, zero or positive is success; callers test the sign only.
-/// 32 bits on every platform, so that 0x80004005 is negative also where `long` holds 64.
+/// A result code: negative is failure, zero or positive is success; callers test the sign only. It has 32 bits on every
+/// platform: 0x80004005 would be positive in a `long` of 64 bits.
 #ifdef _WIN32
 
-#include <winerror.h> // the codes
+#include <winerror.h> // defines the codes
 
-using HRESULT = long; // as the system's headers have it: before or after this one they say the same again
+using HRESULT = long; // repeats the system's declaration, whichever header comes first
 using ULONG = unsigned long;
 
 #else
@@ -14,23 +14,23 @@ using ULONG = unsigned long;
 #include <cstdint>
 
 using HRESULT = std::int32_t;
-/// A count, such as of references.
+/// A count, such as a number of references.
 using ULONG = std::uint32_t;
 
 /// Success.
 inline constexpr HRESULT S_OK = 0;
-/// A plain failure, without a registered error.
+/// Failure without a registered error.
 inline constexpr HRESULT E_FAIL = static_cast<HRESULT>(0x80004005U);
-/// The operation is not offered.
+/// The operation is not implemented.
 inline constexpr HRESULT E_NOTIMPL = static_cast<HRESULT>(0x80004001U);
 /// The object does not offer the interface.
 inline constexpr HRESULT E_NOINTERFACE = static_cast<HRESULT>(0x80004002U);
-/// Null where a result goes.
+/// An argument that receives a result is a null pointer.
 inline constexpr HRESULT E_POINTER = static_cast<HRESULT>(0x80004003U);
-/// What the in-memory model answers to a request that it was told to fail, unless told otherwise.
+/// A request failed for a reason that no other code describes.
 inline constexpr HRESULT E_UNEXPECTED = static_cast<HRESULT>(0x8000FFFFU);
 
 #endif
 
-/// Whether the code is one of a failure.
+/// Returns true if the code means failure.
 constexpr bool Failed(HRESULT code) noexcept { return code < 0; }
