@@ -1,6 +1,6 @@
 #include "errors/MessageCatalog.h"
 
-#include "base/ZFXSharedLibrary.h"
+#include "base/ZFXLibraryFile.h"
 #include "text/Utf8Path.h"
 
 #include <algorithm>
@@ -19,7 +19,7 @@ constexpr const char* kEnding = ".msg";
 using Texts = std::map<std::string, ZFXUnicodeString, std::less<>>;
 
 std::filesystem::path FolderBesideThisLibrary() {
-    const auto library = ZFXSharedLibrary::FileAt(reinterpret_cast<const void*>(&Find));
+    const auto library = ZFXLibraryFileAt(reinterpret_cast<const void*>(&Find));
     if (library.empty())
         return "msgcatalog";
     std::error_code ignored; // without a current folder the path stays as it is

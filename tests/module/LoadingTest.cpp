@@ -1,6 +1,6 @@
-#include "base/ZFXSharedLibrary.h"
 #include "memory-model/MemoryModel.h"
 #include "object-model/ZFXMetaClass.h"
+#include "support/LoadedLibrary.h"
 #include "support/Said.h"
 
 #include <gtest/gtest.h>
@@ -19,15 +19,15 @@ TEST(Loading, TheModuleAnnouncesItselfAndLeavesNothingBehind) {
     EXPECT_EQ(Renamed(), "1.0");
     for (int i = 0; i < 10; ++i) {
         {
-            const ZFXSharedLibrary module(MODULE_FILE);
+            const LoadedLibrary module(MODULE_FILE);
             ASSERT_TRUE(module.IsLoaded());
-            auto* marker = reinterpret_cast<int (*)()>(module.Find("HALVERN_WORKS_UXM2_INTERNAL_QVRNameUtility"));
+            auto* marker = module.Find<int()>("HALVERN_WORKS_UXM2_INTERNAL_QVRNameUtility");
             ASSERT_NE(marker, nullptr);
             EXPECT_EQ(marker(), 1);
             EXPECT_EQ(fct_FindMetaObject("QVREFeatureAlias")->CountAdaptorFactories(), 1);
             EXPECT_EQ(Renamed(), "Step-1");
         }
-        EXPECT_FALSE(ZFXSharedLibrary::IsInProcess(MODULE_FILE)) << "the module stayed";
+        EXPECT_FALSE(LoadedLibrary::IsInProcess(MODULE_FILE)) << "the module stayed";
         EXPECT_EQ(fct_FindMetaObject("QVREFeatureAlias")->CountAdaptorFactories(), 0);
         EXPECT_EQ(Renamed(), "1.0");
     }

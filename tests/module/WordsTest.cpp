@@ -1,4 +1,4 @@
-#include "base/ZFXSharedLibrary.h"
+#include "support/LoadedLibrary.h"
 
 #include <gtest/gtest.h>
 
@@ -42,7 +42,7 @@ TEST(Words, AreBuiltInOrderAndDestroyedInReverse) {
 #include "Vocabulary.def"
 #undef NAMED_WORD
     isWatching = true;
-    std::optional<ZFXSharedLibrary> module(std::in_place, MODULE_FILE);
+    std::optional<LoadedLibrary> module(std::in_place, MODULE_FILE);
     const auto atUnload = static_cast<std::ptrdiff_t>(blocks.size());
     module.reset();
     isWatching = false;
