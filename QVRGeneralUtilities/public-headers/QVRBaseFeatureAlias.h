@@ -17,9 +17,9 @@ public:
     ZFXUnicodeString GetAlias() noexcept;
     /// Changes the alias if the new one passes the name rules.
     ///
-    /// Reads the former alias, removes spaces and then underscores at both ends of `alias`, stores the result and checks
-    /// it. Stores it again if the check passes, otherwise stores the former alias. No request is repeated: a host whose
-    /// request fails gets the result of the remaining steps. The check is
+    /// Reads the former alias, removes spaces and then underscores at both ends of `alias`, stores the result and
+    /// checks it. Stores it again if the check passes, otherwise stores the former alias. No request is repeated: a
+    /// host whose request fails gets the result of the remaining steps. The check is
     /// - QVRNameUtil::IsNameUniqueAcrossCases for the late type "QVRJobLT";
     /// - QVRNameUtil::CheckName without the test of the first character for "QVRShellSectionEnhLT";
     /// - QVRNameUtil::CheckName for every other late type.
