@@ -89,6 +89,23 @@ TEST_F(IdentityTest, EveryFaceOfAnObjectIsTheObject) {
     EXPECT_EQ(byName, nullptr);
 }
 
+TEST(Root, OffersItselfAndNoAutomation) {
+    ZFXBaseUnknown object;
+    void* face = &object;
+    EXPECT_EQ(object.QueryInterface(IID_ZFXIAlias, &face), E_NOINTERFACE);
+    EXPECT_EQ(face, nullptr);
+    EXPECT_EQ(object.QueryInterface(IID_ZFXBaseUnknown, &face), S_OK);
+    EXPECT_EQ(face, &object);
+    EXPECT_EQ(object.AddRef(), 3U);
+    EXPECT_EQ(object.Release(), 2U);
+    EXPECT_EQ(object.QueryInterface(IID_ZFXBaseUnknown, nullptr), E_POINTER);
+    EXPECT_EQ(object.QueryInterface("ZFXIAlias", nullptr), E_POINTER);
+    EXPECT_EQ(object.GetTypeInfoCount(nullptr), E_POINTER);
+    EXPECT_EQ(object.GetTypeInfo(0, 0, nullptr), E_NOTIMPL);
+    EXPECT_EQ(object.GetIDsOfNames(IID_ZFXIAlias, nullptr, 0, 0, nullptr), E_NOTIMPL);
+    EXPECT_EQ(object.Invoke(0, IID_ZFXIAlias, 0, 0, nullptr, nullptr, nullptr, nullptr), E_NOTIMPL);
+}
+
 TEST(MetaClass, IsOneForAName) {
     ZFXMetaClass* unknown = fct_FindMetaObject("A type that nobody declared yet");
     ASSERT_NE(unknown, nullptr);
@@ -105,6 +122,10 @@ TEST(MetaClass, IsOneForAName) {
     EXPECT_FALSE(extension->IsExtensionOf(unknown));
     EXPECT_TRUE(extension->IsAKindOf("ZFXBaseUnknown") && !extension->IsAKindOf("ZFXIAlias"));
     EXPECT_FALSE(extension->GetClassId() == unknown->GetClassId());
+    EXPECT_EQ(ZFXIAlias::MetaObject()->GetClassId(), IID_ZFXIAlias);
+    EXPECT_EQ(ZFXIAlias::MetaObject()->GetTypeOfClass(), ENUMTypeOfClass::Interface);
+    EXPECT_EQ(ZFXBaseUnknown::MetaObject()->GetTypeOfClass(), ENUMTypeOfClass::Implementation);
+    EXPECT_EQ(fct_FindMetaObject(nullptr), nullptr);
 }
 
 } // namespace

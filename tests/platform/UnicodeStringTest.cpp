@@ -40,6 +40,7 @@ TEST(UnicodeString, NarrowTextIsUtf8BothWays) {
         {"\xC3", 1, "\xEF\xBF\xBD"},                                                 // cut short
         {"\xED\xA0\x80", 3, "\xEF\xBF\xBD\xEF\xBF\xBD\xEF\xBF\xBD"},                 // a surrogate in three bytes
         {"\xC0\xAF", 2, "\xEF\xBF\xBD\xEF\xBF\xBD"},                                 // more bytes than needed
+        {"\xF1\x80\x80\x80", 2, "\xF1\x80\x80\x80"},                                 // U+40000
         {"\xF4\x90\x80\x80", 4, "\xEF\xBF\xBD\xEF\xBF\xBD\xEF\xBF\xBD\xEF\xBF\xBD"}, // above U+10FFFF
     };
     for (const auto& [in, length, out] : rows) {
@@ -59,6 +60,22 @@ TEST(UnicodeString, NarrowTextIsUtf8BothWays) {
     half.Append("c"); // the narrow form follows the text
     EXPECT_STREQ(half, "a\xEF\xBF\xBD"
                        "bc");
+    for (void (String::*change)() : {&String::ToUpper, &String::ToLower}) {
+        String text("aA");
+        text.ConvertToChar();
+        (text.*change)();
+        EXPECT_EQ(text, text.ConvertToChar());
+    }
+    String moved("long before");
+    moved.ConvertToChar();
+    String source("new");
+    source.ConvertToChar();
+    moved = std::move(source);
+    EXPECT_STREQ(moved, "new");
+    EXPECT_STREQ(source, ""); // NOLINT(bugprone-use-after-move): a moved-from string is empty
+    String& self = moved;
+    moved = std::move(self);
+    EXPECT_STREQ(moved, "new");
 }
 
 TEST(UnicodeString, CompareTellsIdenticalFromEqualApartFromCase) {
@@ -69,7 +86,9 @@ TEST(UnicodeString, CompareTellsIdenticalFromEqualApartFromCase) {
         {"ß", "ẞ", 1}, {"ss", "ß", 0},
         {"\u212A", "k", 1}, // Kelvin sign
         {"ſ", "S", 1},      // long s
-        {"𐐀x", "𐐨X", 1}, {"𐐀", "𐐩", 0}, {"İ", "i", 0}, {"日", "日", 2},
+        {"𐐀x", "𐐨X", 1}, {"𐐀", "𐐩", 0}, {"𐐧", "𐑏", 1}, {"𐐧x", "𐑐x", 0}, {"İ", "i", 0}, {"日", "日", 2},
+        {"\xF1\x80\x80\x80", "\xF1\x80\x80\x81", 0},
+        {"Bolt load at flange", "Bolt lead at flange", 0}, {"Bolt Load at flange", "Bolt lead at flange", 0},
         {"Load-001", "LOAD-001", 1}, {"Load-001", "Load-002", 0}, {"Load[001", "Load{001", 0}, // eight are read at a time
     };
     // clang-format on
@@ -105,7 +124,7 @@ TEST(UnicodeString, SearchesStripsAndCuts) {
 
     const std::tuple<int, int, const char*, const char*> rows[] = {
         {1, 2, "bc", "ad"}, {0, -1, "abcd", ""}, {2, -1, "cd", "ab"}, {2, 99, "cd", "ab"},
-        {9, 1, "", "abcd"}, {-5, 1, "a", "bcd"}, {4, 0, "", "abcd"},
+        {9, 1, "", "abcd"}, {-5, 1, "a", "bcd"}, {4, 0, "", "abcd"},  {1, 0, "", "abcd"},
     };
     for (const auto& [start, length, sub, removed] : rows) {
         String text("abcd");
@@ -141,6 +160,9 @@ TEST(UnicodeString, ReplacesAlsoWithItself) {
         EXPECT_EQ(Text(all), expectedAll) << text;
         EXPECT_EQ(Text(first), expectedFirst) << text;
     }
+    String inserted("ac");
+    inserted.ReplaceSubString(1, 0, "b");
+    EXPECT_EQ(Text(inserted), "abc");
     for (String text : {String("ab"), kLong}) {
         const String copy(text);
         text.Append(text).Append("|");
@@ -189,11 +211,11 @@ TEST(UnicodeString, ReadsAndWritesDecimalNumbers) {
 }
 
 TEST(UnicodeString, ChangesLettersOfAllScripts) {
-    String text("aZ é ß ÿ ǆ 𐐨 日 ω");
+    String text("aZ é ß ÿ ǆ 𐐨𐑏𐑐 日 ω");
     text.ToUpper();
-    EXPECT_EQ(Text(text), "AZ É ß Ÿ Ǆ 𐐀 日 Ω");
+    EXPECT_EQ(Text(text), "AZ É ß Ÿ Ǆ 𐐀𐐧𐑐 日 Ω");
     text.ToLower();
-    EXPECT_EQ(Text(text), "az é ß ÿ ǆ 𐐨 日 ω");
+    EXPECT_EQ(Text(text), "az é ß ÿ ǆ 𐐨𐑏𐑐 日 ω");
 }
 
 TEST(UnicodeChar, KnowsDigitsAndWhiteSpace) {
