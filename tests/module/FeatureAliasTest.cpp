@@ -17,57 +17,6 @@ public:
     const ZFXBaseUnknown* last = nullptr;
 };
 
-/// A feature in no document. It lists the requests for its name and its late type.
-class RecordingFeature final : public ZFXBaseUnknown {
-public:
-    RecordingFeature() {
-        m_feature.SetImpl(this);
-        m_attributes.SetImpl(this);
-    }
-    using ZFXBaseUnknown::QueryInterface;
-    HRESULT QueryInterface(const IID& iid, void** face) override {
-        if (iid != IID_ZFXISpecObject && iid != IID_ZFXISpecAttrAccess)
-            return ZFXBaseUnknown::QueryInterface(iid, face);
-        AddRef();
-        *face = iid == IID_ZFXISpecObject ? static_cast<ZFXBaseUnknown*>(&m_feature) : &m_attributes;
-        return S_OK;
-    }
-
-    const char* lateType = nullptr;
-    ZFXUnicodeString name;
-    std::string requests;
-
-private:
-    template <class Interface>
-    struct Face : Interface {
-        ULONG AddRef() final { return Node().AddRef(); }
-        ULONG Release() final { return Node().Release(); }
-        RecordingFeature& Node() { return static_cast<RecordingFeature&>(*this->Implementation()); }
-    };
-    struct Feature final : Face<ZFXISpecObject> {
-        ZFXUnicodeString GetLateType() override {
-            Node().requests += "late type; ";
-            return Node().lateType;
-        }
-        ZFXBaseUnknown* GetFather() override { return nullptr; }
-        ZFXListValZFXISpecAttribute_var* ListPointingAttributes(const char*, const ZFXUnicodeString&,
-                                                                const ZFXUnicodeString&) override {
-            return nullptr;
-        }
-    } m_feature;
-    struct Attributes final : Face<ZFXISpecAttrAccess> {
-        ZFXISpecAttrKey* GetAttrKey(const char*) override { return new ZFXISpecAttrKey; }
-        void SetString(ZFXISpecAttrKey*, const ZFXUnicodeString& value, int) override {
-            Node().requests += "store " + Text(value) + "; ";
-            Node().name = value;
-        }
-        ZFXUnicodeString GetString(ZFXISpecAttrKey*, int) override {
-            Node().requests += "read; ";
-            return Node().name;
-        }
-    } m_attributes;
-};
-
 class FeatureAliasTest : public DocumentTest {
 protected:
     MemoryFeature analysisCase = document.Case("Static");
@@ -111,14 +60,20 @@ TEST_F(FeatureAliasTest, JobsAndShellSectionsHaveRulesOfTheirOwn) {
 }
 
 TEST_F(FeatureAliasTest, SetterReadsOnceAndStoresTwice) {
-    for (const auto& [lateType, stored] : {std::pair("QVRJobLT", "Step-2"), std::pair("QVRLayupLT", "")}) {
-        RecordingFeature feature;
-        feature.lateType = lateType; // A job in no set is accepted. A layup without ZFXIAlias is refused.
-        QVREFeatureAlias extension;
-        extension.SetImpl(&feature);
-        const std::string console = Console([&] { extension.SetAlias(" Step-2_"); });
-        EXPECT_EQ(feature.requests, std::string("read; store Step-2; late type; store ") + stored + "; ");
-        EXPECT_EQ(console.empty(), *stored != '\0');
+    MemoryFeature job = analysisCase.Job("");
+    MemoryFeature layup = document.PropertySet().Feature("QVRLayupLT", "");
+    const std::pair<MemoryRequest, long> firstUnexpected[] = {
+        {MemoryRequest::GetString, 2}, {MemoryRequest::SetString, 3}, {MemoryRequest::GetLateType, 2}};
+    for (const auto& [request, number] : firstUnexpected) {
+        model.AnswerOnce(request, number);
+        EXPECT_EQ(Rename(job, "Job-2"), "Job-2|");
+        EXPECT_STREQ(model.LastTold(), "") << "a renaming that is accepted";
+        model.Heal();
+        model.AnswerOnce(request, number);
+        EXPECT_EQ(Rename(layup, "1.st"), "|NAME ERROR");
+        EXPECT_STREQ(model.LastTold(), "") << "a renaming that is refused";
+        model.Heal();
+        job.Alias("");
     }
 }
 

@@ -43,15 +43,4 @@ TEST_F(StepMembershipTest, PropagatedFeaturesAreLeftOutExceptInitialTemperatures
     EXPECT_EQ(Propose(), "9"); // a feature without the interface cannot be propagated
 }
 
-TEST_F(StepMembershipTest, MembersCountInEverySetOfTheTypeWhateverTheCodes) {
-    later.Feature("QVRPressure", "2");
-    MemoryFeature second = analysisCase.Step("T", "Step-3").Set("QVRLoadContainerLT");
-    second.Feature("QVRPressure", "5");
-    EXPECT_EQ(Propose(), "6");
-    second.Answer(MemoryRequest::ListMembers, kFailsFilled);
-    EXPECT_EQ(Propose(), "6");
-    second.Answer(MemoryRequest::ListMembers, kFails).Without(IID_ZFXISamAnalysisSet);
-    EXPECT_EQ(Propose(), "3");
-}
-
 } // namespace
