@@ -1,9 +1,9 @@
 #!/usr/bin/env bash
 # bare-package.sh FOLDER DEB README, as root
 #
-# Installs the package with what it depends on in a bare Debian 12, uses the command-line host there, and builds the
-# README's program against the package, found once by CMake and once by pkg-config: it must print what the README says.
-# The bare system and the packages that were fetched stay in FOLDER for the next run.
+# Installs the package and its dependencies in a bare Debian 12, runs the command-line host there, and builds the
+# README's program against the package, once with CMake and once with pkg-config. The program's output must equal the
+# block in the README. The bare system and the downloaded packages remain in FOLDER for the next run.
 set -Eeuo pipefail
 
 mkdir -p "$1"
@@ -17,8 +17,8 @@ trap 'echo "error: line $LINENO: $BASH_COMMAND" >&2' ERR
 
 step() { printf -- '---- %s\n' "$*"; }
 
-# Where this machine gets its Debian packages: lines as in sources.list.
-# shellcheck disable=SC2016  # apt-get fills them in
+# Prints the Debian mirrors of this machine as lines of sources.list.
+# shellcheck disable=SC2016  # apt-get replaces the fields
 sources() {
     apt-get indextargets --format 'deb $(SITE) $(RELEASE) $(COMPONENT)' 'Created-By: Packages' 'Origin: Debian' | sort -u
 }
@@ -32,20 +32,20 @@ apt_inside() {
     cp -rn "$root/var/cache/apt/archives/." "$folder/archives/"
 }
 
-# The README's first block of code in a language.
+# Prints the README's first code block in a language.
 readme_block() {
     awk -v open="\`\`\`$1" '$0 == open { inside = 1; next } inside && /^```/ { exit } inside' "$readme"
 }
 
-# expect FILE COMMAND...: a command prints there what the file holds.
+# expect FILE COMMAND...: fails if the output of the command in the bare system differs from the file.
 expect() {
-    local promised=$1
+    local expected=$1
     shift
-    diff -u "$promised" <(inside "$@")
+    diff -u "$expected" <(inside "$@")
 }
 
 if [ ! -e "$bare.done" ]; then
-    step "a bare Debian 12 from the mirror of this machine"
+    step "create a bare Debian 12"
     rm -rf "$bare"
     mirror=$(sources | awk '$3 == "bookworm" { print $2; exit }')
     debootstrap --variant=minbase bookworm "$bare" "$mirror"
@@ -53,18 +53,18 @@ if [ ! -e "$bare.done" ]; then
 fi
 rm -rf "$root"
 cp -a "$bare" "$root"
-# The mirrors of this machine, and the way to them.
+# The bare system uses the mirrors, the name servers and the apt settings of this machine.
 cp /etc/resolv.conf /etc/hosts "$root/etc/"
 sources >"$root/etc/apt/sources.list"
 apt-config dump Acquire >"$root/etc/apt/apt.conf.d/50machine"
 
-step "install the package with what it depends on"
+step "install the package and its dependencies"
 apt_inside update
 cp "$deb" "$root/tmp/package.deb"
 apt_inside install --no-install-recommends /tmp/package.deb
-readme_block text >"$folder/promised.txt"
+readme_block text >"$folder/expected.txt"
 
-step "use the command-line host"
+step "run the command-line host"
 inside qvrnames --version
 inside qvrnames check Step-1
 outcome=0
@@ -74,20 +74,20 @@ outcome=0
 inside qvrnames audit /usr/share/QVRGeneralUtilities/examples/pump-flange-bracket.json >"$folder/audit.txt" || outcome=$?
 tail -n 1 "$folder/audit.txt"
 [ "$outcome" = 1 ]
-# Texts come from the catalog: it was found.
+# The text shows that the library found its message catalog.
 grep -q 'LeadingDigitERR_01 *The name begins with a digit' "$folder/audit.txt"
 
-step "build against the package"
+step "build a program with the package"
 apt_inside install --no-install-recommends g++ cmake make pkgconf
 mkdir -p "$root/tmp/consumer"
 readme_block cpp >"$root/tmp/consumer/main.cpp"
 cp "$here/consumer/CMakeLists.txt" "$root/tmp/consumer/"
 inside cmake -S /tmp/consumer -B /tmp/consumer/build
 inside cmake --build /tmp/consumer/build
-expect "$folder/promised.txt" /tmp/consumer/build/consumer
-# shellcheck disable=SC2016  # for the inner shell
+expect "$folder/expected.txt" /tmp/consumer/build/consumer
+# shellcheck disable=SC2016  # the inner shell expands it
 inside sh -ec 'g++ -std=c++17 /tmp/consumer/main.cpp -o /tmp/by-pkg-config $(pkg-config --cflags --libs QVRNameUtility ZFXMemoryModel)'
-expect "$folder/promised.txt" /tmp/by-pkg-config
+expect "$folder/expected.txt" /tmp/by-pkg-config
 
 rm -rf "$root"
-echo "in a bare Debian 12: installed, $(tail -n 1 "$folder/audit.txt"); README's program built and run with CMake and with pkg-config"
+echo "in a bare Debian 12: installed, $(tail -n 1 "$folder/audit.txt"); README's program built with CMake and with pkg-config, and run"
