@@ -39,8 +39,8 @@ struct Kept {
 ///
 /// The initial-exec model reads it without a function call. A host that loads the library late with dlopen must have
 /// room for all thread-local data of the library, 408 bytes, in the loader's static block. glibc 2.36 reserves about
-/// 1700 bytes there for such libraries. If other libraries use up that reserve, dlopen reports the failure, and the host
-/// either links the library or raises the tunable glibc.rtld.optional_static_tls.
+/// 1700 bytes there for such libraries. If other libraries use up that reserve, dlopen reports the failure, and the
+/// host either links the library or raises the tunable glibc.rtld.optional_static_tls.
 __attribute__((tls_model("initial-exec"))) constinit thread_local Kept kept{};
 
 /// Frees the kept blocks when the thread ends.
