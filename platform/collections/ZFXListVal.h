@@ -23,10 +23,16 @@ public:
         return IsIndex(i) ? m_elements[static_cast<std::size_t>(i - 1)] : kEmpty;
     }
 
-    /// Returns an iterator to the first element.
+    /// Returns an iterator to the first element. Elements can be moved out of a list through it.
+    /// @{
     auto begin() const noexcept { return m_elements.begin(); }
+    auto begin() noexcept { return m_elements.begin(); }
+    /// @}
     /// Returns an iterator past the last element.
+    /// @{
     auto end() const noexcept { return m_elements.end(); }
+    auto end() noexcept { return m_elements.end(); }
+    /// @}
 
     /// Appends a copy of x.
     void Append(const Element& x) { m_elements.push_back(x); }

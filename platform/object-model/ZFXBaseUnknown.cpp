@@ -28,7 +28,7 @@ union Header {
 };
 static_assert(sizeof(Header) <= kGrain);
 
-/// Zero from the start and never destroyed, so that it is read without asking whether it is there yet.
+/// Zero-initialized and never destroyed, so that it is read without a check whether it is constructed.
 struct Kept {
     Header* first[kSizes];
     int count[kSizes];
@@ -36,11 +36,11 @@ struct Kept {
     bool isWatched; // its blocks are freed when the thread ends
     bool hasEnded;  // objects may outlive that
 };
-///
-/// The initial-exec model reads it without a function call. A host that loads the library late with dlopen must have
-/// room for all thread-local data of the library, 408 bytes, in the loader's static block. glibc 2.36 reserves about
-/// 1700 bytes there for such libraries. If other libraries use up that reserve, dlopen reports the failure, and the
-/// host either links the library or raises the tunable glibc.rtld.optional_static_tls.
+
+/// The blocks of this thread. The initial-exec model reads them without a function call. A host that loads the library
+/// late with dlopen must have room for all thread-local data of the library, 408 bytes, in the loader's static block.
+/// glibc 2.36 reserves about 1700 bytes there for such libraries. If other libraries use up that reserve, dlopen
+/// reports the failure, and the host either links the library or raises the tunable glibc.rtld.optional_static_tls.
 __attribute__((tls_model("initial-exec"))) constinit thread_local Kept kept{};
 
 /// Frees the kept blocks when the thread ends.

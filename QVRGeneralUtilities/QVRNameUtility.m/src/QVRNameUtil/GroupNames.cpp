@@ -17,8 +17,9 @@ HRESULT QVRNameUtil::GetSupportGroupName(ZFXISpecObject_var& support, ZFXUnicode
     return GetSupportGroupName(connectors, groupName);
 }
 
-HRESULT QVRNameUtil::GetSupportGroupName(ZFXListValZFXBaseUnknown_var connectors,
-                                         ZFXUnicodeString& groupName) noexcept {
+HRESULT QVRNameUtil::GetSupportGroupName(
+    ZFXListValZFXBaseUnknown_var connectors, // NOLINT(performance-unnecessary-value-param): callers know it by value
+    ZFXUnicodeString& groupName) noexcept {
     groupName = "";
     const ZFXISamAnalysisConnector_var connector(connectors.Size() == 1 ? connectors[1] : ZFXBaseUnknown_var());
     if (connector == nullptr)

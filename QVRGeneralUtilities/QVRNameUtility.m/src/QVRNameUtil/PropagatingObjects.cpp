@@ -27,9 +27,9 @@ HRESULT QVRNameUtil::GetAllPropagatingObjects(ZFXISamAnalysisCase_var& analysisC
         code = GetObjectsInStep(step, inStep, object);
         if (Failed(code))
             continue; // this step gives nothing; the code of the last one is the answer
-        for (int i = 1; i <= inStep.Size(); ++i)
-            if (ZFXIdentityOf(inStep[i]) != self)
-                objects.Append(std::move(inStep[i]));
+        for (ZFXBaseUnknown_var& found : inStep)
+            if (ZFXIdentityOf(found) != self)
+                objects.Append(std::move(found));
     }
     return code;
 }

@@ -56,9 +56,9 @@ HRESULT QVRNameUtil::GetObjectsInStep(ZFXISpecObject_var& step, ZFXListValZFXBas
         ZFXListValZFXISpecObject_var members;
         set->ListMembers(members, CLSID_ZFXBaseUnknown,
                          kMemberFlag); // what the list holds counts, not the code
-        for (int m = 1; m <= members.Size(); ++m)
-            if (!IsPropagated(members[m]))
-                objects.Append(std::move(members[m]));
+        for (ZFXISpecObject_var& member : members)
+            if (!IsPropagated(member))
+                objects.Append(std::move(member));
         code = S_OK;
     }
     return code;

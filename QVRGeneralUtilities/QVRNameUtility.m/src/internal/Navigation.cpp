@@ -56,8 +56,8 @@ HRESULT AppendMembers(const ZFXISamAnalysisSet_var& set, ZFXListValZFXBaseUnknow
     ZFXListValZFXISpecObject_var members;
     const HRESULT code = set->ListMembers(members, CLSID_ZFXBaseUnknown, kMemberFlag);
     scope.Reserve(scope.Size() + members.Size());
-    for (int i = 1; i <= members.Size(); ++i)
-        scope.Append(std::move(members[i]));
+    for (ZFXISpecObject_var& member : members)
+        scope.Append(std::move(member));
     return code;
 }
 
