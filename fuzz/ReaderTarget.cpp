@@ -1,4 +1,4 @@
-// Any bytes are a document or one clear error; what was read can be judged, and nothing of it is left behind.
+// Any bytes are either a document, whose names can be checked without leaving references behind, or one clear error.
 
 #include "ExitCode.h"
 #include "Operations.h"
@@ -8,16 +8,16 @@
 
 namespace {
 
-/// Bytes that describe no document are told in one line that says where and what.
+/// Checks that an error is one line with a message.
 void ExpectClear(const std::string& message) {
-    ExpectThat(message.size() > 10, "an error says what is wrong");
+    ExpectThat(message.size() > 10, "an error has a message");
     ExpectThat(message.find('\n') == std::string::npos, "an error is one line");
 }
 
-void JudgeAll(LoadedDocument& loaded) {
+void CheckAll(LoadedDocument& loaded) {
     for (std::size_t i = 0; i < loaded.entries.size(); ++i) {
         const DocumentEntry& entry = loaded.entries[i];
-        ExpectThat(i == 0 || entry.parent < i, "a parent stands before what lies below it");
+        ExpectThat(i == 0 || entry.parent < i, "a parent comes before the objects below it");
         ZFXISpecObject_var feature(entry.feature);
         ZFXUnicodeString name;
         QVRNameUtil::CheckName(feature, name, 1);
@@ -34,7 +34,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t cou
     CountOperations(1);
     try {
         LoadedDocument loaded(std::string(reinterpret_cast<const char*>(bytes), count));
-        JudgeAll(loaded);
+        CheckAll(loaded);
     } catch (const BadInput& refused) {
         ExpectClear(refused.what());
     }

@@ -68,7 +68,7 @@ TEST_P(TranscriptTest, IsPrintedAgain) {
 INSTANTIATE_TEST_SUITE_P(Each, TranscriptTest, ::testing::Values("audit", "check", "deck", "help", "propose", "usage"),
                          [](const auto& transcript) { return std::string(transcript.param); });
 
-TEST(Commands, EndWithTwoForFilesThatCannotBeUsed) {
+TEST(Commands, ReturnTwoForUnusableFiles) {
     const TestFolder folder;
     const std::string empty = folder.Write("empty.json", "");
     const std::string large = folder.Write("large.json", "");
@@ -79,7 +79,7 @@ TEST(Commands, EndWithTwoForFilesThatCannotBeUsed) {
         std::vector<std::string> arguments;
         std::string expected;
     } rows[] = {
-        {{"check", "\xFF"}, "an argument is no UTF-8 text"},
+        {{"check", "\xFF"}, "an argument is not UTF-8"},
         {{"audit", "/no/such.json"}, "/no/such.json: cannot be read: No such file or directory"},
         {{"audit", folderPath}, folderPath + ": cannot be read: Is a directory"},
         {{"audit", empty}, empty + ": the file is empty"},

@@ -6,7 +6,7 @@
 
 namespace {
 
-TEST(FeaturePaths, FindOneFeatureByIdPointerOrPath) {
+TEST(FeaturePaths, FindFeatureByIdPointerOrPath) {
     const LoadedDocument loaded(R"({
         "propertySet": {"features": [{"type": "A", "name": "Step-1"}]},
         "cases": [
@@ -21,22 +21,23 @@ TEST(FeaturePaths, FindOneFeatureByIdPointerOrPath) {
         const char* expected;
     } rows[] = {
         {"new", "/cases/0/steps/0/sets/0/features/1"},
-        {"Pressure-1", "/cases/0/steps/1"}, // an id comes before a path
+        {"Pressure-1", "/cases/0/steps/1"}, // an id has priority over a path
         {"Step-1/Pressure-1", "/cases/0/steps/0/sets/0/features/0"},
         {"/cases/0/steps/0/sets/0", "/cases/0/steps/0/sets/0"},
         {"圧力/2", "/cases/0/steps/0/sets/0/features/2"},
-        {"Step-1", "/propertySet/features/0"}, // a whole path comes before the end of one
+        {"Step-1", "/propertySet/features/0"}, // a full path has priority over the end of a path
         {"Static/Step-1", "/cases/0/steps/0"},
         {"Load", "/cases/1/steps/0"},
-        {"Static", "may be each of these features; tell one by its id, its whole path or its JSON pointer:\n"
+        {"Static", "matches several features; specify one by its id, its full path or its JSON pointer:\n"
                    "  Static  (/cases/0)\n  Static  (/cases/1)"},
         {"rpessure-1", "did you mean:\n  Static/Step-1/Pressure-1  (/cases/0/steps/0/sets/0/features/0)"},
         {"Statik/step-2", "did you mean:\n  Static/Step-2  (/cases/0/steps/1)\n  Static/Step-1  (/cases/0/steps/0)"},
         {"Step-1/", "did you mean:\n  Step-1  (/propertySet/features/0)"},
         {"nwe", "did you mean:\n  /cases/0/steps/0/sets/0/features/1"},
-        {"", "there are:"},
-        {"/cases/1/steps/7", "leads to no object of the document; near it are:\n  Static/Load  (/cases/1/steps/0)"},
-        {"/cases/0/name", "leads to no object of the document; near it are:"},
+        {"", "available features:"},
+        {"/cases/1/steps/7",
+         "does not lead to an object of the document; nearby objects:\n  Static/Load  (/cases/1/steps/0)"},
+        {"/cases/0/name", "does not lead to an object of the document; nearby objects:"},
     };
     for (const auto& row : rows) {
         std::string found;

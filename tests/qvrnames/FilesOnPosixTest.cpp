@@ -44,7 +44,7 @@ TEST(FilesOnPosix, LeavesTheFileWhenItCannotBeWritten) {
     EXPECT_EQ(folder.Files(), 1U);
 }
 
-TEST(FilesOnPosix, TellsWhatTheSystemSaysWhileItReads) {
+TEST(FilesOnPosix, ReportsTheErrorOfTheSystemWhileReading) {
     const RunResult result = RunWith({"audit", "/proc/self/mem"});
     EXPECT_NE(result.err.find("/proc/self/mem: cannot be read: Input/output error"), std::string::npos) << result.err;
 }

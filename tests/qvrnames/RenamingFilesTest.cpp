@@ -20,7 +20,7 @@ TEST(RenamingFiles, ChangesTheBytesOfOneName) {
         {R"({"cases": [{ "id": "a" }]})", "a", "A", R"({"cases": [{ "name": "A", "id": "a" }]})"},
         {R"({"cases": [{ }]})", "/cases/0", "A", R"({"cases": [{"name": "A" }]})"},
         {R"({"cases": [{"name": "A"}]})", "A", "\"\\\t温", R"({"cases": [{"name": "\"\\\t温"}]})"},
-        // the guard of this type of step drops blanks and underscores
+        // this type of step removes spaces and underscores at the ends
         {R"({"cases": [{"steps": [{"type": "QVRStaticLPStepLT", "name": "A"}]}]})", "A", " _B c_ ",
          R"({"cases": [{"steps": [{"type": "QVRStaticLPStepLT", "name": "B c"}]}]})"},
     };
@@ -31,10 +31,10 @@ TEST(RenamingFiles, ChangesTheBytesOfOneName) {
         EXPECT_EQ(result.code, 0) << result.err;
         EXPECT_EQ(ReadFile(file), row.expected);
     }
-    EXPECT_EQ(folder.Files(), 1U) << "something was left beside the document";
+    EXPECT_EQ(folder.Files(), 1U) << "a temporary file was left";
 }
 
-TEST(RenamingFiles, TellsARefusalAndLeavesTheFile) {
+TEST(RenamingFiles, ReportsARefusalAndLeavesTheFile) {
     const TestFolder folder;
     const std::string text = ReadFile(Example("pump-flange-bracket.json"));
     const std::string file = folder.Write("document.json", text);
@@ -43,24 +43,24 @@ TEST(RenamingFiles, TellsARefusalAndLeavesTheFile) {
         const char* feature;
         const char* name;
         const char* messageId;
-        bool isPrinted; // a refusal without a registered error prints nothing
+        bool isPrinted; // the naming module prints nothing if no error is registered
     } rows[] = {
         {"Static/Vorspannen", " Betriebsdruck_ ", "DuplicateNameERR_01", true},
         {"Static/Vorspannen", "", "NameLengthERR_02", true},
         {"Static/Vorspannen", "1. Schritt", "LeadingDigitERR_01", true},
-        {"Static/betriebsdruck", "betriebsdruck", "DuplicateNameERR_01", true}, // the name that it has
+        {"Static/betriebsdruck", "betriebsdruck", "DuplicateNameERR_01", true}, // the current name
         {"Thermal and Shock/flange static", "JOB-1", "DuplicateNameERR_02", true},
         {"Imported/Job-1", "Job-2", "", false},
-        {"/cases/1/steps/2/sets/2/features/1", "x", "", false}, // cannot be named at all
+        {"/cases/1/steps/2/sets/2/features/1", "x", "", false}, // without ZFXIAlias
     };
     for (const auto& row : rows) {
         const RunResult result = RunWith({"rename", file, row.feature, row.name, "--json", "--output", output});
         EXPECT_EQ(result.code, 1) << row.feature;
-        const auto said = nlohmann::json::parse(result.out); // nothing else is on standard output
-        EXPECT_EQ(said["renamed"], false);
-        EXPECT_EQ(said["messageId"], row.messageId) << result.out;
-        EXPECT_NE(said["message"], "");
-        EXPECT_EQ(said["printed"].get<std::string>().starts_with("NAME ERROR: "), row.isPrinted) << result.out;
+        const auto json = nlohmann::json::parse(result.out); // standard output contains only the JSON value
+        EXPECT_EQ(json["renamed"], false);
+        EXPECT_EQ(json["messageId"], row.messageId) << result.out;
+        EXPECT_NE(json["message"], "");
+        EXPECT_EQ(json["printed"].get<std::string>().starts_with("NAME ERROR: "), row.isPrinted) << result.out;
         EXPECT_FALSE(std::filesystem::exists(Utf8::ToPath(output)));
 
         const RunResult shown = RunWith({"rename", file, row.feature, row.name});
@@ -71,13 +71,14 @@ TEST(RenamingFiles, TellsARefusalAndLeavesTheFile) {
     EXPECT_EQ(ReadFile(file), text);
 }
 
-TEST(RenamingFiles, TellsWhenNobodyGuardsTheName) {
+TEST(RenamingFiles, ReportsANameThatIsStoredWithoutACheck) {
     const TestFolder folder;
     const std::string file = folder.Write("document.json", ReadFile(Example("propose-a-pressure.json")));
     const RunResult result = RunWith({"rename", file, "new-load", "Pressure-1"});
     EXPECT_EQ(result.code, 0);
     EXPECT_NE(result.out.find("\"\" -> \"Pressure-1\""), std::string::npos) << result.out;
-    EXPECT_NE(result.out.find("guards no names: DuplicateNameERR_02"), std::string::npos) << result.out;
+    EXPECT_NE(result.out.find("accept any name; an audit refuses it: DuplicateNameERR_02"), std::string::npos)
+        << result.out;
 }
 
 } // namespace

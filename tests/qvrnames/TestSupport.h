@@ -10,7 +10,7 @@
 #include <string>
 #include <vector>
 
-/// A folder for the files of one test, gone with it. Its name is one that only UTF-8 can tell.
+/// A temporary folder for the files of one test. Its name contains characters outside every 8-bit code page.
 class TestFolder {
 public:
     TestFolder() { std::filesystem::create_directory(m_folder); }
@@ -41,7 +41,7 @@ inline std::string ReadFile(const std::string& path) {
 
 inline std::string Example(const std::string& name) { return QVRNAMES_FOLDER "/examples/" + name; }
 
-/// What the program does with these arguments.
+/// The exit code and output of one run of the program.
 struct RunResult {
     int code;
     std::string out;

@@ -13,7 +13,7 @@
 
 namespace {
 
-/// Tells once a second how far an audit has come; a short one says nothing.
+/// Prints the progress of an audit once per second, so nothing for a short audit.
 class Progress {
 public:
     Progress(std::ostream& err, std::size_t total) : m_err(err), m_total(total) {}
@@ -37,14 +37,13 @@ struct Finding {
     std::uint32_t entry;
     std::string name;
     Verdict verdict;
-    std::string deckColumn = {}; ///< empty: the feature's own name
+    std::string deckColumn = {}; ///< the column of a name in the deck; empty for the name of the feature
 };
 
-/// What an audit found: names that are refused, and names in the deck that the rules let through.
 struct Findings {
-    std::size_t checked = 0;
-    std::vector<Finding> refusals;
-    std::vector<Finding> deck;
+    std::size_t checked = 0;       ///< number of features
+    std::vector<Finding> refusals; ///< names of features that break a rule
+    std::vector<Finding> deck;     ///< names in the deck, although the audit accepts the feature
 };
 
 std::string AliasOf(const ZFXISpecObject_var& feature) {
@@ -66,9 +65,9 @@ void PrintFindings(const LoadedDocument& loaded, const Findings& findings, bool 
         PrintTable(out, table, console.screen);
         out << '\n';
     }
-    out << findings.checked << " features checked, " << findings.refusals.size() << " refusals";
+    out << Counted(findings.checked, "feature") << " checked, " << Counted(findings.refusals.size(), "refusal");
     if (withDeck)
-        out << ", " << findings.deck.size() << " faults in the deck";
+        out << ", " << Counted(findings.deck.size(), "finding") << " in the deck";
     out << '\n';
 }
 
@@ -88,17 +87,17 @@ nlohmann::ordered_json AsJson(const LoadedDocument& loaded, const std::vector<Fi
     return list;
 }
 
-/// The refusals of the name that a feature has. One fault is told once, whichever of the checks find it.
+/// Appends the refusals of the stored name of a feature. If both checks refuse it with the same message id, appends the
+/// first only.
 void CheckFeature(const LoadedDocument& loaded, std::uint32_t entry, std::vector<Finding>& refusals) {
     const ZFXISpecObject_var feature = loaded.entries[entry].feature;
-    // An empty name stands for the feature's own, which is the same here.
     const std::string name = AliasOf(feature);
     const Verdict first = CheckFeatureName(feature, name.c_str());
-    const Verdict further = CheckSpecialRules(feature);
+    const Verdict second = CheckSpecialRules(feature);
     if (first.IsRefusal())
         refusals.push_back({entry, name, first});
-    if (further.IsRefusal() && further.messageId != first.messageId)
-        refusals.push_back({entry, name, further});
+    if (second.IsRefusal() && second.messageId != first.messageId)
+        refusals.push_back({entry, name, second});
 }
 
 } // namespace
@@ -117,11 +116,11 @@ int AuditDocument(const AuditRequest& request, Console console) {
             findings.deck.push_back(
                 {finding.entry, finding.name, std::move(finding.verdict), std::move(finding.column)});
     if (console.isJson) {
-        nlohmann::ordered_json said{{"featuresChecked", findings.checked},
+        nlohmann::ordered_json json{{"featuresChecked", findings.checked},
                                     {"refusals", AsJson(*loaded, findings.refusals)}};
         if (request.withDeck)
-            said["deckFaults"] = AsJson(*loaded, findings.deck);
-        PrintJson(console.out, said);
+            json["deckFaults"] = AsJson(*loaded, findings.deck);
+        PrintJson(console.out, json);
     } else {
         PrintFindings(*loaded, findings, request.withDeck, console);
     }

@@ -14,15 +14,15 @@ int CheckNames(const CheckRequest& request, Console console) {
         const ZFXUnicodeString name = ToUnicode(argument);
         const Verdict verdict = request.areFileNames ? CheckFileName(name) : CheckText(name);
         isRefused |= verdict.IsRefusal();
-        nlohmann::ordered_json said{{"name", argument}, {"legal", !verdict.IsRefusal()}};
+        nlohmann::ordered_json json{{"name", argument}, {"legal", !verdict.IsRefusal()}};
         table.rows.push_back({{Printable(argument)}, {verdict.IsRefusal() ? "refused" : "legal"}});
         if (verdict.IsRefusal()) {
-            said["messageId"] = verdict.messageId;
-            said["message"] = verdict.message;
+            json["messageId"] = verdict.messageId;
+            json["message"] = verdict.message;
             table.rows.back().push_back({verdict.messageId, Style::Refusal});
             table.rows.back().push_back({Printable(verdict.message)});
         }
-        names.push_back(std::move(said));
+        names.push_back(std::move(json));
     }
     if (console.isJson)
         PrintJson(console.out, {{"legal", !isRefused}, {"names", names}});

@@ -18,23 +18,24 @@
 namespace {
 
 constexpr const char* kFooter =
-    "DOCUMENT is a file, or - for standard input. FEATURE is the id of a feature, its JSON pointer in\n"
-    "the file (which begins with \"/\"), or its path of names, such as Static/Step-1/Pressure-1, of\n"
-    "which the last part is enough when only one feature ends so.\n\n"
-    "Messages are in English unless --language says otherwise; the locale changes nothing, so that\n"
-    "scripts read the same everywhere.\n\n"
-    "The program ends with 0 when all is well, 1 when a name is refused, 2 for input that cannot be\n"
-    "used or a result that cannot be written.\n\n"
+    "DOCUMENT is the path of a document file, or - for standard input.\n\n"
+    "How to specify FEATURE: by its id, by its JSON pointer in the file (which begins with \"/\"), or by\n"
+    "its path of names, such as Static/Step-1/Pressure-1. The last part of a path is sufficient if only\n"
+    "one feature has it.\n\n"
+    "Messages are in English unless --language selects another language. The locale has no effect, so\n"
+    "scripts get the same output on every machine.\n\n"
+    "Exit status: 0 success; 1 a name is refused, or none can be proposed; 2 the arguments or the\n"
+    "document are unusable, or the result cannot be written.\n\n"
     "Example: qvrnames audit pump.json\n";
 
 std::string Joined(const std::vector<std::string>& words) { return CLI::detail::join(words, ", "); }
 
-/// The command line: what it may say, and the command that was asked for.
+/// Parses the command line and runs the command.
 class CommandLine {
 public:
     CommandLine(std::ostream& out, std::ostream& err, const Screen& screen) : m_console{out, err, screen} {
         m_app.set_version_flag("--version", "qvrnames " QVR_NAME_UTILITY_VERSION);
-        m_app.allow_windows_style_options(false); // what begins with "/" is a path or a JSON pointer on every system
+        m_app.allow_windows_style_options(false); // "/x" is a path or a JSON pointer, never an option
         m_app.require_subcommand(1);
         m_app.footer(kFooter);
         AddCommon(&m_app);
@@ -49,20 +50,20 @@ public:
         try {
             m_app.parse(argc, argv);
         } catch (const CLI::ParseError& error) {
-            if (error.get_exit_code() == 0) // help and version come this way
+            if (error.get_exit_code() == 0) // --help and --version
                 return m_app.exit(error, m_console.out, m_console.err);
             throw BadInput(DescribeUnknownWord().value_or(error.what()) + "; see --help");
         }
         if (m_colour != "auto")
             m_console.screen.hasColour = m_colour == "always";
         if (!MessageCatalog::SetLanguage(m_language))
-            throw BadInput("--language: there are no messages in \"" + m_language +
-                           "\"; there are: " + Joined(MessageCatalog::Languages()));
+            throw BadInput("--language: no messages in \"" + m_language +
+                           "\"; available languages: " + Joined(MessageCatalog::Languages()));
         return m_command();
     }
 
 private:
-    /// A command or an option that there is not, with what may be meant; nothing for any other fault.
+    /// Returns a message about an unknown command or option, with a suggestion; nothing for any other error.
     std::optional<std::string> DescribeUnknownWord() const {
         const std::vector<std::string> unknown = m_app.remaining(true);
         const std::vector<CLI::App*> parsed = m_app.get_subcommands();
@@ -75,22 +76,22 @@ private:
                 for (const std::string& name : option->get_lnames())
                     known.push_back("--" + name);
             const std::string name = unknown.front().substr(0, unknown.front().find('='));
-            return "there is no option " + name + "; " + Suggestion(name, known);
+            return "unknown option " + name + "; " + Suggestion(name, known);
         }
         if (!parsed.empty())
             return std::nullopt;
         for (const CLI::App* command : m_app.get_subcommands({}))
             known.push_back(command->get_name());
-        return "there is no command \"" + unknown.front() + "\"; " + Suggestion(unknown.front(), known);
+        return "unknown command \"" + unknown.front() + "\"; " + Suggestion(unknown.front(), known);
     }
 
     void AddCommon(CLI::App* app) {
-        app->add_flag("--json", m_console.isJson, "Tell the result as one JSON value");
+        app->add_flag("--json", m_console.isJson, "Print the result as JSON");
         app->add_option("--color", m_colour,
-                        "When to use colours: auto (on a terminal, unless NO_COLOR is set), always or never")
+                        "Use colours: auto (default; on a terminal, unless NO_COLOR is set), always or never")
             ->check(CLI::IsMember({"auto", "always", "never"}))
             ->type_name("WHEN");
-        app->add_option("--language", m_language, "The language of messages: en (unless given), de, fr or ja")
+        app->add_option("--language", m_language, "Language of messages: en (default), de, fr or ja")
             ->type_name("LANG");
     }
     CLI::App* Add(const char* name, const char* description, const char* example, const std::function<int()>& command) {
@@ -102,20 +103,20 @@ private:
     }
 
     void AddCheck() {
-        CLI::App* app = Add("check", "Is a text legal as the name of a feature, or of a file?",
+        CLI::App* app = Add("check", "Check whether texts are legal as names of features or files.",
                             "check Step-1 \"Static Step.2\"", [this] { return CheckNames(m_check, m_console); });
         app->add_option("NAME", m_check.names, "The names to check")->required()->expected(1, -1);
-        app->add_flag("--file-name", m_check.areFileNames, "Check them as names of files");
+        app->add_flag("--file-name", m_check.areFileNames, "Check them as file names");
     }
     void AddAudit() {
-        CLI::App* app = Add("audit", "Check the name of every feature of a document.", "audit pump.json --json",
+        CLI::App* app = Add("audit", "Check the name of every feature in a document.", "audit pump.json --json",
                             [this] { return AuditDocument(m_audit, m_console); });
         AddDocument(app, m_audit.document);
         app->add_flag("--deck", m_audit.withDeck,
-                      "Check also the names in the solver deck: those that break a rule or are given twice");
+                      "Also check the names in the solver deck for broken rules and duplicates");
     }
     void AddDeck() {
-        CLI::App* app = Add("deck", "Show what the solver deck would call everything.", "deck pump.json",
+        CLI::App* app = Add("deck", "Show the names that the solver deck would contain.", "deck pump.json",
                             [this] { return ShowDeck(m_deckDocument, m_console); });
         AddDocument(app, m_deckDocument);
     }
@@ -125,27 +126,26 @@ private:
                             "--base \"Static Step-\"\n         qvrnames propose pump.json --job",
                             [this] { return ProposeName(m_propose, m_console); });
         AddDocument(app, m_propose.document);
-        app->add_option("FEATURE", m_propose.feature, "The feature to be named");
-        app->add_flag("--job", m_propose.isJob, "Propose the name of a new job instead");
-        app->add_option("--base", m_propose.base,
-                        "What the number is put after; that of the feature's type when it is not given");
+        app->add_option("FEATURE", m_propose.feature, "The feature to propose a name for");
+        app->add_flag("--job", m_propose.isJob, "Propose the name of a new job; omit FEATURE");
+        app->add_option("--base", m_propose.base, "Base name (default: derived from the feature's type)");
     }
     void AddRename() {
-        CLI::App* app = Add("rename", "Give a feature another name, if the name may be had.",
+        CLI::App* app = Add("rename", "Rename a feature if the new name is allowed.",
                             "rename pump.json Static/Step-1 \"Bolt Load\" --output new.json",
                             [this] { return RenameFeature(m_rename, m_console); });
         AddDocument(app, m_rename.document);
-        app->add_option("FEATURE", m_rename.feature, "The feature to be renamed")->required();
-        app->add_option("NAME", m_rename.name, "Its new name")->required();
+        app->add_option("FEATURE", m_rename.feature, "The feature to rename")->required();
+        app->add_option("NAME", m_rename.name, "The new name")->required();
         app->add_option("--output", m_rename.output,
-                        "Write the document there and leave the file as it is; - is standard output, with\n"
-                        "what is told on standard error, and where a document from standard input goes");
+                        "Write the changed document to this file and leave DOCUMENT unchanged.\n"
+                        "\"-\" is stdout (default for stdin); messages go to stderr");
     }
     static void AddDocument(CLI::App* app, std::string& document) {
-        app->add_option("DOCUMENT", document, "The document file, or - for standard input")->required();
+        app->add_option("DOCUMENT", document, "The document file, or - for stdin")->required();
     }
 
-    CLI::App m_app{"Checks, proposes and changes names of features in an analysis document.", "qvrnames"};
+    CLI::App m_app{"Checks, proposes and changes the names of features in an analysis document.", "qvrnames"};
     Console m_console;
     std::string m_colour = "auto";
     std::string m_language;
@@ -160,18 +160,18 @@ private:
 } // namespace
 
 int Run(int argc, const char* const* argv, std::ostream& out, std::ostream& err, const Screen& screen) {
-    std::string fault;
+    std::string message;
     try {
         const int code = CommandLine(out, err, screen).Parse(argc, argv);
         if (out.flush())
             return code;
-        fault = "the result cannot be written";
+        message = "the result cannot be written";
     } catch (const std::bad_alloc&) {
-        fault = "there is not enough memory";
+        message = "out of memory";
     } catch (const std::exception& error) {
-        fault = error.what();
+        message = error.what();
     }
-    std::istringstream lines(fault);
+    std::istringstream lines(message); // candidates of a reference are listed in further lines
     err << "qvrnames: ";
     for (std::string line; std::getline(lines, line);)
         err << Printable(line) << std::endl;

@@ -4,6 +4,8 @@
 
 #include <iosfwd>
 
-/// The whole program: results go to `out`, what is wrong with the input and progress to `err`. What the
-/// naming module itself prints on standard output goes to `out` as well, which leads to the screen.
-int Run(int argc, const char* const* argv, std::ostream& out, std::ostream& err, const Screen& screen = {});
+/// Runs the program and returns its exit code (ExitCode). Prints results on `out`, and errors and progress on `err`.
+/// The naming module itself prints refusals on standard output; they are captured and printed on `out` too.
+/// @param screen  the terminal, if any, of `out`
+[[nodiscard]] int Run(int argc, const char* const* argv, std::ostream& out, std::ostream& err,
+                      const Screen& screen = {});

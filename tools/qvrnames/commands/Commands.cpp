@@ -22,7 +22,7 @@ std::uint32_t FindFeature(const LoadedDocument& loaded, const std::string& file,
     try {
         const std::uint32_t entry = FindEntry(loaded, reference);
         if (entry == 0)
-            throw BadInput("\"" + reference + "\" is the analysis model, which has no name in the file");
+            throw BadInput("\"" + reference + "\" is the analysis model, which cannot have a name");
         return entry;
     } catch (const BadInput& error) {
         throw BadInput(DisplayFileName(file) + ": " + error.what());
@@ -31,9 +31,13 @@ std::uint32_t FindFeature(const LoadedDocument& loaded, const std::string& file,
 
 ZFXUnicodeString ToUnicode(const std::string& argument) {
     ZFXUnicodeString text(argument.c_str());
-    if (text.ConvertToChar() != argument) // what is no UTF-8 was read as U+FFFD
-        throw BadInput("an argument is no UTF-8 text: " + std::string(text.ConvertToChar()));
+    if (text.ConvertToChar() != argument) // an ill-formed byte became U+FFFD
+        throw BadInput("an argument is not UTF-8: " + std::string(text.ConvertToChar()));
     return text;
+}
+
+std::string Counted(std::size_t count, const std::string& noun) {
+    return std::to_string(count) + " " + noun + (count == 1 ? "" : "s");
 }
 
 void PrintJson(std::ostream& out, const nlohmann::ordered_json& value) { out << value.dump(2) << '\n'; }

@@ -10,13 +10,13 @@
 #include <string>
 #include <vector>
 
-// The commands. Each returns an ExitCode, and throws BadInput for input that cannot be used.
+// The commands. Each returns an ExitCode and throws BadInput for unusable input.
 
 struct Console {
     std::ostream& out;
     std::ostream& err;
-    Screen screen = {};  ///< that `out` leads to
-    bool isJson = false; ///< the result is one JSON value on `out`
+    Screen screen = {};  ///< the terminal, if any, of `out`
+    bool isJson = false; ///< print the result as one JSON value
 };
 
 struct CheckRequest {
@@ -27,7 +27,7 @@ int CheckNames(const CheckRequest& request, Console console);
 
 struct AuditRequest {
     std::string document;
-    bool withDeck = false; ///< the names of the solver deck as well
+    bool withDeck = false; ///< also check the names in the solver deck
 };
 int AuditDocument(const AuditRequest& request, Console console);
 
@@ -36,8 +36,8 @@ int ShowDeck(const std::string& document, Console console);
 struct ProposeRequest {
     std::string document;
     std::string feature;
-    std::string base;   ///< empty: that of the feature's late type
-    bool isJob = false; ///< for a new job, and no feature
+    std::string base;   ///< empty: the base name of the feature's late type
+    bool isJob = false; ///< propose the name of a new job; `feature` and `base` must be empty
 };
 int ProposeName(const ProposeRequest& request, Console console);
 
@@ -45,19 +45,20 @@ struct RenameRequest {
     std::string document;
     std::string feature;
     std::string name;
-    std::string output; ///< empty: the document itself; "-": standard output, and what is told goes to `err`
+    std::string output; ///< a file, or "-" for standard output, which sends messages to `err`; empty: `document`
 };
 int RenameFeature(const RenameRequest& request, Console console);
 
-/// What the commands have in common.
-/// @{
+// Helpers of the commands.
 
-/// The document in the file, or on standard input when the file is "-"; messages about it begin with the
-/// file's name.
-std::unique_ptr<LoadedDocument> OpenDocument(const std::string& file);
-/// FindEntry, for one that can have a name.
-std::uint32_t FindFeature(const LoadedDocument& loaded, const std::string& file, const std::string& reference);
+/// Reads the document in a file, or on standard input if `file` is "-". Messages of BadInput begin with the file name.
+[[nodiscard]] std::unique_ptr<LoadedDocument> OpenDocument(const std::string& file);
+/// Returns the object to which a FEATURE argument leads; it may have no name. Throws BadInput if there is none, if
+/// there are several, or if it is the analysis model, which cannot have a name.
+[[nodiscard]] std::uint32_t FindFeature(const LoadedDocument& loaded, const std::string& file,
+                                        const std::string& reference);
+/// Converts an argument. Throws BadInput if it is not UTF-8.
+[[nodiscard]] ZFXUnicodeString ToUnicode(const std::string& argument);
+/// Returns "1 feature", "2 features".
+[[nodiscard]] std::string Counted(std::size_t count, const std::string& noun);
 void PrintJson(std::ostream& out, const nlohmann::ordered_json& value);
-/// BadInput when an argument is no UTF-8.
-ZFXUnicodeString ToUnicode(const std::string& argument);
-/// @}

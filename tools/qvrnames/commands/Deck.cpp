@@ -5,6 +5,8 @@
 #include "QVRGenInstanceName.h"
 #include "QVRNameUtil.h"
 
+#include <tuple>
+
 namespace {
 
 using Names = std::vector<std::optional<std::string>>;
@@ -27,7 +29,7 @@ Names FeatureNames(const ZFXISpecObject_var& feature) {
     const HRESULT named = QVRNameUtil::GetObjectName(feature, display);
     const HRESULT generated = english->GetGenericEnglishFeatureName(feature, generic);
     if (!Failed(named))
-        english->GetTARNISCompliantFeatureName(display, generic, compliant);
+        std::ignore = english->GetTARNISCompliantFeatureName(display, generic, compliant);
     return {ValueIf(named, display), ValueIf(named, compliant), ValueIf(generated, generic)};
 }
 
@@ -60,7 +62,7 @@ Names MaterialNames(const ZFXISpecObject_var& feature) {
     return {DisplayName(feature), ValueIf(named, name), ValueIf(generated, generic)};
 }
 
-/// An ambiguous or unusable group has an empty name, which is none.
+/// Returns nothing for the empty name of a group that is ambiguous or has no legal name.
 std::optional<std::string> GroupName(HRESULT code, const ZFXUnicodeString& name) {
     return name.IsNull() != 0 ? std::nullopt : ValueIf(code, name);
 }
@@ -147,8 +149,8 @@ std::size_t SectionOf(const ZFXISpecObject_var& feature) {
     return rest;
 }
 
-/// Returns true if the object is written into the deck: it has a name, belongs to a section of its own, or is a step or
-/// a member of a set, which may still get a name.
+/// Returns true if the object is written into the deck: it has a name, belongs to a section other than the features, or
+/// is a step or a member of a set, which may still get a name.
 bool IsInDeck(const DocumentEntry& entry, const ZFXISpecObject_var& feature) {
     return feature != nullptr && (entry.isNamed || SectionTypes()[SectionOf(feature)].matches != nullptr ||
                                   Offers<QVRIStep_var>(feature) || Offers<ZFXISamAnalysisEntity_var>(feature));

@@ -7,9 +7,9 @@
 #include <string>
 #include <vector>
 
-// What the solver deck would call everything in a document.
+// The names that the solver deck would contain for the objects of a document, as a table for each kind of object.
 
-/// One object and its names, one for each column of its section; nothing where there is none.
+/// An object and its names, one for each column of its section; nothing for a name that it does not have.
 struct DeckRow {
     std::uint32_t entry;
     std::vector<std::optional<std::string>> names;
@@ -18,25 +18,27 @@ struct DeckRow {
 struct DeckColumn {
     const char* title;
     const char* key; ///< in JSON
-    bool isDeckName; ///< written into the deck, and so bound to its rules
+    bool isDeckName; ///< the name is written into the deck and must conform to its rules
 };
 
 /// The objects of one kind, in document order.
 struct DeckSection {
-    const char* title; ///< of the objects' column
-    const char* key;
+    const char* title; ///< heading of the first column, the object
+    const char* key;   ///< in JSON
     std::vector<DeckColumn> columns;
     std::vector<DeckRow> rows;
 };
 
-/// Works out every name, on name caches that are empty before and after.
-std::vector<DeckSection> BuildDeck(const LoadedDocument& loaded);
+/// Returns all names of the document. Empties the name caches of the naming module before and after, so that the result
+/// depends on the document only.
+[[nodiscard]] std::vector<DeckSection> BuildDeck(const LoadedDocument& loaded);
 
-/// A name that the rules let through although the solver cannot take it, or cannot tell it from another.
+/// A name in the deck that breaks a rule of the solver or is used for two objects, although the audit accepts it.
 struct DeckFinding {
     std::uint32_t entry;
     std::string column;
     std::string name;
     Verdict verdict;
 };
-std::vector<DeckFinding> CheckDeck(const std::vector<DeckSection>& deck, const LoadedDocument& loaded);
+/// Returns the findings in the columns of deck names.
+[[nodiscard]] std::vector<DeckFinding> CheckDeck(const std::vector<DeckSection>& deck, const LoadedDocument& loaded);

@@ -8,7 +8,8 @@
 
 namespace {
 
-/// The letters of a name as its comparison with others sees them, or nearly so: equal names have one such form.
+/// Returns a text that is equal for two names if they are equal apart from letter case. The converse need not be true:
+/// names with equal texts are compared again.
 std::string CaseInsensitiveKey(const std::string& name) {
     ZFXUnicodeString text(name.c_str());
     text.ToUpper();
@@ -16,20 +17,22 @@ std::string CaseInsensitiveKey(const std::string& name) {
     return text.ConvertToChar();
 }
 
-/// The case that an object lies under; the model for one that lies under none.
+/// Returns the case above an object, or the model if there is none.
 std::uint32_t CaseOf(const LoadedDocument& loaded, std::uint32_t entry) {
     while (entry != 0 && ZFXISamAnalysisCase_var(loaded.entries[entry].feature) == nullptr)
         entry = loaded.entries[entry].parent;
     return entry;
 }
 
-/// The first object of each name in one column. Features of different cases do not meet: each case has its deck.
+/// The names in one column and the objects that have them. Features of different cases do not clash, because each case
+/// has its own deck.
 class UsedNames {
 public:
     explicit UsedNames(const LoadedDocument& loaded) : m_loaded(loaded) {}
 
-    /// Another object that has the name already, as it is told beside `entry`; nothing for a new name.
-    std::optional<std::string> AddOrFindOwner(const DeckSection& section, std::uint32_t entry,
+    /// Returns the path of an object that already has the name, or its JSON pointer if `entry` has the same path.
+    /// Records `entry` and returns nothing if the name is new.
+    std::optional<std::string> FindOwnerOrAdd(const DeckSection& section, std::uint32_t entry,
                                               const std::string& name) {
         const std::uint32_t analysisCase = std::string_view(section.key) == "features" ? CaseOf(m_loaded, entry) : 0;
         for (const auto& [other, otherName] : m_owners[{analysisCase, CaseInsensitiveKey(name)}])
@@ -46,21 +49,21 @@ private:
     std::map<std::pair<std::uint32_t, std::string>, std::vector<std::pair<std::uint32_t, std::string>>> m_owners;
 };
 
-/// What is wrong with the names of one column.
+/// Appends the findings in one column.
 void CheckColumn(const DeckSection& section, std::size_t column, const LoadedDocument& loaded,
                  std::vector<DeckFinding>& findings) {
-    UsedNames given(loaded);
+    UsedNames usedNames(loaded);
     for (const DeckRow& row : section.rows) {
         if (!row.names[column])
             continue;
         const std::string& name = *row.names[column];
-        const auto found = [&](Verdict verdict) {
+        const auto add = [&](Verdict verdict) {
             findings.push_back({row.entry, section.columns[column].title, name, std::move(verdict)});
         };
-        if (Verdict broken = CheckText(name.c_str()); broken.IsRefusal())
-            found(std::move(broken));
-        if (const auto other = given.AddOrFindOwner(section, row.entry, name))
-            found({E_FAIL, {}, "The deck gives this name to " + *other + " as well."});
+        if (Verdict textVerdict = CheckText(name.c_str()); textVerdict.IsRefusal())
+            add(std::move(textVerdict));
+        if (const auto other = usedNames.FindOwnerOrAdd(section, row.entry, name))
+            add({E_FAIL, {}, "The deck also uses this name for " + *other + "."});
     }
 }
 

@@ -27,12 +27,12 @@ void PrintSection(const DeckSection& section, const LoadedDocument& loaded, Cons
 nlohmann::ordered_json AsJson(const DeckSection& section, const LoadedDocument& loaded) {
     nlohmann::ordered_json rows = nlohmann::ordered_json::array();
     for (const DeckRow& row : section.rows) {
-        nlohmann::ordered_json said{{"feature", DisplayPath(loaded, row.entry)},
+        nlohmann::ordered_json json{{"feature", DisplayPath(loaded, row.entry)},
                                     {"pointer", PointerOf(loaded, row.entry)}};
         for (std::size_t c = 0; c < section.columns.size(); ++c)
-            said[section.columns[c].key] =
+            json[section.columns[c].key] =
                 row.names[c] ? nlohmann::ordered_json(*row.names[c]) : nlohmann::ordered_json();
-        rows.push_back(std::move(said));
+        rows.push_back(std::move(json));
     }
     return rows;
 }
@@ -42,18 +42,18 @@ nlohmann::ordered_json AsJson(const DeckSection& section, const LoadedDocument& 
 int ShowDeck(const std::string& document, Console console) {
     const auto loaded = OpenDocument(document);
     const std::vector<DeckSection> deck = BuildDeck(*loaded);
-    nlohmann::ordered_json said = nlohmann::ordered_json::object();
+    nlohmann::ordered_json json = nlohmann::ordered_json::object();
     std::size_t objects = 0;
     for (const DeckSection& section : deck) {
         objects += section.rows.size();
         if (console.isJson)
-            said[section.key] = AsJson(section, *loaded);
+            json[section.key] = AsJson(section, *loaded);
         else if (!section.rows.empty())
             PrintSection(section, *loaded, console);
     }
     if (console.isJson)
-        PrintJson(console.out, said);
+        PrintJson(console.out, json);
     else
-        console.out << objects << " objects named\n";
+        console.out << Counted(objects, "object") << " in the deck\n";
     return kSuccess;
 }

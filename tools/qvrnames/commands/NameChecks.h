@@ -6,29 +6,36 @@
 
 #include <string>
 
-/// What a check of the naming module said.
+/// The result of a check by the naming module.
 struct Verdict {
     HRESULT code = S_OK;
-    std::string messageId; ///< empty for a refusal without a message
-    std::string message;
+    std::string messageId; ///< empty if the name is accepted, or if it is refused without a registered error
+    std::string message;   ///< why the name is refused; empty if it is accepted
 
     bool IsRefusal() const noexcept { return Failed(code); }
 };
 
-/// The outcome of a check, with the error that it registered: to be asked right after it.
-Verdict VerdictOf(HRESULT code);
+/// Returns the verdict for the code of an operation and the error registered under that code. If none is registered,
+/// the message names the operation, the code and `requirement`. Must be called before the next operation, which may
+/// register further errors.
+/// @param requirement  a sentence: what the operation needs to succeed
+[[nodiscard]] Verdict VerdictOf(HRESULT code, const char* operation, const char* requirement);
 
-/// The rules that a name must pass by its text alone, as those of a feature or of a file.
-Verdict CheckText(const ZFXUnicodeString& name);
-Verdict CheckFileName(const ZFXUnicodeString& name);
+/// Checks the text of a name: its length, its first character and its characters. No feature is involved.
+[[nodiscard]] Verdict CheckText(const ZFXUnicodeString& name);
+/// Checks the characters of a file name.
+[[nodiscard]] Verdict CheckFileName(const ZFXUnicodeString& name);
 
-/// Whether the name is one that the feature may have, judged as the module's own guard of new names judges:
-/// shell sections may begin with a digit, and for jobs nothing counts but that no case has the name.
-Verdict CheckFeatureName(const ZFXISpecObject_var& feature, const ZFXUnicodeString& name);
+/// Checks whether a feature can have a name, exactly as the alias extension of the naming module does: a shell section
+/// can begin with a digit, and a job's name is compared with the jobs of all cases and not checked otherwise. An empty
+/// name means the feature's stored name.
+[[nodiscard]] Verdict CheckFeatureName(const ZFXISpecObject_var& feature, const ZFXUnicodeString& name);
 
-/// What else can be said of the name that a feature has: a job's against all jobs of the document, a bolt
-/// tightening's once made legal and against its siblings'. No refusal for any other feature.
-Verdict CheckSpecialRules(const ZFXISpecObject_var& feature);
+/// Checks the stored name of a feature against rules for its type that CheckFeatureName does not include. Accepts the
+/// name of a feature of any other type.
+/// - Job: the name is unique among all jobs of the document.
+/// - Bolt tightening: the name in the form for the solver deck is legal and differs from those of its siblings.
+[[nodiscard]] Verdict CheckSpecialRules(const ZFXISpecObject_var& feature);
 
-/// The name without the blanks and then the underscores at its ends, as the guard stores it.
-ZFXUnicodeString TrimmedName(const ZFXUnicodeString& name);
+/// Returns the name without spaces and then without underscores at its ends, as the alias extension stores it.
+[[nodiscard]] ZFXUnicodeString TrimmedName(const ZFXUnicodeString& name);

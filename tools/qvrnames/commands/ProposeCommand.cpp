@@ -13,10 +13,11 @@
 #include <nlohmann/json.hpp>
 
 #include <ostream>
+#include <tuple>
 
 namespace {
 
-/// The base of every job, which has an operation of its own instead of a row among the bases.
+/// The base name of all jobs. GetUniqueNameForJob, which numbers jobs, uses it; CreateBaseName does not return it.
 constexpr const char* kJobBase = "Job-";
 
 bool IsJob(const ZFXISpecObject_var& feature) {
@@ -26,38 +27,37 @@ bool IsJob(const ZFXISpecObject_var& feature) {
 ZFXUnicodeString BaseOf(const ProposeRequest& request, ZFXISpecObject_var feature) {
     ZFXUnicodeString base = ToUnicode(request.base);
     if (IsJob(feature) && !base.IsNull() && base != kJobBase)
-        throw BadInput(DisplayFileName(request.document) +
-                       ": jobs are numbered after \"Job-\" alone; leave --base out");
+        throw BadInput(DisplayFileName(request.document) + ": the base name of a job is always \"Job-\"; omit --base");
     if (!base.IsNull())
         return base;
-    QVRNameUtil::CreateBaseName(feature, base);
+    std::ignore = QVRNameUtil::CreateBaseName(feature, base); // empty on failure
     if (!base.IsNull())
         return base;
     if (IsJob(feature))
         return kJobBase;
     const std::string type = feature == nullptr ? "" : feature->GetLateType().ConvertToChar();
-    throw BadInput(DisplayFileName(request.document) + ": \"" + request.feature + "\" is of the late type \"" + type +
-                   "\", which has no base name; give one with --base");
+    throw BadInput(DisplayFileName(request.document) + ": \"" + request.feature + "\" has the late type \"" + type +
+                   "\", which has no base name; specify one with --base");
 }
 
-/// The case that holds the feature; empty, which stands for the current case, when none does.
+/// Returns the case that contains the feature, or an empty handle, which means the current case.
 ZFXISamAnalysisCase_var CaseOf(const ZFXISpecObject_var& feature) {
-    ZFXISpecObject_var holder;
-    if (Failed(QVRAnalysisEntityUtils::GetParentCaseFromObject(feature, holder)))
+    ZFXISpecObject_var parentCase;
+    if (Failed(QVRAnalysisEntityUtils::GetParentCaseFromObject(feature, parentCase)))
         return {};
-    return holder;
+    return parentCase;
 }
 
-/// The next free name, in the scope that the feature's kind has; the base itself when there is none. Jobs and
-/// mesh parts are numbered over the whole document.
+/// Returns the next free name in the scope of the feature's kind, or the base name if none can be proposed. The scope
+/// of jobs and mesh parts is the whole document.
 ZFXUnicodeString NextName(ZFXISpecObject_var feature, const ZFXUnicodeString& base) {
     ZFXUnicodeString name(base);
     if (IsJob(feature)) {
-        QVRNameUtil::GetUniqueNameForJob(name);
+        std::ignore = QVRNameUtil::GetUniqueNameForJob(name);
         return name;
     }
     if (ZFXIMSHMeshPart_var(feature) != nullptr) {
-        QVRNameUtil::GetUniqueNameForMeshPart(feature, name);
+        std::ignore = QVRNameUtil::GetUniqueNameForMeshPart(feature, name); // unchanged on failure
         return name;
     }
     ZFXISamAnalysisCase_var analysisCase = CaseOf(feature);
@@ -71,13 +71,13 @@ void PrintProposal(const std::string& base, const std::string& name, Console con
     PrintTable(console.out, table, console.screen);
 }
 
-/// The name of a job that is still to be made.
+/// Proposes the name of a new job.
 int ProposeJobName(const ProposeRequest& request, Console console) {
     if (!request.feature.empty() || !request.base.empty())
-        throw BadInput("--job stands for a new job: leave FEATURE and --base out");
+        throw BadInput("--job proposes the name of a new job; omit FEATURE and --base");
     const auto loaded = OpenDocument(request.document);
     ZFXUnicodeString name;
-    QVRNameUtil::GetUniqueNameForJob(name);
+    std::ignore = QVRNameUtil::GetUniqueNameForJob(name);
     if (console.isJson)
         PrintJson(console.out, {{"base", kJobBase}, {"proposal", name.ConvertToChar()}});
     else
@@ -97,18 +97,17 @@ int ProposeName(const ProposeRequest& request, Console console) {
     ZFXISpecObject_var feature = loaded->entries[entry].feature;
     const ZFXUnicodeString base = BaseOf(request, feature);
     const ZFXUnicodeString name = NextName(feature, base);
-    const bool isProposed = name != base; // it has no other way to tell
+    const bool isProposed = name != base; // GetUniqueName returns no code
     if (console.isJson) {
-        nlohmann::ordered_json said{{"feature", DisplayPath(*loaded, entry)},
+        nlohmann::ordered_json json{{"feature", DisplayPath(*loaded, entry)},
                                     {"type", loaded->entries[entry].feature.LateType().ConvertToChar()},
                                     {"base", base.ConvertToChar()}};
-        said["proposal"] = isProposed ? nlohmann::ordered_json(name.ConvertToChar()) : nlohmann::ordered_json();
-        PrintJson(console.out, said);
+        json["proposal"] = isProposed ? nlohmann::ordered_json(name.ConvertToChar()) : nlohmann::ordered_json();
+        PrintJson(console.out, json);
     } else if (isProposed) {
         PrintProposal(base.ConvertToChar(), name.ConvertToChar(), console);
     } else {
-        console.out << "no name can be proposed: there is no analysis case to number in, or the names in use "
-                       "cannot be listed\n";
+        console.out << "no name can be proposed: there is no analysis case, or the names in use cannot be listed\n";
     }
     return isProposed ? kSuccess : kRefused;
 }

@@ -13,64 +13,66 @@
 
 namespace {
 
-/// Keeps what is written on standard output, for as long as it lives.
+/// Redirects std::cout to a buffer. The destructor restores it.
 class CapturedOutput {
 public:
-    CapturedOutput() : m_former(std::cout.rdbuf(m_text.rdbuf())) {}
+    CapturedOutput() : m_oldBuffer(std::cout.rdbuf(m_text.rdbuf())) {}
     CapturedOutput(const CapturedOutput&) = delete;
     CapturedOutput& operator=(const CapturedOutput&) = delete;
-    ~CapturedOutput() { std::cout.rdbuf(m_former); }
+    ~CapturedOutput() { std::cout.rdbuf(m_oldBuffer); }
 
     std::string Text() const { return m_text.str(); }
 
 private:
     std::ostringstream m_text;
-    std::streambuf* m_former;
+    std::streambuf* m_oldBuffer;
 };
 
 struct Outcome {
-    std::string former;
-    std::string now;
-    std::string printed; ///< what the naming module wrote on standard output
+    std::string oldName;
+    std::string newName; ///< the stored name: `oldName` if the renaming was refused
+    std::string printed; ///< output of the naming module on standard output
     bool isRefused = false;
-    Verdict verdict; ///< on the name that was asked for
+    Verdict verdict; ///< on the requested name
 };
 
-/// What a guard says to this name: it judges with the name stored, for which an empty one stands.
+/// Checks the name as the alias extension does: it stores the candidate first, and an empty name means the stored one.
+/// Restores the old name afterwards.
 Verdict CheckAsStored(const ZFXISpecObject_var& feature, const ZFXUnicodeString& name) {
     const ZFXISpecAttrAccess_var attributes(feature);
     if (attributes == nullptr)
         return CheckFeatureName(feature, name);
     const auto key = ZFXISpecAttrKey_var::TakeOver(attributes->GetAttrKey("Alias"));
-    const ZFXUnicodeString former = attributes->GetString(key, 0);
+    const ZFXUnicodeString oldName = attributes->GetString(key, 0);
     attributes->SetString(key, name, 0);
     Verdict verdict = CheckFeatureName(feature, name);
-    attributes->SetString(key, former, 0);
+    attributes->SetString(key, oldName, 0);
     return verdict;
 }
 
-/// Asks the feature for the change as a workbench does. It answers nothing, so the name is read again: it is
-/// the former one although another was asked for, or a refusal was printed, when the change was refused.
+/// Renames the feature through its interface ZFXIAlias, as a workbench does. SetAlias returns no result, so the
+/// renaming counts as refused if the name is unchanged and either a message was printed or another name was requested.
 Outcome ApplyName(const ZFXISpecObject_var& feature, const ZFXUnicodeString& name) {
     Outcome outcome;
     const ZFXUnicodeString trimmed = TrimmedName(name);
     const ZFXIAlias_var alias(feature);
     if (alias == nullptr) {
         outcome.isRefused = true;
-        outcome.verdict = {E_NOINTERFACE, {}, "The feature cannot be named: it offers no ZFXIAlias."};
+        outcome.verdict = {
+            E_NOINTERFACE, {}, "The feature cannot have a name: it does not offer the interface ZFXIAlias."};
         return outcome;
     }
-    const ZFXUnicodeString former = alias->GetAlias();
+    const ZFXUnicodeString oldName = alias->GetAlias();
     {
         const CapturedOutput output;
         alias->SetAlias(name);
         outcome.printed = output.Text();
     }
-    const ZFXUnicodeString now = alias->GetAlias();
-    outcome.isRefused = now == former && (!outcome.printed.empty() || (former != trimmed && former != name));
-    outcome.verdict = CheckAsStored(feature, outcome.isRefused ? trimmed : now);
-    outcome.former = former.ConvertToChar();
-    outcome.now = now.ConvertToChar();
+    const ZFXUnicodeString newName = alias->GetAlias();
+    outcome.isRefused = newName == oldName && (!outcome.printed.empty() || (oldName != trimmed && oldName != name));
+    outcome.verdict = CheckAsStored(feature, outcome.isRefused ? trimmed : newName);
+    outcome.oldName = oldName.ConvertToChar();
+    outcome.newName = newName.ConvertToChar();
     return outcome;
 }
 
@@ -80,44 +82,44 @@ void Print(const std::string& feature, const RenameRequest& request, const Outco
     std::ostream& out = console.out;
     out << outcome.printed << Printable(feature) << ": ";
     if (outcome.isRefused) {
-        const Verdict& why = outcome.verdict;
-        const std::string id = Styled(why.messageId, Style::Refusal, console.screen);
-        out << "refused" << (why.messageId.empty() ? "" : " (" + id + ")") << ", the name stays "
-            << Quoted(outcome.former) << '\n';
+        const Verdict& verdict = outcome.verdict;
+        const std::string id = Styled(verdict.messageId, Style::Refusal, console.screen);
+        out << "refused" << (verdict.messageId.empty() ? "" : " (" + id + ")") << "; the name is still "
+            << Quoted(outcome.oldName) << '\n';
         if (outcome.printed.empty())
-            out << "  " << Printable(why.message) << '\n';
+            out << "  " << Printable(verdict.message) << '\n';
         return;
     }
-    out << Quoted(outcome.former) << " -> " << Quoted(outcome.now);
-    out << (outcome.now != request.name ? " (blanks and underscores at the ends dropped)\n" : "\n");
+    out << Quoted(outcome.oldName) << " -> " << Quoted(outcome.newName);
+    out << (outcome.newName != request.name ? " (without spaces and underscores at its ends)\n" : "\n");
     if (outcome.verdict.IsRefusal())
-        out << "  taken although an audit refuses it, since this type of feature guards no names: "
+        out << "  stored, because features of this type accept any name; an audit refuses it: "
             << outcome.verdict.messageId << "  " << Printable(outcome.verdict.message) << '\n';
 }
 
 void PrintAsJson(const std::string& feature, const RenameRequest& request, const Outcome& outcome, Console console) {
-    nlohmann::ordered_json said{{"feature", feature},
+    nlohmann::ordered_json json{{"feature", feature},
                                 {"renamed", !outcome.isRefused},
-                                {"former", outcome.former},
+                                {"former", outcome.oldName},
                                 {"requested", request.name},
-                                {"name", outcome.now},
+                                {"name", outcome.newName},
                                 {"printed", outcome.printed},
                                 {"legal", !outcome.verdict.IsRefusal()}};
     if (outcome.verdict.IsRefusal()) {
-        said["messageId"] = outcome.verdict.messageId;
-        said["message"] = outcome.verdict.message;
+        json["messageId"] = outcome.verdict.messageId;
+        json["message"] = outcome.verdict.message;
     }
-    PrintJson(console.out, said);
+    PrintJson(console.out, json);
 }
 
-/// The document with the new name, where it was asked for.
+/// Writes the changed document to the file or to standard output.
 void WriteDocument(const std::string& bytes, const RenameRequest& request, const std::string& target, Console console) {
     if (target != kStandardStream) {
         ReplaceWholeFile(target, bytes, request.document);
         return;
     }
     if (!console.out.write(bytes.data(), static_cast<std::streamsize>(bytes.size())).flush())
-        throw BadInput("the document cannot be written on standard output");
+        throw BadInput("the document cannot be written to standard output");
 }
 
 } // namespace
@@ -129,12 +131,12 @@ int RenameFeature(const RenameRequest& request, Console console) {
     const std::string feature = DisplayPath(*loaded, entry);
     const Outcome outcome = ApplyName(loaded->entries[entry].feature, name);
     const std::string& target = request.output.empty() ? request.document : request.output;
-    // The file is written before anything is told, so that nothing is told that did not happen.
-    const bool isOther = outcome.now != outcome.former || !request.output.empty() || target == kStandardStream;
-    const bool isToWrite = !outcome.isRefused && isOther;
-    if (isToWrite)
-        WriteDocument(TextWithName(*loaded, entry, outcome.now), request, target, console);
-    // A document on standard output stands there alone.
+    // Writes the file before printing the result, so that no renaming is reported that failed.
+    const bool needsOutput = outcome.newName != outcome.oldName || !request.output.empty() || target == kStandardStream;
+    const bool mustWrite = !outcome.isRefused && needsOutput;
+    if (mustWrite)
+        WriteDocument(TextWithName(*loaded, entry, outcome.newName), request, target, console);
+    // Standard output contains either the document or the messages.
     const Console messages =
         target == kStandardStream ? Console{console.err, console.err, {}, console.isJson} : console;
     (console.isJson ? PrintAsJson : Print)(feature, request, outcome, messages);

@@ -1,16 +1,16 @@
-# Completes the command line of qvrnames in bash: source it, or install it as
+# Completion of the command line of qvrnames in bash. Source this file, or install it as
 # share/bash-completion/completions/qvrnames.
 
 _qvrnames() {
     local common='--json --color --language --help' current=${COMP_WORDS[COMP_CWORD]} before=${COMP_WORDS[COMP_CWORD - 1]}
     local command='' place=0 word skip=0 options words=''
-    # bash takes "--color=never" apart.
+    # bash splits "--color=never" into three words.
     if [ "$current" = = ]; then
         current=''
     elif [ "$before" = = ]; then
         before=${COMP_WORDS[COMP_CWORD - 2]}
     fi
-    # The command, and how many of its words stand before this one.
+    # Find the command and the number of its arguments before the current word.
     for word in "${COMP_WORDS[@]:1:COMP_CWORD-1}"; do
         if [ "$skip" = 1 ] && [ "$word" != = ]; then
             skip=0

@@ -27,6 +27,8 @@ inline constexpr std::size_t kDocumentKeys = static_cast<std::size_t>(DocumentKe
 
 /// Returns the key with this spelling, or nothing if objects of the kind do not take it.
 std::optional<DocumentKey> FindDocumentKey(std::string_view spelling, MemoryKind kind);
+/// Returns the key as it is written in the file.
+/// @pre `key` is not Count
 const char* SpellingOf(DocumentKey key);
 /// Returns the spellings of all keys that objects of the kind take.
 std::vector<std::string> KeysFor(MemoryKind kind);

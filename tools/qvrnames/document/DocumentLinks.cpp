@@ -32,7 +32,8 @@ void Connect(LinkKind kind, MemoryFeature from, MemoryFeature to) {
     }
 }
 
-/// The father of each object: the one that its place in the file gives, unless the file tells another.
+/// The father of each object: by default the object around it in the file, the history for steps and the model for job
+/// containers; otherwise the one that its key "father" refers to.
 class Fathers {
 public:
     explicit Fathers(const LoadedDocument& loaded) {
@@ -49,7 +50,8 @@ public:
     }
     void Set(std::uint32_t child, std::uint32_t father) { m_father[child] = father; }
 
-    /// Over all questions each object is passed once.
+    /// Returns true if the fathers of `from` lead back to an object among them. All calls together visit each object
+    /// once.
     bool IsOnCycle(std::uint32_t from) {
         ++m_walk;
         for (std::uint32_t at = from; at != DocumentEntry::kNone; at = m_father[at]) {
@@ -62,7 +64,7 @@ public:
 
 private:
     std::vector<std::uint32_t> m_father;
-    std::vector<std::uint32_t> m_visited; // by which walk; 0 for none
+    std::vector<std::uint32_t> m_visited; // the number of the walk that visited the object; 0 if none
     std::uint32_t m_walk = 0;
 };
 
@@ -80,7 +82,7 @@ std::uint32_t DocumentLinks::TargetOf(const LoadedDocument& loaded, const Link& 
         known.push_back(name);
     std::sort(known.begin(), known.end());
     link.to.ThrowError("no object has the id \"" + id + "\"; " +
-                       (known.empty() ? "none in this file has one" : Suggestion(id, known)));
+                       (known.empty() ? "the file contains no ids" : Suggestion(id, known)));
 }
 
 void DocumentLinks::ResolveLinks(LoadedDocument& loaded) const {
@@ -88,7 +90,7 @@ void DocumentLinks::ResolveLinks(LoadedDocument& loaded) const {
     for (const Link& link : m_links) {
         const std::uint32_t target = TargetOf(loaded, link);
         if (link.kind == LinkKind::Member && target == link.from)
-            link.to.ThrowError("a set cannot hold itself");
+            link.to.ThrowError("a set cannot contain itself");
         if (link.kind == LinkKind::Father)
             fathers.Set(link.from, target);
         Connect(link.kind, loaded.entries[link.from].feature,
@@ -96,5 +98,5 @@ void DocumentLinks::ResolveLinks(LoadedDocument& loaded) const {
     }
     for (const Link& link : m_links)
         if (link.kind == LinkKind::Father && fathers.IsOnCycle(link.from))
-            link.to.ThrowError("the fathers lead in a circle");
+            link.to.ThrowError("the fathers form a cycle");
 }

@@ -7,8 +7,8 @@
 #include <optional>
 #include <utility>
 
-// How a document file becomes an analysis document: one pass over the objects of the file, then one over
-// their references. The order of the keys in an object means nothing.
+// Builds the analysis document from a document file: one pass over the objects, then one over their references. The
+// order of the keys in a JSON object is not significant.
 
 namespace {
 
@@ -19,7 +19,7 @@ public:
     void Read() {
         const JsonValue root = m_loaded.text.Root();
         const ObjectFields fields(root, MemoryKind::Model);
-        m_loaded.entries.push_back({.feature = m_loaded.document.Model(), .begin = Offset(root)});
+        m_loaded.entries.push_back({.feature = m_loaded.document.Model(), .offset = Offset(root)});
         Describe(0, fields);
         ReadChildren(0, MemoryKind::Model, fields);
         m_links.ResolveLinks(m_loaded);
@@ -30,68 +30,67 @@ public:
 private:
     static std::uint32_t Offset(JsonValue value) { return static_cast<std::uint32_t>(value.Begin()); }
 
-    /// The object and all below it.
-    void ReadObject(JsonValue object, const ChildKey& place, std::uint32_t parent, std::uint32_t index) {
-        const ObjectFields fields(object, place.kind);
+    /// Creates the object and all objects below it.
+    void ReadObject(JsonValue object, const ChildKey& child, std::uint32_t parent, std::uint32_t index) {
+        const ObjectFields fields(object, child.kind);
         const JsonValue type = fields[DocumentKey::Type];
-        if (!type && place.defaultType == nullptr)
-            object.ThrowError("expected the key \"type\", the late type of the object");
-        const std::string lateType = type ? ReadNonEmptyText(type) : place.defaultType;
+        if (!type && child.defaultType == nullptr)
+            object.ThrowError("the key \"type\", the late type of the object, is missing");
+        const std::string lateType = type ? ReadNonEmptyText(type) : child.defaultType;
         const JsonValue name = fields[DocumentKey::Name];
-        const MemoryFeature made =
-            CreateObject(place, parent, lateType.c_str(), name ? ReadText(name) : ZFXUnicodeString());
+        const MemoryFeature created =
+            CreateObject(child, parent, lateType.c_str(), name ? ReadText(name) : ZFXUnicodeString());
         const auto entry = static_cast<std::uint32_t>(m_loaded.entries.size());
-        m_loaded.entries.push_back({made, Offset(object), parent, index, place.key, static_cast<bool>(name)});
+        m_loaded.entries.push_back({created, Offset(object), parent, index, child.key, static_cast<bool>(name)});
         Describe(entry, fields);
-        if (place.kind == MemoryKind::Case)
-            DescribeCase(made, fields);
-        ReadChildren(entry, place.kind, fields);
+        if (child.kind == MemoryKind::Case)
+            DescribeCase(created, fields);
+        ReadChildren(entry, child.kind, fields);
     }
 
-    MemoryFeature CreateObject(const ChildKey& place, std::uint32_t parent, const char* type,
+    MemoryFeature CreateObject(const ChildKey& child, std::uint32_t parent, const char* type,
                                const ZFXUnicodeString& name) {
         MemoryFeature above = m_loaded.entries[parent].feature;
-        if (place.key == DocumentKey::MeshManager)
+        if (child.key == DocumentKey::MeshManager)
             return m_loaded.document.MeshManager().Alias(name);
-        if (place.key == DocumentKey::Steps)
+        if (child.key == DocumentKey::Steps)
             above = above.History();
-        if (place.key == DocumentKey::Jobs && m_loaded.entries[parent].key == DocumentKey::Cases)
+        if (child.key == DocumentKey::Jobs && m_loaded.entries[parent].key == DocumentKey::Cases)
             above = m_jobs;
-        MemoryFeature made = above.Add(place.kind, type, name);
-        if (place.kind == MemoryKind::Material)
-            made.MaterialName(name); // the usual case
-        return made;
+        MemoryFeature created = above.Add(child.kind, type, name);
+        if (child.kind == MemoryKind::Material)
+            created.MaterialName(name); // default, which the key "materialName" replaces
+        return created;
     }
 
     void ReadChildren(std::uint32_t entry, MemoryKind kind, const ObjectFields& fields) {
-        for (const ChildKey& place : kChildKeys) {
-            const JsonValue value = fields[place.key];
-            if (!value || IsNullHistory(place.key, value))
+        for (const ChildKey& child : kChildKeys) {
+            const JsonValue value = fields[child.key];
+            if (!value || IsNullHistory(child.key, value))
                 continue;
-            if (!place.isList) {
-                ReadObject(value, place, entry, DocumentEntry::kNone);
+            if (!child.isList) {
+                ReadObject(value, child, entry, DocumentEntry::kNone);
                 continue;
             }
             ExpectKind(value, JsonKind::Array);
             value.ForEachElement([&](std::size_t index, JsonValue element) {
-                ReadElement(element, place, entry, static_cast<std::uint32_t>(index), kind);
+                ReadElement(element, child, entry, static_cast<std::uint32_t>(index), kind);
             });
         }
     }
 
-    /// An element of a list: an object that is made here or, on a side of a connection, one that is told by
-    /// its id.
-    void ReadElement(JsonValue element, const ChildKey& place, std::uint32_t entry, std::uint32_t index,
+    /// Creates the object of a list element. On a side of a connection, the element may instead be the id of an object.
+    void ReadElement(JsonValue element, const ChildKey& child, std::uint32_t entry, std::uint32_t index,
                      MemoryKind kind) {
-        const std::optional<LinkKind> side = SideOf(place.key, kind);
+        const std::optional<LinkKind> side = SideOf(child.key, kind);
         if (side && element.Kind() == JsonKind::String) {
             m_links.Add(*side, entry, element);
             return;
         }
-        const auto made = static_cast<std::uint32_t>(m_loaded.entries.size());
-        ReadObject(element, place, entry, index);
+        const auto created = static_cast<std::uint32_t>(m_loaded.entries.size());
+        ReadObject(element, child, entry, index);
         if (side)
-            m_links.Add(*side, entry, made);
+            m_links.Add(*side, entry, created);
     }
 
     /// Returns how the elements of the list are linked to the owner of the list; nothing if they are only below it.
@@ -120,11 +119,11 @@ private:
     void RegisterId(JsonValue value, std::uint32_t entry) {
         const std::string id = ReadNonEmptyText(value);
         if (id.front() == '/')
-            value.ThrowError("expected an id that does not begin with \"/\", as JSON pointers do");
+            value.ThrowError("an id must not begin with \"/\", which marks a JSON pointer");
         const auto [known, isNew] = m_loaded.ids.emplace(id, entry);
         if (!isNew)
-            value.ThrowError("the id \"" + id + "\" is that of another object, at " +
-                             m_loaded.text.LineAndColumn(m_loaded.entries[known->second].begin));
+            value.ThrowError("duplicate id \"" + id + "\", first used at " +
+                             m_loaded.text.LineAndColumn(m_loaded.entries[known->second].offset));
     }
 
     void AddLinks(LinkKind kind, std::uint32_t entry, JsonValue list) {
@@ -140,31 +139,31 @@ private:
         m_links.Add(kind, entry, reference);
     }
 
-    void DescribeCase(MemoryFeature made, const ObjectFields& fields) {
-        ReadCurrent(made, fields[DocumentKey::Current]);
+    void DescribeCase(MemoryFeature created, const ObjectFields& fields) {
+        ReadCurrent(created, fields[DocumentKey::Current]);
         const JsonValue history = fields[DocumentKey::History];
         const JsonValue steps = fields[DocumentKey::Steps];
         if (steps && IsNullHistory(DocumentKey::History, history))
-            steps.ThrowError("expected no steps in a case whose \"history\" is null");
+            steps.ThrowError("a case with \"history\": null cannot have steps");
         if (!history)
-            made.Add(MemoryKind::History, LateTypes::QVROruSimHistLT, {});
+            created.Add(MemoryKind::History, LateTypes::QVROruSimHistLT, {});
         m_jobs = {};
         if (fields[DocumentKey::Jobs])
-            m_jobs = made.Add(MemoryKind::JobContainer, LateTypes::QVRJobContainerLT, {});
+            m_jobs = created.Add(MemoryKind::JobContainer, LateTypes::QVRJobContainerLT, {});
     }
 
-    /// The first case is current unless it says that it is not, or another says that it is.
-    void ReadCurrent(MemoryFeature made, JsonValue current) {
+    /// Applies the key "current". By default the first case is current.
+    void ReadCurrent(MemoryFeature created, JsonValue current) {
         if (!std::exchange(m_hasCase, true)) {
-            m_firstCase = made;
+            m_firstCase = created;
             m_firstIsCurrent = !current;
         }
         if (!current || !ReadBool(current))
             return;
         if (std::exchange(m_hasCurrent, true))
-            current.ThrowError("another case is current already");
+            current.ThrowError("another case is already current");
         m_firstIsCurrent = false;
-        m_loaded.document.MakeCurrent(made);
+        m_loaded.document.MakeCurrent(created);
     }
 
     static bool IsNullHistory(DocumentKey key, JsonValue value) {
@@ -174,7 +173,7 @@ private:
     LoadedDocument& m_loaded;
     DocumentLinks m_links;
     MemoryFeature m_firstCase;
-    MemoryFeature m_jobs; // the container of the jobs that a case tells without one
+    MemoryFeature m_jobs; // the container for the key "jobs" of the case that is being read
     bool m_hasCase = false;
     bool m_firstIsCurrent = false;
     bool m_hasCurrent = false;

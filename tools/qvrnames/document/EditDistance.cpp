@@ -12,11 +12,11 @@ char Lower(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + '
 double SubstitutionCost(char a, char b) { return a == b ? 0 : Lower(a) == Lower(b) ? 0.5 : 1; }
 
 std::string JoinFirst(const std::vector<std::string>& words) {
-    constexpr std::size_t kMost = 40;
+    constexpr std::size_t kMaxWords = 40;
     std::string list;
-    for (std::size_t i = 0; i < std::min(words.size(), kMost); ++i)
+    for (std::size_t i = 0; i < std::min(words.size(), kMaxWords); ++i)
         list += (i == 0 ? "" : ", ") + words[i];
-    return words.size() > kMost ? list + " and " + std::to_string(words.size() - kMost) + " more" : list;
+    return words.size() > kMaxWords ? list + " and " + std::to_string(words.size() - kMaxWords) + " more" : list;
 }
 
 } // namespace
@@ -25,7 +25,8 @@ double EditDistance(std::string_view a, std::string_view b, double limit) {
     const auto difference = static_cast<double>(a.size()) - static_cast<double>(b.size());
     if (std::abs(difference) >= limit)
         return limit;
-    // The distances of the beginnings of b from those of a that are one and two characters shorter.
+    // Rows of the distance matrix: row[i] is the distance of the first n - 1 characters of a from the first i of b, and
+    // former[i] that of the first n - 2.
     std::vector<double> former(b.size() + 1);
     std::vector<double> row(b.size() + 1);
     std::iota(row.begin(), row.end(), 0.0);
@@ -46,7 +47,7 @@ std::string Suggestion(std::string_view word, const std::vector<std::string>& kn
     double nearest = 1 + static_cast<double>(word.size()) / 3;
     const std::string* found = nullptr;
     for (const std::string& candidate : known) {
-        // The beginning of a word means it.
+        // An abbreviation is the best match.
         const bool isBeginning = word.size() > 2 && candidate.starts_with(word);
         const double distance = isBeginning ? 0.5 : EditDistance(word, candidate, nearest);
         if (distance >= nearest)

@@ -4,9 +4,9 @@
 #include <string_view>
 #include <vector>
 
-/// How many characters must be put in, left out, changed or swapped with the next to make one text the other;
-/// letter case counts as half a change. Anything from `limit` on is answered as `limit`.
-double EditDistance(std::string_view a, std::string_view b, double limit);
+/// Returns the number of characters to insert, delete, replace or swap with the next one to turn one text into the
+/// other. A change of letter case counts as 0.5. Returns `limit` if the number is not smaller.
+[[nodiscard]] double EditDistance(std::string_view a, std::string_view b, double limit);
 
-/// What to tell about a word that is not known: "did you mean \"type\"?", or the words that are.
-std::string Suggestion(std::string_view word, const std::vector<std::string>& known);
+/// Returns a hint for an unknown word: "did you mean \"type\"?" if a known word is similar, else the known words.
+[[nodiscard]] std::string Suggestion(std::string_view word, const std::vector<std::string>& known);

@@ -5,6 +5,7 @@
 #include "terminal/DisplayWidth.h"
 
 #include <algorithm>
+#include <cassert>
 #include <optional>
 
 namespace {
@@ -23,16 +24,16 @@ bool EndsWithSegments(const std::string& path, const std::string& reference) {
            path[path.size() - reference.size() - 1] == '/';
 }
 
-/// As many parts of the end of the path as the reference have.
+/// Returns as many segments from the end of the path as the reference has.
 std::string LastSegments(const std::string& reference, const std::string& path) {
     auto begin = path.size();
-    for (auto parts = std::count(reference.begin(), reference.end(), '/') + 1; parts > 0 && begin != std::string::npos;
-         --parts)
+    for (auto count = std::count(reference.begin(), reference.end(), '/') + 1; count > 0 && begin != std::string::npos;
+         --count)
         begin = begin == 0 ? std::string::npos : path.rfind('/', begin - 1);
     return begin == std::string::npos ? path : path.substr(begin + 1);
 }
 
-/// The features whose ids, paths or ends of paths come near to the reference, the nearest first.
+/// Returns the objects whose id, or whose path or the end of it, is similar to the reference, the most similar first.
 Entries ClosestEntries(const LoadedDocument& loaded, std::string reference) {
     reference.erase(reference.find_last_not_of('/') + 1);
     const double limit = 1 + static_cast<double>(reference.size()) / 3;
@@ -49,7 +50,7 @@ Entries ClosestEntries(const LoadedDocument& loaded, std::string reference) {
     return nearest;
 }
 
-/// The named objects whose pointers begin most like this one, in document order.
+/// Returns the named objects that share the longest beginning of their pointers with `pointer`, in document order.
 Entries EntriesNear(const LoadedDocument& loaded, const std::string& pointer) {
     Entries neighbours;
     std::size_t longest = 0;
@@ -77,11 +78,11 @@ std::string CandidateLines(const LoadedDocument& loaded, const Entries& entries)
 }
 
 std::optional<std::uint32_t> FindByPointer(const LoadedDocument& loaded, const std::string& pointer) {
-    const JsonValue value = loaded.text.At(pointer);
+    const JsonValue value = loaded.text.Find(pointer);
     if (!value)
         return std::nullopt;
     for (std::uint32_t entry = 0; entry < loaded.entries.size(); ++entry)
-        if (loaded.entries[entry].begin == value.Begin())
+        if (loaded.entries[entry].offset == value.Begin())
             return entry;
     return std::nullopt;
 }
@@ -102,6 +103,7 @@ Entries FindByPath(const LoadedDocument& loaded, const std::string& reference) {
 } // namespace
 
 std::string PathOf(const LoadedDocument& loaded, std::uint32_t entry) {
+    assert(entry < loaded.entries.size());
     std::string path;
     for (; entry != DocumentEntry::kNone; entry = loaded.entries[entry].parent) {
         if (!loaded.entries[entry].isNamed)
@@ -114,6 +116,7 @@ std::string PathOf(const LoadedDocument& loaded, std::uint32_t entry) {
 }
 
 std::string PointerOf(const LoadedDocument& loaded, std::uint32_t entry) {
+    assert(entry < loaded.entries.size());
     std::string pointer;
     for (; loaded.entries[entry].parent != DocumentEntry::kNone; entry = loaded.entries[entry].parent) {
         const DocumentEntry& at = loaded.entries[entry];
@@ -126,6 +129,7 @@ std::string PointerOf(const LoadedDocument& loaded, std::uint32_t entry) {
 }
 
 std::string DisplayPath(const LoadedDocument& loaded, std::uint32_t entry) {
+    assert(entry < loaded.entries.size());
     return loaded.entries[entry].isNamed ? PathOf(loaded, entry) : PointerOf(loaded, entry);
 }
 
@@ -135,7 +139,8 @@ std::uint32_t FindEntry(const LoadedDocument& loaded, const std::string& referen
     if (reference.starts_with('/')) {
         if (const auto found = FindByPointer(loaded, reference))
             return *found;
-        throw BadInput("the JSON pointer \"" + reference + "\" leads to no object of the document; near it are:" +
+        throw BadInput("the JSON pointer \"" + reference +
+                       "\" does not lead to an object of the document; nearby objects:" +
                        CandidateLines(loaded, EntriesNear(loaded, reference)));
     }
     const Entries found = FindByPath(loaded, reference);
@@ -143,12 +148,12 @@ std::uint32_t FindEntry(const LoadedDocument& loaded, const std::string& referen
         return found.front();
     if (found.empty()) {
         const Entries nearest = ClosestEntries(loaded, reference);
-        throw BadInput("no feature has the id, the path or the end of a path \"" + reference + "\"; " +
-                       (nearest.empty() ? "there are:" + CandidateLines(loaded, NamedEntries(loaded))
+        throw BadInput("no feature has the id or path \"" + reference + "\"; " +
+                       (nearest.empty() ? "available features:" + CandidateLines(loaded, NamedEntries(loaded))
                                         : "did you mean:" + CandidateLines(loaded, nearest)));
     }
     throw BadInput("\"" + reference +
-                   "\" may be each of these features; tell one by its id, its whole path or its"
-                   " JSON pointer:" +
+                   "\" matches several features; specify one by its id, its full path or its JSON"
+                   " pointer:" +
                    CandidateLines(loaded, found));
 }

@@ -4,17 +4,17 @@
 
 #include <string>
 
-// How an object of a document is told to people and by them.
+// Formats and parses references to objects of a document.
 
-/// The names from the case down to the object, such as "Static/Step-1/Pressure-1"; objects without a name in
-/// the file are left out.
-std::string PathOf(const LoadedDocument& loaded, std::uint32_t entry);
-/// The JSON pointer of the object in the file.
-std::string PointerOf(const LoadedDocument& loaded, std::uint32_t entry);
-/// The path of a named object, the pointer of another.
-std::string DisplayPath(const LoadedDocument& loaded, std::uint32_t entry);
+/// Returns the names from the case down to the object, such as "Static/Step-1/Pressure-1". Objects without a name in
+/// the file are skipped.
+[[nodiscard]] std::string PathOf(const LoadedDocument& loaded, std::uint32_t entry);
+/// Returns the JSON pointer of the object in the file.
+[[nodiscard]] std::string PointerOf(const LoadedDocument& loaded, std::uint32_t entry);
+/// Returns the path of a named object, or the JSON pointer of an unnamed one.
+[[nodiscard]] std::string DisplayPath(const LoadedDocument& loaded, std::uint32_t entry);
 
-/// The object that the reference mean: an id, a JSON pointer (which begins with "/"), a path of names, or the
-/// last part of a path when only one ends so. BadInput, with the objects that may be meant, for anything
-/// else.
-std::uint32_t FindEntry(const LoadedDocument& loaded, const std::string& reference);
+/// Returns the object, named or not, to which a reference leads. The reference is, in this order: an id; a JSON
+/// pointer, which begins with "/"; a path; the last part of a path, if only one path ends with it. Throws BadInput with
+/// a list of candidates if there is no such object or if there are several.
+[[nodiscard]] std::uint32_t FindEntry(const LoadedDocument& loaded, const std::string& reference);

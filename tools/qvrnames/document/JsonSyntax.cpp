@@ -3,8 +3,8 @@
 
 #include <nlohmann/json.hpp>
 
-// The one question whether a text is JSON. The answer builds no tree and goes into no recursion, whatever the
-// text.
+// Checks that a text is JSON. The check builds no tree and does not recurse, so that a hostile text can exhaust neither
+// memory nor stack.
 
 namespace {
 
@@ -38,8 +38,8 @@ private:
         return true;
     }
 
-    /// The reason alone: the offset is told by the caller, and what was read last may be half the file or no
-    /// proper text.
+    /// Removes the location, which the caller reports as line and column, and the text read last, which may be half the
+    /// file or ill-formed.
     static std::string WithoutLocation(std::string reason) {
         if (const auto column = reason.find("column "); column != std::string::npos)
             reason.erase(0, reason.find(": ", column) + 2);

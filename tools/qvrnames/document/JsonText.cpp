@@ -5,6 +5,7 @@
 #include <nlohmann/json.hpp>
 
 #include <algorithm>
+#include <cassert>
 
 namespace {
 
@@ -34,13 +35,17 @@ JsonValue JsonText::Root() const {
     return {this, SkipSpace(m_bytes.starts_with(kByteOrderMark) ? kByteOrderMark.size() : 0)};
 }
 
-JsonValue JsonText::ValueAt(std::size_t offset) const { return {this, offset}; }
+JsonValue JsonText::ValueAt(std::size_t offset) const {
+    assert(offset < m_bytes.size());
+    return {this, offset};
+}
 
 std::size_t JsonText::SkipSpace(std::size_t offset) const noexcept {
     return std::min(m_bytes.find_first_not_of(" \t\r\n", offset), m_bytes.size());
 }
 
 std::size_t JsonText::EndOfString(std::size_t offset) const noexcept {
+    assert(m_bytes[offset] == '"');
     ++offset;
     while (m_bytes[offset] != '"')
         offset += m_bytes[offset] == '\\' ? 2 : 1;
@@ -65,7 +70,8 @@ std::size_t JsonText::EndOfValue(std::size_t offset) const noexcept {
     return offset;
 }
 
-/// Where the first bracket beyond the deepest level stands. The text is JSON up to there.
+/// Returns the offset of the first bracket that is nested too deeply.
+/// @pre the text is JSON up to that bracket
 std::size_t JsonText::OffsetBeyondMaxDepth() const {
     std::size_t offset = 0;
     for (int depth = 0; offset < m_bytes.size();) {
@@ -79,7 +85,7 @@ std::size_t JsonText::OffsetBeyondMaxDepth() const {
     return offset;
 }
 
-JsonValue JsonText::At(std::string_view pointer) const {
+JsonValue JsonText::Find(std::string_view pointer) const {
     JsonValue value = Root();
     while (value && !pointer.empty()) {
         if (pointer.front() != '/')
@@ -122,16 +128,17 @@ std::string JsonText::PointerTo(std::size_t offset) const {
 std::string JsonText::LineAndColumn(std::size_t offset) const {
     const std::string_view before = std::string_view(m_bytes).substr(0, offset);
     const auto lines = std::count(before.begin(), before.end(), '\n');
-    std::string_view line = before.substr(before.rfind('\n') + 1); // npos + 1 is the beginning
+    std::string_view line = before.substr(before.rfind('\n') + 1); // in the first line, npos + 1 is 0
     if (line.starts_with(kByteOrderMark))
         line.remove_prefix(kByteOrderMark.size());
     const auto characters = std::count_if(line.begin(), line.end(), [](char c) {
-        return (static_cast<unsigned char>(c) & 0xC0U) != 0x80U; // what goes on with a character has 10 in front
+        return (static_cast<unsigned char>(c) & 0xC0U) != 0x80U; // the bits 10 mark a continuation byte
     });
     return "line " + std::to_string(lines + 1) + ", column " + std::to_string(characters + 1);
 }
 
 JsonKind JsonValue::Kind() const {
+    assert(m_text != nullptr);
     switch (m_text->m_bytes[m_begin]) {
     case '{':
         return JsonKind::Object;
@@ -156,6 +163,7 @@ std::string_view JsonValue::Literal() const {
 }
 
 std::string JsonValue::Text() const {
+    assert(Kind() == JsonKind::String);
     const std::string_view literal = Literal();
     if (literal.find('\\') != std::string_view::npos)
         return nlohmann::json::parse(literal).get<std::string>();
@@ -194,6 +202,6 @@ void JsonValue::ForEachElement(const ElementVisitor& visit) const {
 
 void JsonValue::ThrowError(const std::string& message) const {
     const std::string pointer = m_text->PointerTo(m_begin);
-    const std::string offset = m_text->LineAndColumn(m_begin);
-    throw BadInput((pointer.empty() ? offset : pointer + " (" + offset + ")") + ": " + message);
+    const std::string position = m_text->LineAndColumn(m_begin);
+    throw BadInput((pointer.empty() ? position : pointer + " (" + position + ")") + ": " + message);
 }

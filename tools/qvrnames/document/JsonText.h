@@ -5,33 +5,39 @@
 #include <string>
 #include <string_view>
 
+// JSON without a tree. A document of many megabytes is parsed once and one name of it is patched, so a value is only an
+// offset into the text: errors can report its position, and the rest of the file stays as it is, byte for byte.
+// Offsets are in bytes from the beginning of the text.
+
 class JsonText;
 
 enum class JsonKind { Object, Array, String, Number, Boolean, Null };
 
-/// A value in a JSON text: no more than the offset where it begins, so that a document of many megabytes needs
-/// no tree beside its text, and so that every value knows where to blame and what to patch. An empty one
-/// stands for a value that is not there.
+/// A value in a JSON text, or no value if default-constructed. Valid as long as the text exists. Except for the
+/// conversion to bool and for Begin, the members require a value.
 class JsonValue {
 public:
     JsonValue() = default;
 
     explicit operator bool() const noexcept { return m_text != nullptr; }
     JsonKind Kind() const;
-    /// Where its first character stands, and where the next one after its last.
+    /// Returns the offset of the first character.
     std::size_t Begin() const noexcept { return m_begin; }
+    /// Returns the offset after the last character.
     std::size_t End() const;
-    /// As it is written, the quotes of a string included.
+    /// Returns the value as it is written in the text, including the quotes of a string.
     std::string_view Literal() const;
-    /// The text of a string, in UTF-8.
+    /// Returns the content of a string without quotes and escapes, in UTF-8.
+    /// @pre the kind is String
     std::string Text() const;
 
     using MemberVisitor = std::function<void(JsonValue key, JsonValue value)>;
     using ElementVisitor = std::function<void(std::size_t index, JsonValue element)>;
-    /// The members of an object and the elements of an array, in order; of anything else, none.
+    /// Visits the members of an object in order. Other values have none.
     void ForEachMember(const MemberVisitor& visit) const;
+    /// Visits the elements of an array in order. `index` is 0-based. Other values have none.
     void ForEachElement(const ElementVisitor& visit) const;
-    /// Ends the reading: BadInput with the JSON pointer of this value, its line and its column.
+    /// Throws BadInput with the JSON pointer, line and column of this value before the message.
     [[noreturn]] void ThrowError(const std::string& message) const;
 
 private:
@@ -42,10 +48,10 @@ private:
     std::size_t m_begin = 0;
 };
 
-/// A text that is JSON, made sure of when it is built.
+/// A text that is valid JSON.
 class JsonText {
 public:
-    /// BadInput with line and column when it is none, or when it is nested more deeply than kMaxDepth.
+    /// Throws BadInput with line and column if the text is not JSON or is nested more deeply than kMaxDepth.
     explicit JsonText(std::string text);
     JsonText(const JsonText&) = delete;
     JsonText& operator=(const JsonText&) = delete;
@@ -54,20 +60,21 @@ public:
 
     const std::string& Bytes() const noexcept { return m_bytes; }
     JsonValue Root() const;
-    /// The value that is known to begin there.
+    /// Returns the value that begins at the offset.
+    /// @pre a value begins there
     JsonValue ValueAt(std::size_t offset) const;
-    /// The value that a JSON pointer leads to; empty when it leads nowhere.
-    JsonValue At(std::string_view pointer) const;
-    /// The way to the value that begins at this offset, or to the innermost one around it.
-    std::string PointerTo(std::size_t offset) const;
-    /// "line 3, column 17"; a column counts characters.
-    std::string LineAndColumn(std::size_t offset) const;
+    /// Returns the value to which a JSON pointer leads, or no value.
+    [[nodiscard]] JsonValue Find(std::string_view pointer) const;
+    /// Returns the JSON pointer of the value that begins at the offset, or of the innermost value around it.
+    [[nodiscard]] std::string PointerTo(std::size_t offset) const;
+    /// Returns the position as "line 3, column 17". Both are 1-based; a column is a character.
+    [[nodiscard]] std::string LineAndColumn(std::size_t offset) const;
 
 private:
     friend class JsonValue;
     void CheckSyntax() const;
     std::size_t OffsetBeyondMaxDepth() const;
-    /// The first offset from here on that is no white space.
+    /// Returns the offset of the first character that is not white space, or the length of the text.
     std::size_t SkipSpace(std::size_t offset) const noexcept;
     std::size_t EndOfString(std::size_t offset) const noexcept;
     std::size_t EndOfValue(std::size_t offset) const noexcept;

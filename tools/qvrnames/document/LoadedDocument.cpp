@@ -11,18 +11,18 @@ std::vector<std::uint32_t> NamedEntries(const LoadedDocument& loaded) {
 }
 
 std::string TextWithName(const LoadedDocument& loaded, std::uint32_t entry, const std::string& name) {
-    const JsonValue object = loaded.text.ValueAt(loaded.entries[entry].begin);
+    const JsonValue object = loaded.text.ValueAt(loaded.entries[entry].offset);
     const std::string literal = nlohmann::json(name).dump();
     std::string bytes = loaded.text.Bytes();
     JsonValue firstKey;
-    JsonValue former;
+    JsonValue oldName;
     object.ForEachMember([&](JsonValue key, JsonValue value) {
         firstKey = firstKey ? firstKey : key;
         if (key.Text() == SpellingOf(DocumentKey::Name))
-            former = value;
+            oldName = value;
     });
-    if (former)
-        return bytes.replace(former.Begin(), former.Literal().size(), literal);
+    if (oldName)
+        return bytes.replace(oldName.Begin(), oldName.Literal().size(), literal);
     const std::string member = nlohmann::json(SpellingOf(DocumentKey::Name)).dump() + ": " + literal;
     if (firstKey)
         return bytes.insert(firstKey.Begin(), member + ", ");

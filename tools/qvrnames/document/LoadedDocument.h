@@ -8,22 +8,22 @@
 #include <unordered_map>
 #include <vector>
 
-/// An object of the document and the place of it in the file.
+/// An object of the document and its position in the file.
 struct DocumentEntry {
     static constexpr std::uint32_t kNone = ~0U;
 
     MemoryFeature feature;
-    std::uint32_t begin = 0;      ///< where its text begins
-    std::uint32_t parent = kNone; ///< the entry that it lies below
-    std::uint32_t index = kNone;  ///< its place in the parent's list; kNone when the key leads to it alone
-    DocumentKey key = DocumentKey::Count;
-    bool isNamed = false; ///< the file gives it a name
+    std::uint32_t offset = 0;     ///< of the JSON object in the file, in bytes
+    std::uint32_t parent = kNone; ///< the entry of the JSON object around this one; kNone for the model
+    std::uint32_t index = kNone;  ///< 0-based position in the list of the parent; kNone if the object is not in a list
+    DocumentKey key = DocumentKey::Count; ///< the key of the parent that leads to this object
+    bool isNamed = false;                 ///< the file contains a name for it
 };
 
-/// A document file and the analysis document that it describes, installed as the document of this process for
-/// as long as this lives. Entry 0 is the analysis model; a parent stands before what lies below it.
+/// A document file and the analysis document built from it. The document is installed as that of the process as long as
+/// this object exists. Entry 0 is the analysis model. A parent comes before the objects below it.
 struct LoadedDocument {
-    /// BadInput for a text that describes no document.
+    /// Throws BadInput with the position of the first error if the text is not a document.
     explicit LoadedDocument(std::string bytes);
 
     JsonText text;
@@ -33,9 +33,9 @@ struct LoadedDocument {
     std::unordered_map<std::string, std::uint32_t> ids;
 };
 
-/// The entries to which the file gives a name, in document order.
-std::vector<std::uint32_t> NamedEntries(const LoadedDocument& loaded);
+/// Returns the entries that have a name in the file, in document order.
+[[nodiscard]] std::vector<std::uint32_t> NamedEntries(const LoadedDocument& loaded);
 
-/// The document's file with another name for one object. Nothing but the bytes of that name differs; an
-/// object that had no name gets the key "name" in front of its others.
-std::string TextWithName(const LoadedDocument& loaded, std::uint32_t entry, const std::string& name);
+/// Returns the text of the file with another name for one entry. All other bytes are unchanged. If the entry has no
+/// name yet, the key "name" is inserted before its other keys.
+[[nodiscard]] std::string TextWithName(const LoadedDocument& loaded, std::uint32_t entry, const std::string& name);

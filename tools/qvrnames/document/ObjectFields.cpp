@@ -13,10 +13,10 @@ ObjectFields::ObjectFields(JsonValue object, MemoryKind kind) {
         const std::optional<DocumentKey> known = FindDocumentKey(spelling, kind);
         if (!known)
             key.ThrowError("unknown key \"" + spelling + "\"; " + Suggestion(spelling, KeysFor(kind)));
-        JsonValue& taken = m_values[static_cast<std::size_t>(*known)];
-        if (taken)
-            key.ThrowError("the key \"" + spelling + "\" stands here twice");
-        taken = value;
+        JsonValue& slot = m_values[static_cast<std::size_t>(*known)];
+        if (slot)
+            key.ThrowError("duplicate key \"" + spelling + "\"");
+        slot = value;
     });
 }
 
@@ -51,9 +51,9 @@ void ObjectFields::ApplyAttributes(MemoryFeature feature) const {
     attributes.ForEachMember([&](JsonValue key, JsonValue value) {
         const std::string name = ReadNonEmptyText(key);
         if (name == "Alias")
-            key.ThrowError(R"(the attribute "Alias" is written as the key "name" of the object)");
+            key.ThrowError(R"(the attribute "Alias" is not allowed here; use the key "name" of the object)");
         if (!known.insert(name).second)
-            key.ThrowError("the key \"" + name + "\" stands here twice");
+            key.ThrowError("duplicate key \"" + name + "\"");
         feature.Attribute(name.c_str(), ReadText(value));
     });
 }
@@ -87,7 +87,7 @@ const char* KindName(JsonKind kind) {
     case JsonKind::Array:
         return "a list";
     case JsonKind::String:
-        return "a text in quotes";
+        return "a string";
     case JsonKind::Number:
         return "a number";
     case JsonKind::Boolean:
@@ -101,8 +101,8 @@ const char* KindName(JsonKind kind) {
 std::string ReadUtf8(JsonValue value) {
     ExpectKind(value, JsonKind::String);
     std::string text = value.Text();
-    if (text.find('\0') != std::string::npos) // a narrow text ends there
-        value.ThrowError("expected a text without the character U+0000");
+    if (text.find('\0') != std::string::npos) // would end a narrow string
+        value.ThrowError("expected a string without the character U+0000");
     return text;
 }
 
@@ -116,10 +116,10 @@ void ExpectKind(JsonValue value, JsonKind kind) {
 ZFXUnicodeString ReadText(JsonValue value) { return ReadUtf8(value).c_str(); }
 
 std::string ReadNonEmptyText(JsonValue value) {
-    std::string word = ReadUtf8(value);
-    if (word.empty())
-        value.ThrowError("expected a text that is not empty");
-    return word;
+    std::string text = ReadUtf8(value);
+    if (text.empty())
+        value.ThrowError("expected a string that is not empty");
+    return text;
 }
 
 bool ReadBool(JsonValue value) {
@@ -133,7 +133,7 @@ int ReadInt(JsonValue value) {
     int number = 0;
     const auto [end, error] = std::from_chars(digits.data(), digits.data() + digits.size(), number);
     if (error != std::errc() || end != digits.data() + digits.size())
-        value.ThrowError("expected a whole number from " + std::to_string(std::numeric_limits<int>::min()) + " to " +
+        value.ThrowError("expected an integer from " + std::to_string(std::numeric_limits<int>::min()) + " to " +
                          std::to_string(std::numeric_limits<int>::max()) + ", found " +
                          std::string(digits.substr(0, 40)));
     return number;

@@ -6,15 +6,17 @@
 
 #include <array>
 
-/// What an object of the file says, by key; empty where it says nothing.
+/// The values of one JSON object of a document file by key, without a search per access.
 class ObjectFields {
 public:
-    /// BadInput for a key that objects of this kind do not take, and for one that stands twice.
+    /// Throws BadInput for a key that objects of the kind do not take, and for a duplicate key.
     ObjectFields(JsonValue object, MemoryKind kind);
 
+    /// Returns the value of the key, or no value if the object does not contain the key.
     JsonValue operator[](DocumentKey key) const { return m_values[static_cast<std::size_t>(key)]; }
 
-    /// Tells the feature what the object says of itself, but for what names other objects.
+    /// Sets the flags, texts, attributes and interfaces of the feature. References to other objects are not handled
+    /// here. Throws BadInput for a value of the wrong kind.
     void ApplyTo(MemoryFeature feature) const;
 
 private:
@@ -25,12 +27,10 @@ private:
     std::array<JsonValue, kDocumentKeys> m_values;
 };
 
-// Values of a document file as what the document needs. Each ends the reading, with the place, for a value
-// that is something else.
+// Typed values. Each function throws BadInput with the position of a value that has another type or is out of range.
 
 void ExpectKind(JsonValue value, JsonKind kind);
-ZFXUnicodeString ReadText(JsonValue value);
-/// A text that is not empty, such as a late type.
-std::string ReadNonEmptyText(JsonValue value);
-bool ReadBool(JsonValue value);
-int ReadInt(JsonValue value);
+[[nodiscard]] ZFXUnicodeString ReadText(JsonValue value);
+[[nodiscard]] std::string ReadNonEmptyText(JsonValue value);
+[[nodiscard]] bool ReadBool(JsonValue value);
+[[nodiscard]] int ReadInt(JsonValue value);

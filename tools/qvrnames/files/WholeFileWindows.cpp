@@ -10,6 +10,7 @@
 #include <filesystem>
 #include <string_view>
 #include <system_error>
+#include <tuple>
 
 #include <windows.h>
 
@@ -33,7 +34,7 @@ public:
     operator HANDLE() const noexcept { return m_file; }
     void Close() noexcept {
         if (IsOpen())
-            CloseHandle(m_file);
+            std::ignore = CloseHandle(m_file);
         m_file = INVALID_HANDLE_VALUE;
     }
 
@@ -76,7 +77,7 @@ public:
     ~TemporaryFile() {
         m_file.Close();
         if (!m_isInPlace)
-            DeleteFileW(m_path.c_str());
+            std::ignore = DeleteFileW(m_path.c_str());
     }
 
     void Write(std::string_view bytes) {
@@ -120,7 +121,7 @@ std::string ReadWholeFile(const std::string& path) {
     if (!file.IsOpen())
         ThrowFileError(path, "read");
     LARGE_INTEGER size{}; // stays 0 for a pipe, which has no size
-    GetFileSizeEx(file, &size);
+    std::ignore = GetFileSizeEx(file, &size);
     return ReadToEnd(path, static_cast<std::size_t>(size.QuadPart), [&](char* buffer, std::size_t capacity) {
         DWORD count = 0;
         if (ReadFile(file, buffer, static_cast<DWORD>(capacity), &count, nullptr) == 0 &&
