@@ -133,7 +133,7 @@ const Operation kOperations[] = {
     {"CreateBaseName", [](Requests& d) { return Requests::Call(d.load, "x", Util::CreateBaseName); }},
     {"IsNameUniqueInSet", [](Requests& d) { return d.InSet(); }},
     {"IsNameUniqueAcrossCases", [](Requests& d) { return Requests::Call(d.job, "job-2", Util::IsNameUniqueAcrossCases); }},
-    {"GetUniqueNameForJob", [](Requests& d) { return Requests::Call("", Util::GetUniqueNameForJob); }},
+    {"GetUniqueNameForJob", [](Requests& /*d*/) { return Requests::Call("", Util::GetUniqueNameForJob); }},
     {"IsUniqueNameForJob", [](Requests& d) { return Requests::Call(d.job, "job-2", Util::IsUniqueNameForJob); }},
     {"GetUniqueNameForMeshPart", [](Requests& d) { return Requests::Call(d.part, "Mesh-", Util::GetUniqueNameForMeshPart); }},
     {"IsNameUnique, a step", [](Requests& d) { return Requests::Call(d.step, "step-2", Util::IsNameUnique); }},
