@@ -50,7 +50,7 @@ constexpr const char* kSetTypes[] = {"QVRLoadContainerLT", "QVRBCContainerLT"};
 constexpr const char* kBases[] = {"p-", "Job-", "JOB-", "", "OrphanMesh-", "a:b", "_ ", "1"};
 
 constexpr int kRequests = static_cast<int>(MemoryRequest::GetCurrentAnalysisCaseSP) + 1;
-constexpr MemoryAnswer kAnswers[] = {{E_UNEXPECTED, false}, {E_UNEXPECTED, true}, {S_OK, false}, {3, true}};
+constexpr MemoryResponse kAnswers[] = {{E_UNEXPECTED, false}, {E_UNEXPECTED, true}, {S_OK, false}, {3, true}};
 
 class Story {
 public:
@@ -66,10 +66,10 @@ public:
     ~Story() { m_utils->ResetAllLists(); }
     void Step() {
         if (m_input->Below(3) == 0)
-            m_model.AnswerOnce(static_cast<MemoryRequest>(m_input->Below(kRequests)), 1 + m_input->Below(40),
-                               OneOf(kAnswers));
+            m_model.FailNth(static_cast<MemoryRequest>(m_input->Below(kRequests)), 1 + m_input->Below(40),
+                            OneOf(kAnswers));
         (this->*OneOf(kRequestsOfAll))();
-        m_model.Heal();
+        m_model.ClearFaults();
         CountOperations(1);
         ExpectSame(m_model.References(), static_cast<long>(m_names.size() + m_materials.size()),
                    "references, beside those of the caches");
@@ -153,9 +153,9 @@ private:
 
     void BuildConnection() {
         MemoryFeature group = m_root.Add(MemoryKind::Group, "G", Name());
-        MemoryFeature connector = m_root.Add(MemoryKind::Connector, "C", "c").LeadTo(group);
-        m_support = m_root.Add(MemoryKind::Support, "S", "s").Connect(connector);
-        m_design = m_root.Add(MemoryKind::ConnectionDesign, "D", "d").Master(connector).Slave(connector);
+        MemoryFeature connector = m_root.Add(MemoryKind::Connector, "C", "c").SetGroup(group);
+        m_support = m_root.Add(MemoryKind::Support, "S", "s").AddConnector(connector);
+        m_design = m_root.Add(MemoryKind::ConnectionDesign, "D", "d").AddMaster(connector).AddSlave(connector);
         m_things.push_back({m_support, Role::Other});
     }
 
@@ -179,7 +179,7 @@ private:
             one.Father(other);
             break;
         case 3:
-            one.Hold(other);
+            one.AddMember(other);
             break;
         case 4:
             one.PointedAtBy(other);
@@ -199,7 +199,7 @@ private:
     Thing& Any() { return m_things[static_cast<std::size_t>(m_input->Below(256)) % m_things.size()]; }
     MemoryFeature AnyCase() { return m_cases[static_cast<std::size_t>(m_input->Below(3)) % m_cases.size()]; }
 
-    bool WasTold() const { return *m_model.LastTold() != '\0'; }
+    bool WasTold() const { return *m_model.LastFault() != '\0'; }
     /// Whether every request was answered on a document without surprises.
     bool IsPlain() const { return !m_strange && !WasTold(); }
 
@@ -359,7 +359,7 @@ private:
             alias->SetAlias(wanted);
         const bool plain = IsPlain();
         const bool told = WasTold();
-        m_model.Heal();
+        m_model.ClearFaults();
         const ZFXUnicodeString stored = thing.feature.StoredAlias();
         if (!thing.guarded) {
             ExpectThat(stored == wanted || ((told || m_strange) && stored == before), "the platform's alias stores");

@@ -59,7 +59,7 @@ void ExpectSame(long answer, long expected, const char* what) {
         Fault(what, std::to_string(answer), std::to_string(expected));
 }
 
-std::string Said(HRESULT code) {
+std::string ResultText(HRESULT code) {
     if (code == S_OK)
         return "S_OK";
     if (code == E_FAIL)

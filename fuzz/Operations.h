@@ -26,7 +26,7 @@ void ExpectSame(long answer, long expected, const char* what);
 
 /// A result code by its message: "S_OK", "E_FAIL", the message id of the error registered under it with the return
 /// code that it carries ("IllegalCharERR_01 -100"), or the number.
-std::string Said(HRESULT code);
+std::string ResultText(HRESULT code);
 
 inline ZFXUnicodeString Wide(std::u16string_view text) { return ZFXUnicodeString(text); }
 

@@ -5,7 +5,7 @@
 /// The rules about names by their words, on plain texts.
 namespace Plain {
 
-/// What a check says, as Said tells it.
+/// The result of a check, in the format of ResultText.
 /// @{
 std::string NameVerdict(View name, bool checkStart);
 std::string FileNameVerdict(View name);

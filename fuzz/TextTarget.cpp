@@ -24,11 +24,11 @@ void NameChecks(FuzzInput& input) {
     const Text text = input.Text();
     const bool checkStart = input.Flag();
     ZFXUnicodeString name = Wide(text);
-    ExpectSame(Said(QVRNameUtil::IsNameValid(name, checkStart ? 1 : 0)), Plain::NameVerdict(text, checkStart),
+    ExpectSame(ResultText(QVRNameUtil::IsNameValid(name, checkStart ? 1 : 0)), Plain::NameVerdict(text, checkStart),
                "IsNameValid");
-    ExpectSame(Said(QVRNameUtil::IsFileNameValid(name)), Plain::FileNameVerdict(text), "IsFileNameValid");
-    ExpectSame(Said(QVRNameUtil::CheckForIllegalCharacters(name)), Plain::IsQuietlyIllegal(text) ? "E_FAIL" : "S_OK",
-               "CheckForIllegalCharacters");
+    ExpectSame(ResultText(QVRNameUtil::IsFileNameValid(name)), Plain::FileNameVerdict(text), "IsFileNameValid");
+    ExpectSame(ResultText(QVRNameUtil::CheckForIllegalCharacters(name)),
+               Plain::IsQuietlyIllegal(text) ? "E_FAIL" : "S_OK", "CheckForIllegalCharacters");
     ExpectSame(name, text, "a check changes no name");
 }
 
@@ -43,7 +43,7 @@ void CharacterSets(FuzzInput& input) {
         const ZFXUnicodeString name = Wide(text);
         ZFXUnicodeString offending = Wide(before);
         const HRESULT code = check(name, offending);
-        ExpectSame(Said(code), listed.empty() ? "S_OK" : "DoubleByteCharErr_01", "the character sets");
+        ExpectSame(ResultText(code), listed.empty() ? "S_OK" : "DoubleByteCharErr_01", "the character sets");
         ExpectSame(offending, before + listed, "the offending characters");
         if (Failed(code))
             ExpectSame(ZFXError::ZFXGetLastError(code, nullptr)->DiagnosticParameters().at(0), before + listed,
@@ -58,7 +58,7 @@ void FileNames(FuzzInput& input) {
     CountOperations(2);
     const Text text = input.Text();
     ZFXUnicodeString name = Wide(text);
-    ExpectSame(Said(QVRNameUtil::StripIllegalCharsFromFileName(name)), "S_OK", "StripIllegalCharsFromFileName");
+    ExpectSame(ResultText(QVRNameUtil::StripIllegalCharsFromFileName(name)), "S_OK", "StripIllegalCharsFromFileName");
     ExpectSame(name, Plain::WithoutIllegal(text), "StripIllegalCharsFromFileName");
     name = Wide(text);
     QVRNameUtil::QuoteIfNeeded(name);
@@ -109,7 +109,8 @@ void Integers(FuzzInput& input) {
     ZFXUnicodeString list = Wide(text);
     ZFXRawCollint numbers;
     numbers.Append(7);
-    ExpectSame(Said(Utils::GetIntegerListFromString(list, numbers, Wide(separator))), "S_OK", "the list of integers");
+    ExpectSame(ResultText(Utils::GetIntegerListFromString(list, numbers, Wide(separator))), "S_OK",
+               "the list of integers");
     const Plain::Integers expected = Plain::IntegersOf(text, separator);
     ExpectSame(list, expected.rest, "what is left of the list of integers");
     ExpectSame(numbers.Size(), static_cast<long>(expected.numbers.size()) + 1, "how many integers");
@@ -128,7 +129,7 @@ void InstanceNames(FuzzInput& input) {
         const ZFXIMSHMeshPart_var part = document.MeshPart(Wide(display), tag);
         ZFXUnicodeString instanceName;
         ZFXUnicodeString partName;
-        ExpectSame(Said(QVRGenInstanceName::GetUniqueLegalInstanceName(part, instanceName, partName)), "S_OK",
+        ExpectSame(ResultText(QVRGenInstanceName::GetUniqueLegalInstanceName(part, instanceName, partName)), "S_OK",
                    "GetUniqueLegalInstanceName");
         const Text orphan = u"OrphanMesh-";
         if (Plain::BeginsWith(display, orphan)) {
@@ -205,12 +206,13 @@ void FeatureNames(FuzzInput& input) {
     MemoryFeature feature = model.NewDocument().Model().Feature(kTypes[type], Wide(former));
     ZFXISpecObject_var object = feature;
     const Text tested = wanted.empty() ? former : wanted;
-    ExpectSame(Said(QVRNameUtil::CheckName(object, Wide(wanted), checkStart ? 1 : 0)),
+    ExpectSame(ResultText(QVRNameUtil::CheckName(object, Wide(wanted), checkStart ? 1 : 0)),
                Plain::TextVerdict(tested, checkStart), "CheckName");
-    ExpectSame(Said(QVRNameUtil::CheckFileName(object, Wide(wanted))), Plain::FileNameVerdict(tested), "CheckFileName");
+    ExpectSame(ResultText(QVRNameUtil::CheckFileName(object, Wide(wanted))), Plain::FileNameVerdict(tested),
+               "CheckFileName");
     const Text legal = Plain::Replaced(former, u".", u"-");
     ZFXUnicodeString name;
-    ExpectSame(Said(QVRNameUtil::GetMorvelObjectName(object, name)), Plain::NameVerdict(legal, true),
+    ExpectSame(ResultText(QVRNameUtil::GetMorvelObjectName(object, name)), Plain::NameVerdict(legal, true),
                "GetMorvelObjectName");
     ExpectSame(name, legal, "GetMorvelObjectName");
     ExpectSame(feature.StoredAlias(), former, "a check renames nothing");
@@ -228,10 +230,10 @@ void GroupNames(FuzzInput& input) {
     MemoryModel model;
     MemoryFeature analysisCase = model.NewDocument().Case("Static");
     MemoryFeature group = analysisCase.Add(MemoryKind::Group, "QVRGroupLT", Wide(text));
-    MemoryFeature connector = analysisCase.Add(MemoryKind::Connector, "SAMPointForGeneConn", "").LeadTo(group);
-    ZFXISpecObject_var support = analysisCase.Add(MemoryKind::Support, "SAMConnection", "").Connect(connector);
+    MemoryFeature connector = analysisCase.Add(MemoryKind::Connector, "SAMPointForGeneConn", "").SetGroup(group);
+    ZFXISpecObject_var support = analysisCase.Add(MemoryKind::Support, "SAMConnection", "").AddConnector(connector);
     ZFXUnicodeString name("before");
-    ExpectSame(Said(QVRNameUtil::GetSupportGroupName(support, name)), "S_OK", "GetSupportGroupName");
+    ExpectSame(ResultText(QVRNameUtil::GetSupportGroupName(support, name)), "S_OK", "GetSupportGroupName");
     ExpectSame(name, Plain::Offending(text, 0xFF).empty() ? Plain::Replaced(text, u".", u"-") : Text(),
                "GetSupportGroupName");
 }
@@ -257,12 +259,13 @@ void StandIns(FuzzInput& input) {
         ZFXUnicodeString answer;
         if (input.Flag()) {
             const ZFXISpecObject_var feature = set.Feature(Wide(type), Wide(name));
-            ExpectSame(Said(QVRNameUtil::GenerateUniqueName(*feature.Get(), answer)), "S_OK", "GenerateUniqueName");
+            ExpectSame(ResultText(QVRNameUtil::GenerateUniqueName(*feature.Get(), answer)), "S_OK",
+                       "GenerateUniqueName");
             ExpectSame(answer, isLatin || type[0] != u'S' ? name : numbered(type), "GenerateUniqueName");
             continue;
         }
         const Text generic = input.Flag() ? type : input.Text();
-        ExpectSame(Said(utils->GetTARNISCompliantFeatureName(Wide(name), Wide(generic), answer)), "S_OK",
+        ExpectSame(ResultText(utils->GetTARNISCompliantFeatureName(Wide(name), Wide(generic), answer)), "S_OK",
                    "GetTARNISCompliantFeatureName");
         Text expected = Plain::Replaced(name, u".", u"-");
         if (!isLatin)

@@ -57,7 +57,7 @@ public:
 private:
     struct Feature : Face<Node, ZFXISpecObject> {
         ZFXUnicodeString GetLateType() override { return Self().lateType; }
-        ZFXBaseUnknown* GetFather() override { return ZFXBaseUnknown_var(Self().father).GiveUp(); }
+        ZFXBaseUnknown* GetFather() override { return ZFXBaseUnknown_var(Self().father).Detach(); }
         ZFXListValZFXISpecAttribute_var* ListPointingAttributes(const char*, const ZFXUnicodeString&,
                                                                 const ZFXUnicodeString&) override {
             return &Self().pointing;
@@ -104,7 +104,7 @@ private:
         }
     } m_entity;
     struct Owner : Face<Node, ZFXISpecAttribute> {
-        ZFXBaseUnknown* GetOwner() override { return ZFXBaseUnknown_var(&Self()).GiveUp(); }
+        ZFXBaseUnknown* GetOwner() override { return ZFXBaseUnknown_var(&Self()).Detach(); }
     } m_owner;
     Face<Node, QVRIStep> m_step;
     Face<Node, ZFXISamAnalysisCase> m_case;

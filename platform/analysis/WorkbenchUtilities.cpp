@@ -4,10 +4,10 @@ namespace {
 
 AnalysisServices* installed = nullptr;
 
-/// What the installed services answer to one of their questions, or the answer of nobody.
-template <class Answer, class... Parameters, class... Arguments>
-Answer Ask(Answer (AnalysisServices::*question)(Parameters...), Answer nobody, Arguments&&... arguments) {
-    return installed == nullptr ? nobody : (installed->*question)(std::forward<Arguments>(arguments)...);
+/// Returns the result of an operation of the installed services, or `fallback` if none are installed.
+template <class Result, class... Parameters, class... Arguments>
+Result Request(Result (AnalysisServices::*operation)(Parameters...), Result fallback, Arguments&&... arguments) {
+    return installed == nullptr ? fallback : (installed->*operation)(std::forward<Arguments>(arguments)...);
 }
 
 constexpr unsigned char kNo = 0;
@@ -19,41 +19,41 @@ void AnalysisServices::Install(AnalysisServices* services) noexcept { installed 
 AnalysisServices* AnalysisServices::Installed() noexcept { return installed; }
 
 HRESULT QVRAnalysisDocUtils::GetAllAnalysisCases(ZFXListValZFXBaseUnknown_var& cases, ZFXDocument* document) {
-    return Ask(&AnalysisServices::GetAllAnalysisCases, E_FAIL, cases, document);
+    return Request(&AnalysisServices::GetAllAnalysisCases, E_FAIL, cases, document);
 }
 
 HRESULT QVRAnalysisDocUtils::GetJobs(const ZFXListValZFXBaseUnknown_var& cases, ZFXListValZFXISpecObject_var& jobs) {
-    return Ask(&AnalysisServices::GetJobs, E_FAIL, cases, jobs);
+    return Request(&AnalysisServices::GetJobs, E_FAIL, cases, jobs);
 }
 
 HRESULT QVRAnalysisDocUtils::GetAnalysisModel(ZFXISamAnalysisModel_var& model, const ZFXDocument* document) {
-    return Ask(&AnalysisServices::GetAnalysisModel, E_FAIL, model, document);
+    return Request(&AnalysisServices::GetAnalysisModel, E_FAIL, model, document);
 }
 
 HRESULT QVRAnalysisDocUtils::GetMeshManager(ZFXIMSHMeshManager_var& manager, const ZFXDocument* document) {
-    return Ask(&AnalysisServices::GetMeshManager, E_FAIL, manager, document);
+    return Request(&AnalysisServices::GetMeshManager, E_FAIL, manager, document);
 }
 
 unsigned char QVRAnalysisDocUtils::IsTarnisAnalysisCase(ZFXISamAnalysisCase_var& analysisCase) {
-    return Ask(&AnalysisServices::IsTarnisAnalysisCase, kNo, analysisCase);
+    return Request(&AnalysisServices::IsTarnisAnalysisCase, kNo, analysisCase);
 }
 
 HRESULT QVRAnalysisEntityUtils::GetParentStep(const ZFXISpecObject_var& feature, ZFXISpecObject_var& step) {
-    return Ask(&AnalysisServices::GetParentStep, E_FAIL, feature, step);
+    return Request(&AnalysisServices::GetParentStep, E_FAIL, feature, step);
 }
 
 HRESULT QVRAnalysisEntityUtils::GetParentCaseFromObject(const ZFXISpecObject_var& feature, ZFXISpecObject_var& parent) {
-    return Ask(&AnalysisServices::GetParentCaseFromObject, E_FAIL, feature, parent);
+    return Request(&AnalysisServices::GetParentCaseFromObject, E_FAIL, feature, parent);
 }
 
 unsigned char QVRAnalysisEntityUtils::IsObjectAProperty(ZFXISpecObject_var& feature) {
-    return Ask(&AnalysisServices::IsObjectAProperty, kNo, feature);
+    return Request(&AnalysisServices::IsObjectAProperty, kNo, feature);
 }
 
 unsigned char QVRAnalysisEntityUtils::IsObjectAnAmplitude(ZFXISpecObject_var& feature) {
-    return Ask(&AnalysisServices::IsObjectAnAmplitude, kNo, feature);
+    return Request(&AnalysisServices::IsObjectAnAmplitude, kNo, feature);
 }
 
 HRESULT QVRStepUtils::GetCurrentAnalysisCaseSP(ZFXISamAnalysisCase_var& analysisCase, ZFXDocument* document) {
-    return Ask(&AnalysisServices::GetCurrentAnalysisCaseSP, E_FAIL, analysisCase, document);
+    return Request(&AnalysisServices::GetCurrentAnalysisCaseSP, E_FAIL, analysisCase, document);
 }

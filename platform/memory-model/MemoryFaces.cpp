@@ -14,23 +14,23 @@ HRESULT MemoryPointingAttribute::QueryInterface(const IID& iid, void** face) {
 }
 
 ZFXBaseUnknown* MemoryPointingAttribute::GetOwner() {
-    if (m_owner == nullptr || !m_owner->Ask(MemoryRequest::GetOwner).filled)
+    if (m_owner == nullptr || !m_owner->BeginRequest(MemoryRequest::GetOwner).filled)
         return nullptr;
     m_owner->AddRef();
     return m_owner;
 }
 
 void MemoryZFXIAlias::SetAlias(const ZFXUnicodeString& alias) {
-    if (Object().Ask(MemoryRequest::SetAlias).filled)
+    if (Object().BeginRequest(MemoryRequest::SetAlias).filled)
         Object().alias = alias;
 }
 
 ZFXUnicodeString MemoryZFXIAlias::GetAlias() {
-    return Object().Ask(MemoryRequest::GetAlias).filled ? Object().alias : ZFXUnicodeString();
+    return Object().BeginRequest(MemoryRequest::GetAlias).filled ? Object().alias : ZFXUnicodeString();
 }
 
 ZFXUnicodeString MemoryZFXISpecObject::GetLateType() {
-    return Object().Ask(MemoryRequest::GetLateType).filled ? Object().lateType->name : ZFXUnicodeString();
+    return Object().BeginRequest(MemoryRequest::GetLateType).filled ? Object().lateType->name : ZFXUnicodeString();
 }
 
 namespace {
@@ -50,16 +50,16 @@ void AppendAll(const MemoryObjects& objects, ZFXListValZFXBaseUnknown_var& list)
 } // namespace
 
 ZFXBaseUnknown* MemoryZFXISpecObject::GetFather() {
-    return Object().Ask(MemoryRequest::GetFather).filled ? WithReference(Object().father) : nullptr;
+    return Object().BeginRequest(MemoryRequest::GetFather).filled ? WithReference(Object().father) : nullptr;
 }
 
 ZFXListValZFXISpecAttribute_var* MemoryZFXISpecObject::ListPointingAttributes(const char*, const ZFXUnicodeString&,
                                                                               const ZFXUnicodeString&) {
-    return Object().Ask(MemoryRequest::ListPointingAttributes).filled ? &Object().Extras().pointing : nullptr;
+    return Object().BeginRequest(MemoryRequest::ListPointingAttributes).filled ? &Object().Extras().pointing : nullptr;
 }
 
 ZFXISpecAttrKey* MemoryZFXISpecAttrAccess::GetAttrKey(const char* name) {
-    if (!Object().Ask(MemoryRequest::GetAttrKey).filled || name == nullptr || Object().document == nullptr)
+    if (!Object().BeginRequest(MemoryRequest::GetAttrKey).filled || name == nullptr || Object().document == nullptr)
         return nullptr;
     MemorySession& session = Object().document->session;
     if (std::string_view(name) == "Alias")
@@ -68,14 +68,14 @@ ZFXISpecAttrKey* MemoryZFXISpecAttrAccess::GetAttrKey(const char* name) {
 }
 
 void MemoryZFXISpecAttrAccess::SetString(ZFXISpecAttrKey* key, const ZFXUnicodeString& value, int) {
-    if (!Object().Ask(MemoryRequest::SetString).filled || key == nullptr)
+    if (!Object().BeginRequest(MemoryRequest::SetString).filled || key == nullptr)
         return;
     const MemoryAttrKey& named = static_cast<MemoryAttrKey&>(*key);
     (named.isAlias ? Object().alias : Object().Extras().attributes[named.name]) = value;
 }
 
 ZFXUnicodeString MemoryZFXISpecAttrAccess::GetString(ZFXISpecAttrKey* key, int) {
-    if (!Object().Ask(MemoryRequest::GetString).filled || key == nullptr)
+    if (!Object().BeginRequest(MemoryRequest::GetString).filled || key == nullptr)
         return {};
     const MemoryAttrKey& named = static_cast<MemoryAttrKey&>(*key);
     if (named.isAlias)
@@ -86,34 +86,34 @@ ZFXUnicodeString MemoryZFXISpecAttrAccess::GetString(ZFXISpecAttrKey* key, int) 
 }
 
 ZFXDocument* MemoryZFXILinkableObject::GetOwningDocument() {
-    return Object().Ask(MemoryRequest::GetOwningDocument).filled ? Object().document : nullptr;
+    return Object().BeginRequest(MemoryRequest::GetOwningDocument).filled ? Object().document : nullptr;
 }
 
 HRESULT MemoryZFXISamAnalysisModel::ListAnalysisCases(ZFXListValZFXBaseUnknown_var& cases) {
-    const MemoryAnswer answer = Object().Ask(MemoryRequest::ListAnalysisCases);
-    if (answer.filled)
+    const MemoryResponse response = Object().BeginRequest(MemoryRequest::ListAnalysisCases);
+    if (response.filled)
         for (MemoryObject* child : Object().ExtrasOrNone().children)
             if (child->kind == MemoryKind::Case)
                 cases.Append(ZFXBaseUnknown_var(child));
-    return answer.code;
+    return response.code;
 }
 
 HRESULT MemoryZFXISamAnalysisSet::ListMembers(ZFXListValZFXISpecObject_var& members, const IID&, int) {
-    const MemoryAnswer answer = Object().Ask(MemoryRequest::ListMembers);
-    if (!answer.filled)
-        return answer.code;
+    const MemoryResponse response = Object().BeginRequest(MemoryRequest::ListMembers);
+    if (!response.filled)
+        return response.code;
     const MemoryObjects& objects = Object().ExtrasOrNone().members;
     members.Reserve(members.Size() + static_cast<int>(objects.size()));
     for (MemoryObject* member : objects)
         members.Append(Face<ZFXISpecObject>(member));
-    return answer.code;
+    return response.code;
 }
 
 HRESULT MemoryZFXISamAnalysisScan::FindObjectsOfType(const ZFXUnicodeString& lateType,
                                                      ZFXListValZFXBaseUnknown_var& found, int) {
-    const MemoryAnswer answer = Object().Ask(MemoryRequest::FindObjectsOfType);
-    if (!answer.filled)
-        return answer.code;
+    const MemoryResponse response = Object().BeginRequest(MemoryRequest::FindObjectsOfType);
+    if (!response.filled)
+        return response.code;
     const MemoryLateType* wanted = &MemoryLateType::Of(lateType);
     const MemoryObjects& children = Object().ExtrasOrNone().children;
     MemoryObjects ahead(children.rbegin(), children.rend()); // the next one last
@@ -125,74 +125,74 @@ HRESULT MemoryZFXISamAnalysisScan::FindObjectsOfType(const ZFXUnicodeString& lat
         const MemoryObjects& below = next->ExtrasOrNone().children;
         ahead.insert(ahead.end(), below.rbegin(), below.rend());
     }
-    return answer.code;
+    return response.code;
 }
 
 HRESULT MemoryZFXISamAnalysisScan::ListChildren(ZFXListValZFXBaseUnknown_var& children, int) {
-    const MemoryAnswer answer = Object().Ask(MemoryRequest::ListChildren);
-    if (answer.filled)
+    const MemoryResponse response = Object().BeginRequest(MemoryRequest::ListChildren);
+    if (response.filled)
         AppendAll(Object().ExtrasOrNone().children, children);
-    return answer.code;
+    return response.code;
 }
 
 HRESULT MemoryZFXISamAnalysisEntity::GetParentSets(ZFXListValZFXBaseUnknown_var*& sets) {
-    const MemoryAnswer answer = Object().Ask(MemoryRequest::GetParentSets);
-    if (!answer.filled)
-        return answer.code;
+    const MemoryResponse response = Object().BeginRequest(MemoryRequest::GetParentSets);
+    if (!response.filled)
+        return response.code;
     auto list = std::make_unique<ZFXListValZFXBaseUnknown_var>();
-    AppendAll(Object().holdingSets, *list);
+    AppendAll(Object().parentSets, *list);
     sets = list.release();
-    return answer.code;
+    return response.code;
 }
 
 int MemoryQVRIPropagatingFeature::IsPropagated() {
-    return Object().Ask(MemoryRequest::IsPropagated).filled && Object().propagated ? 1 : 0;
+    return Object().BeginRequest(MemoryRequest::IsPropagated).filled && Object().propagated ? 1 : 0;
 }
 
 HRESULT MemoryZFXISamAnalysisSupport::ListConnectors(ZFXListValZFXBaseUnknown_var& connectors) {
-    const MemoryAnswer answer = Object().Ask(MemoryRequest::ListConnectors);
-    if (answer.filled)
+    const MemoryResponse response = Object().BeginRequest(MemoryRequest::ListConnectors);
+    if (response.filled)
         AppendAll(Object().ExtrasOrNone().connectors, connectors);
-    return answer.code;
+    return response.code;
 }
 
 HRESULT MemoryZFXISamAnalysisConnector::GetGroup(ZFXBaseUnknown*& group) {
-    const MemoryAnswer answer = Object().Ask(MemoryRequest::GetGroup);
-    if (answer.filled)
+    const MemoryResponse response = Object().BeginRequest(MemoryRequest::GetGroup);
+    if (response.filled)
         group = WithReference(Object().ExtrasOrNone().group);
-    return answer.code;
+    return response.code;
 }
 
 HRESULT
 MemoryQVRISamAnalysisConnectionDesign::GetMasterAndSlaveConnectors(ZFXListValZFXBaseUnknown_var& master,
                                                                    ZFXListValZFXBaseUnknown_var& slave) {
-    const MemoryAnswer answer = Object().Ask(MemoryRequest::GetMasterAndSlaveConnectors);
-    if (answer.filled) {
+    const MemoryResponse response = Object().BeginRequest(MemoryRequest::GetMasterAndSlaveConnectors);
+    if (response.filled) {
         AppendAll(Object().ExtrasOrNone().master, master);
         AppendAll(Object().ExtrasOrNone().slave, slave);
     }
-    return answer.code;
+    return response.code;
 }
 
 HRESULT MemoryZFXISamExplicit::GetExplicitChild(ZFXAnalysisExplicitChild& child, int) {
-    const MemoryAnswer answer = Object().Ask(MemoryRequest::GetExplicitChild);
-    if (answer.filled)
+    const MemoryResponse response = Object().BeginRequest(MemoryRequest::GetExplicitChild);
+    if (response.filled)
         child.View(&Object().Extras().faces.explicitData);
-    return answer.code;
+    return response.code;
 }
 
 HRESULT MemoryZFXExplicitData::ReadTag(int& tag) {
-    const MemoryAnswer answer = Object().Ask(MemoryRequest::GetTag);
-    if (!answer.filled)
-        return answer.code;
+    const MemoryResponse response = Object().BeginRequest(MemoryRequest::GetTag);
+    if (!response.filled)
+        return response.code;
     const std::optional<int>& known = Object().ExtrasOrNone().tag;
     if (!known)
         return E_FAIL;
     tag = *known;
-    return answer.code;
+    return response.code;
 }
 
 ZFXUnicodeString MemoryZFXIMaterialFeature::GetMaterialFeatureName() {
-    return Object().Ask(MemoryRequest::GetMaterialFeatureName).filled ? Object().ExtrasOrNone().materialName
-                                                                      : ZFXUnicodeString();
+    return Object().BeginRequest(MemoryRequest::GetMaterialFeatureName).filled ? Object().ExtrasOrNone().materialName
+                                                                               : ZFXUnicodeString();
 }

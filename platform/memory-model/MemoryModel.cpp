@@ -77,10 +77,10 @@ MemoryFeature& MemoryFeature::Tag(int tag) { MEMORY_SENTENCE(m_object->Extras().
 MemoryFeature& MemoryFeature::MaterialName(const ZFXUnicodeString& name) {
     MEMORY_SENTENCE(m_object->Extras().materialName = name);
 }
-MemoryFeature& MemoryFeature::Hold(MemoryFeature member) {
+MemoryFeature& MemoryFeature::AddMember(MemoryFeature member) {
     if (member.m_object == nullptr || m_object == nullptr)
         return *this;
-    member.m_object->holdingSets.push_back(m_object);
+    member.m_object->parentSets.push_back(m_object);
     member.m_object->Offer(IID_ZFXISamAnalysisEntity);
     MEMORY_SENTENCE(m_object->Extras().members.push_back(member.m_object));
 }
@@ -89,20 +89,20 @@ MemoryFeature& MemoryFeature::PointedAtBy(MemoryFeature owner) {
         return *this;
     MEMORY_SENTENCE(m_object->AddPointing(owner.m_object));
 }
-MemoryFeature& MemoryFeature::Connect(MemoryFeature connector) {
+MemoryFeature& MemoryFeature::AddConnector(MemoryFeature connector) {
     MEMORY_SENTENCE(m_object->Extras().connectors.push_back(connector.m_object));
 }
-MemoryFeature& MemoryFeature::LeadTo(MemoryFeature group) {
+MemoryFeature& MemoryFeature::SetGroup(MemoryFeature group) {
     MEMORY_SENTENCE(m_object->Extras().group = group.m_object);
 }
-MemoryFeature& MemoryFeature::Master(MemoryFeature connector) {
+MemoryFeature& MemoryFeature::AddMaster(MemoryFeature connector) {
     MEMORY_SENTENCE(m_object->Extras().master.push_back(connector.m_object));
 }
-MemoryFeature& MemoryFeature::Slave(MemoryFeature connector) {
+MemoryFeature& MemoryFeature::AddSlave(MemoryFeature connector) {
     MEMORY_SENTENCE(m_object->Extras().slave.push_back(connector.m_object));
 }
-MemoryFeature& MemoryFeature::Answer(MemoryRequest request, MemoryAnswer answer) {
-    MEMORY_SENTENCE(m_object->document->session.faults.Add(request, m_object, MemoryFaults::kAlways, answer));
+MemoryFeature& MemoryFeature::FailAlways(MemoryRequest request, MemoryResponse response) {
+    MEMORY_SENTENCE(m_object->document->session.faults.Add(request, m_object, MemoryFaults::kAlways, response));
 }
 #undef MEMORY_SENTENCE
 
@@ -157,25 +157,25 @@ void MemoryModel::MakeCurrent(MemoryDocument document) { m_session->current = do
 void MemoryModel::CloseCurrent() { m_session->current = nullptr; }
 long MemoryModel::Requests() const noexcept { return m_session->faults.Requests(); }
 
-const char* MemoryModel::LastTold() const noexcept {
+const char* MemoryModel::LastFault() const noexcept {
     constexpr const char* kNames[] = {
         "",
 #define MEMORY_REQUEST(name) #name,
 #include "memory-model/MemoryRequests.def"
 #undef MEMORY_REQUEST
     };
-    return kNames[static_cast<std::size_t>(m_session->faults.LastTold())];
+    return kNames[static_cast<std::size_t>(m_session->faults.LastFault())];
 }
 
-void MemoryModel::AnswerOnce(MemoryRequest request, long n, MemoryAnswer answer) {
-    m_session->faults.Add(request, nullptr, std::max(n, 1L), answer);
+void MemoryModel::FailNth(MemoryRequest request, long n, MemoryResponse response) {
+    m_session->faults.Add(request, nullptr, std::max(n, 1L), response);
 }
 
-void MemoryModel::AnswerAlways(MemoryRequest request, MemoryAnswer answer) {
-    m_session->faults.Add(request, nullptr, MemoryFaults::kAlways, answer);
+void MemoryModel::FailAlways(MemoryRequest request, MemoryResponse response) {
+    m_session->faults.Add(request, nullptr, MemoryFaults::kAlways, response);
 }
 
-void MemoryModel::Heal() { m_session->faults.Clear(); }
+void MemoryModel::ClearFaults() { m_session->faults.Clear(); }
 long MemoryModel::LiveObjects() noexcept { return MemoryObject::live; }
 
 long MemoryModel::References() const {

@@ -48,7 +48,7 @@ enum class MemoryRequest {
 /// How a request answers that was told to: with this code, and with its outputs filled or left as they were.
 /// A request without a code reads only `filled`: unfilled gives null, zero, an empty string or an empty
 /// handle, and makes SetAlias and SetString store nothing.
-struct MemoryAnswer {
+struct MemoryResponse {
     /// The code; nothing to a request without one.
     HRESULT code = E_UNEXPECTED;
     /// Whether its outputs are filled.
@@ -110,19 +110,19 @@ public:
     /// What ZFXIMaterialFeature answers.
     MemoryFeature& MaterialName(const ZFXUnicodeString& name);
     /// Makes `member` a member of this set as well; the sets that hold it keep their order.
-    MemoryFeature& Hold(MemoryFeature member);
+    MemoryFeature& AddMember(MemoryFeature member);
     /// `owner` gets an attribute that points at this object.
     MemoryFeature& PointedAtBy(MemoryFeature owner);
     /// On a support: one more connector.
-    MemoryFeature& Connect(MemoryFeature connector);
+    MemoryFeature& AddConnector(MemoryFeature connector);
     /// On a connector: its group.
-    MemoryFeature& LeadTo(MemoryFeature group);
+    MemoryFeature& SetGroup(MemoryFeature group);
     /// On a connection design: one more connector of that side.
-    MemoryFeature& Master(MemoryFeature connector);
+    MemoryFeature& AddMaster(MemoryFeature connector);
     /// The same of the other side.
-    MemoryFeature& Slave(MemoryFeature connector);
+    MemoryFeature& AddSlave(MemoryFeature connector);
     /// Every such request on this object answers so from now on.
-    MemoryFeature& Answer(MemoryRequest request, MemoryAnswer answer = {});
+    MemoryFeature& FailAlways(MemoryRequest request, MemoryResponse response = {});
     /// @}
 
     /// @name Looking back, past all faults and without a request.
@@ -203,13 +203,13 @@ public:
     /// How many were made so far.
     long Requests() const noexcept;
     /// The n-th request from now on (n from 1) answers so, once; earlier ones of its kind are passed.
-    void AnswerOnce(MemoryRequest request, long n = 1, MemoryAnswer answer = {});
+    void FailNth(MemoryRequest request, long n = 1, MemoryResponse response = {});
     /// Every such request, of any object, answers so.
-    void AnswerAlways(MemoryRequest request, MemoryAnswer answer = {});
-    /// The name of the request that was last told what to answer; empty when none was since Heal.
-    const char* LastTold() const noexcept;
+    void FailAlways(MemoryRequest request, MemoryResponse response = {});
+    /// The name of the request that was last told what to answer; empty when none was since ClearFaults.
+    const char* LastFault() const noexcept;
     /// All faults are forgotten, those of single objects too.
-    void Heal();
+    void ClearFaults();
     /// @}
 
     /// Objects of documents that exist in this process, those that outlived their model included.

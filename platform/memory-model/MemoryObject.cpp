@@ -17,21 +17,21 @@ const MemoryLateType& MemoryLateType::Of(const ZFXUnicodeString& name) {
     return known->emplace(std::u16string(name.Units()), made).first->second;
 }
 
-MemoryAnswer MemoryFaults::AskRules(MemoryRequest request, const MemoryObject* object) {
-    MemoryAnswer answer = kSuccess;
-    bool answered = false;
+MemoryResponse MemoryFaults::ApplyRules(MemoryRequest request, const MemoryObject* object) {
+    MemoryResponse response = kSuccess;
+    bool found = false;
     // Every rule that is meant counts the request, whichever of them answers it: the first that is due.
     std::erase_if(m_rules, [&](Rule& rule) {
         const bool meant = (rule.request == MemoryRequest::Any || rule.request == request) &&
                            (rule.object == nullptr || rule.object == object);
         const bool due = meant && (rule.countdown == kAlways || --rule.countdown == 0);
-        if (due && !std::exchange(answered, true)) {
-            answer = rule.answer;
-            m_lastTold = request;
+        if (due && !std::exchange(found, true)) {
+            response = rule.response;
+            m_lastFault = request;
         }
         return due && rule.countdown != kAlways;
     });
-    return answer;
+    return response;
 }
 
 MemoryObject::MemoryObject(MemoryDocumentObject* owner, MemoryKind objectKind, const MemoryLateType& type)
@@ -98,7 +98,7 @@ void MemoryObject::Detach() {
     document = nullptr;
     m_faults = nullptr;
     parent = father = nullptr;
-    holdingSets.clear();
+    parentSets.clear();
     if (m_extras == nullptr)
         return;
     for (MemoryObjects* objects :
@@ -119,7 +119,7 @@ HRESULT MemoryObject::QueryInterface(const IID& iid, void** face) {
         return S_OK;
     }
     const ZFXInterfaceNumber number = ZFXNumberOf(iid);
-    if (!Ask(MemoryRequest::Cast).filled || m_withheld.test(static_cast<std::size_t>(number)))
+    if (!BeginRequest(MemoryRequest::Cast).filled || m_withheld.test(static_cast<std::size_t>(number)))
         return E_NOINTERFACE;
     // An extension that a module declared for the late type comes before the object's own interface.
     const ZFXAdaptorFactory factory =

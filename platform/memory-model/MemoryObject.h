@@ -46,21 +46,21 @@ private:
 /// Requests counted, and the answers that some of them were told to give.
 class MemoryFaults {
 public:
-    MemoryAnswer Ask(MemoryRequest request, const MemoryObject* object) {
+    MemoryResponse BeginRequest(MemoryRequest request, const MemoryObject* object) {
         ++m_requests;
-        return m_rules.empty() ? kSuccess : AskRules(request, object);
+        return m_rules.empty() ? kSuccess : ApplyRules(request, object);
     }
     long Requests() const noexcept { return m_requests; }
-    MemoryRequest LastTold() const noexcept { return m_lastTold; }
-    void Add(MemoryRequest request, const MemoryObject* object, long n, MemoryAnswer answer) {
-        m_rules.push_back({request, object, n, answer});
+    MemoryRequest LastFault() const noexcept { return m_lastFault; }
+    void Add(MemoryRequest request, const MemoryObject* object, long n, MemoryResponse response) {
+        m_rules.push_back({request, object, n, response});
     }
     void Clear() {
         m_rules.clear();
-        m_lastTold = MemoryRequest::Any;
+        m_lastFault = MemoryRequest::Any;
     }
 
-    static constexpr MemoryAnswer kSuccess{S_OK, true};
+    static constexpr MemoryResponse kSuccess{S_OK, true};
     static constexpr long kAlways = -1;
 
 private:
@@ -68,13 +68,13 @@ private:
         MemoryRequest request;
         const MemoryObject* object; // null: any
         long countdown;             // of such requests; kAlways: every one
-        MemoryAnswer answer;
+        MemoryResponse response;
     };
-    MemoryAnswer AskRules(MemoryRequest request, const MemoryObject* object);
+    MemoryResponse ApplyRules(MemoryRequest request, const MemoryObject* object);
 
     std::vector<Rule> m_rules;
     long m_requests = 0;
-    MemoryRequest m_lastTold = MemoryRequest::Any; // none
+    MemoryRequest m_lastFault = MemoryRequest::Any; // none
 };
 
 /// One face of an object: an interface that forwards its root operations. Counted with the object.
@@ -198,8 +198,8 @@ public:
     MemoryExtras& Extras();
     /// What it has of the extras, or a shared empty one.
     const MemoryExtras& ExtrasOrNone() const { return m_extras == nullptr ? NoExtras() : *m_extras; }
-    MemoryAnswer Ask(MemoryRequest request) {
-        return m_faults == nullptr ? MemoryFaults::kSuccess : m_faults->Ask(request, this);
+    MemoryResponse BeginRequest(MemoryRequest request) {
+        return m_faults == nullptr ? MemoryFaults::kSuccess : m_faults->BeginRequest(request, this);
     }
     void Offer(const IID& iid);
     void Withhold(const IID& iid);
@@ -218,7 +218,7 @@ public:
     MemoryDocumentObject* document;
     MemoryObject* parent = nullptr; // in the tree
     MemoryObject* father = nullptr; // what GetFather answers
-    MemoryObjects holdingSets;
+    MemoryObjects parentSets;
     MemoryKind kind;
     bool aliasKey = true;
     bool propagated = false;

@@ -40,7 +40,7 @@ bool IsAmplitude(const MemoryObject& object) {
 /// A property lies in a property set, unless the document says otherwise.
 bool IsProperty(const MemoryObject& object) {
     const bool inPropertySet =
-        !object.holdingSets.empty() && object.holdingSets.front()->lateType->name == LateTypes::QVRTarnisPropertySetLT;
+        !object.parentSets.empty() && object.parentSets.front()->lateType->name == LateTypes::QVRTarnisPropertySetLT;
     return object.ExtrasOrNone().property.value_or(inPropertySet && !IsAmplitude(object));
 }
 
@@ -77,7 +77,7 @@ MemoryObject* MemoryDocumentObject::Make(MemoryKind kind, const ZFXUnicodeString
     if (IsSet(*parent) && !IsSet(*object)) {
         object->Offer(IID_ZFXISamAnalysisEntity);
         parent->Extras().members.push_back(object);
-        object->holdingSets.push_back(parent);
+        object->parentSets.push_back(parent);
         if (kind == MemoryKind::Feature && object->NearestAbove(ZFXInterfaceNumber::QVRIStep) != nullptr)
             object->Offer(IID_QVRIPropagatingFeature);
     }
@@ -135,22 +135,22 @@ MemoryDocumentObject* MemorySession::DocumentOr(const ZFXDocument* document) con
 }
 
 HRESULT MemorySession::GetAllAnalysisCases(ZFXListValZFXBaseUnknown_var& cases, ZFXDocument* document) {
-    const MemoryAnswer answer = faults.Ask(MemoryRequest::GetAllAnalysisCases, nullptr);
+    const MemoryResponse response = faults.BeginRequest(MemoryRequest::GetAllAnalysisCases, nullptr);
     const MemoryDocumentObject* asked = DocumentOr(document);
-    if (!answer.filled)
-        return answer.code;
+    if (!response.filled)
+        return response.code;
     if (asked == nullptr)
         return E_FAIL;
     for (MemoryObject* child : asked->model->ExtrasOrNone().children)
         if (child->kind == MemoryKind::Case)
             cases.Append(ZFXBaseUnknown_var(child));
-    return answer.code;
+    return response.code;
 }
 
 HRESULT MemorySession::GetJobs(const ZFXListValZFXBaseUnknown_var& cases, ZFXListValZFXISpecObject_var& jobs) {
-    const MemoryAnswer answer = faults.Ask(MemoryRequest::GetJobs, nullptr);
-    if (!answer.filled)
-        return answer.code;
+    const MemoryResponse response = faults.BeginRequest(MemoryRequest::GetJobs, nullptr);
+    if (!response.filled)
+        return response.code;
     for (int i = 1; i <= cases.Size(); ++i) {
         const MemoryObject* analysisCase = Find(cases[i]);
         if (analysisCase == nullptr)
@@ -160,77 +160,77 @@ HRESULT MemorySession::GetJobs(const ZFXListValZFXBaseUnknown_var& cases, ZFXLis
                 for (MemoryObject* job : child->ExtrasOrNone().members)
                     jobs.Append(Face<ZFXISpecObject>(job));
     }
-    return answer.code;
+    return response.code;
 }
 
 HRESULT MemorySession::GetAnalysisModel(ZFXISamAnalysisModel_var& model, const ZFXDocument* document) {
-    const MemoryAnswer answer = faults.Ask(MemoryRequest::GetAnalysisModel, nullptr);
+    const MemoryResponse response = faults.BeginRequest(MemoryRequest::GetAnalysisModel, nullptr);
     const MemoryDocumentObject* asked = DocumentOr(document);
-    if (!answer.filled)
-        return answer.code;
+    if (!response.filled)
+        return response.code;
     if (asked == nullptr)
         return E_FAIL;
     model = Face<ZFXISamAnalysisModel>(asked->model);
-    return answer.code;
+    return response.code;
 }
 
 HRESULT MemorySession::GetMeshManager(ZFXIMSHMeshManager_var& manager, const ZFXDocument* document) {
-    const MemoryAnswer answer = faults.Ask(MemoryRequest::GetMeshManager, nullptr);
+    const MemoryResponse response = faults.BeginRequest(MemoryRequest::GetMeshManager, nullptr);
     const MemoryDocumentObject* asked = DocumentOr(document);
-    if (!answer.filled)
-        return answer.code;
+    if (!response.filled)
+        return response.code;
     if (asked == nullptr)
         return E_FAIL;
     manager = Face<ZFXIMSHMeshManager>(asked->meshManager);
-    return answer.code;
+    return response.code;
 }
 
 unsigned char MemorySession::IsTarnisAnalysisCase(ZFXISamAnalysisCase_var& analysisCase) {
     const MemoryObject* object = Find(analysisCase);
-    const bool answered = faults.Ask(MemoryRequest::IsTarnisAnalysisCase, object).filled;
-    return answered && object != nullptr && object->ExtrasOrNone().solverCase ? 1 : 0;
+    const bool filled = faults.BeginRequest(MemoryRequest::IsTarnisAnalysisCase, object).filled;
+    return filled && object != nullptr && object->ExtrasOrNone().solverCase ? 1 : 0;
 }
 
 HRESULT MemorySession::GetParentStep(const ZFXISpecObject_var& feature, ZFXISpecObject_var& step) {
     MemoryObject* object = Find(feature);
-    const MemoryAnswer answer = faults.Ask(MemoryRequest::GetParentStep, object);
-    if (!answer.filled)
-        return answer.code;
+    const MemoryResponse response = faults.BeginRequest(MemoryRequest::GetParentStep, object);
+    if (!response.filled)
+        return response.code;
     if (object == nullptr)
         return E_FAIL;
     if (MemoryObject* found = object->NearestAbove(ZFXInterfaceNumber::QVRIStep))
         step = Face<ZFXISpecObject>(found);
-    return answer.code;
+    return response.code;
 }
 
 HRESULT MemorySession::GetParentCaseFromObject(const ZFXISpecObject_var& feature, ZFXISpecObject_var& parent) {
     MemoryObject* object = Find(feature);
-    const MemoryAnswer answer = faults.Ask(MemoryRequest::GetParentCaseFromObject, object);
-    if (!answer.filled)
-        return answer.code;
+    const MemoryResponse response = faults.BeginRequest(MemoryRequest::GetParentCaseFromObject, object);
+    if (!response.filled)
+        return response.code;
     MemoryObject* found = object == nullptr ? nullptr : object->NearestAbove(ZFXInterfaceNumber::ZFXISamAnalysisCase);
     if (found == nullptr)
         return E_FAIL;
     parent = Face<ZFXISpecObject>(found);
-    return answer.code;
+    return response.code;
 }
 
 unsigned char MemorySession::IsObjectAProperty(ZFXISpecObject_var& feature) {
     const MemoryObject* object = Find(feature);
-    const bool answered = faults.Ask(MemoryRequest::IsObjectAProperty, object).filled;
-    return answered && object != nullptr && IsProperty(*object) ? 1 : 0;
+    const bool filled = faults.BeginRequest(MemoryRequest::IsObjectAProperty, object).filled;
+    return filled && object != nullptr && IsProperty(*object) ? 1 : 0;
 }
 
 unsigned char MemorySession::IsObjectAnAmplitude(ZFXISpecObject_var& feature) {
     const MemoryObject* object = Find(feature);
-    const bool answered = faults.Ask(MemoryRequest::IsObjectAnAmplitude, object).filled;
-    return answered && object != nullptr && IsAmplitude(*object) ? 1 : 0;
+    const bool filled = faults.BeginRequest(MemoryRequest::IsObjectAnAmplitude, object).filled;
+    return filled && object != nullptr && IsAmplitude(*object) ? 1 : 0;
 }
 
 HRESULT MemorySession::GetCurrentAnalysisCaseSP(ZFXISamAnalysisCase_var& analysisCase, ZFXDocument* document) {
-    const MemoryAnswer answer = faults.Ask(MemoryRequest::GetCurrentAnalysisCaseSP, nullptr);
+    const MemoryResponse response = faults.BeginRequest(MemoryRequest::GetCurrentAnalysisCaseSP, nullptr);
     const MemoryDocumentObject* asked = DocumentOr(document);
-    if (answer.filled)
+    if (response.filled)
         analysisCase = Face<ZFXISamAnalysisCase>(asked == nullptr ? nullptr : asked->currentCase);
-    return answer.code;
+    return response.code;
 }

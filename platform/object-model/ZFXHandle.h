@@ -42,7 +42,7 @@ public:
     template <class Other>
     ZFXHandle(ZFXHandle<Other>&& other) {
         if constexpr (kIsFace<Other>)
-            m_face = other.GiveUp();
+            m_face = other.Detach();
         else
             Cast(other.Get());
     }
@@ -84,7 +84,7 @@ public:
     Interface* Get() const noexcept { return m_face; }
 
     /// The reference goes to the caller; the handle is empty afterwards.
-    Interface* GiveUp() noexcept { return std::exchange(m_face, nullptr); }
+    Interface* Detach() noexcept { return std::exchange(m_face, nullptr); }
     /// Both change places.
     void Swap(ZFXHandle& other) noexcept { std::swap(m_face, other.m_face); }
 

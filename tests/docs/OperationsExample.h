@@ -10,7 +10,7 @@
 #include "QVRNameUtility.h"
 #include "locale/ZFXLocale.h"
 #include "memory-model/MemoryModel.h"
-#include "support/Said.h"
+#include "support/Results.h"
 
 #include <gtest/gtest.h>
 

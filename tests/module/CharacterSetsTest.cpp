@@ -1,6 +1,6 @@
 #include "QVRNameUtil.h"
 
-#include "support/Said.h"
+#include "support/Results.h"
 
 #include <gtest/gtest.h>
 
@@ -32,8 +32,8 @@ TEST(CharacterSets, OffendingUnitsAreListedForTheUser) {
         const HRESULT highCode = QVRNameUtil::DoesNameContainSignedChar(row.name, high);
         EXPECT_EQ(Text(wide), row.above255) << row.name;
         EXPECT_EQ(Text(high), row.above127) << row.name;
-        EXPECT_EQ(Said(wideCode), wide == row.before ? "S_OK" : "DoubleByteCharErr_01") << row.name;
-        EXPECT_EQ(Said(highCode), high == row.before ? "S_OK" : "DoubleByteCharErr_01") << row.name;
+        EXPECT_EQ(ResultText(wideCode), wide == row.before ? "S_OK" : "DoubleByteCharErr_01") << row.name;
+        EXPECT_EQ(ResultText(highCode), high == row.before ? "S_OK" : "DoubleByteCharErr_01") << row.name;
         if (const ZFXError* error = ZFXError::ZFXGetLastError(wideCode, nullptr)) {
             ASSERT_EQ(error->DiagnosticParameters().size(), 1U);
             EXPECT_EQ(error->DiagnosticParameters()[0], wide);

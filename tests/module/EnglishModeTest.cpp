@@ -1,7 +1,7 @@
 #include "QVRGenI18NUtils.h"
 
 #include "locale/ZFXLocale.h"
-#include "support/Said.h"
+#include "support/Results.h"
 
 #include <gtest/gtest.h>
 
@@ -38,13 +38,13 @@ TEST(EnglishMode, IsSettledByTheFirstQuestion) {
         const std::string expected = std::string("The initial user locale is ") + (userEnglish ? "" : "NOT ") +
                                      "English.\nThe initial input locale is " + (inputEnglish ? "" : "NOT ") +
                                      "English.\n";
-        EXPECT_EQ(Console([&] { utils.GetInitialLocales(); }), expected);
+        EXPECT_EQ(CapturedOutput([&] { utils.GetInitialLocales(); }), expected);
         ZFXSetLocales(0x0407, 0x0407); // comes too late
         utils.ResetAllLists();
         const int both = userEnglish & inputEnglish;
         QVRGenI18NUtils copy(utils);
         for (QVRGenI18NUtils* each : {static_cast<QVRGenI18NUtils*>(&utils), &copy}) {
-            EXPECT_EQ(Console([&] { EXPECT_EQ(each->IsEnglishMode(), both); }), "");
+            EXPECT_EQ(CapturedOutput([&] { EXPECT_EQ(each->IsEnglishMode(), both); }), "");
             EXPECT_EQ(each->IsInitialUserLocaleEnglish(), userEnglish);
             EXPECT_EQ(each->IsInitialInputLocaleEnglish(), inputEnglish);
             EXPECT_EQ(each->IsEnglishUserLocale() + each->IsEnglishInputLocale(), 0);

@@ -34,17 +34,17 @@ TEST_F(EntryPointsTest, UniquenessIsJudgedBeforeTheText) {
     for (const auto& [current, name, check, file] : rows) {
         feature.Alias(current);
         ZFXISpecObject_var handle(feature);
-        EXPECT_EQ(Said(QVRNameUtil::CheckName(handle, name, 1)), check) << name;
-        EXPECT_EQ(Said(QVRNameUtil::CheckFileName(handle, name)), file) << name;
+        EXPECT_EQ(ResultText(QVRNameUtil::CheckName(handle, name, 1)), check) << name;
+        EXPECT_EQ(ResultText(QVRNameUtil::CheckFileName(handle, name)), file) << name;
     }
     ZFXISpecObject_var handle(feature.Alias("Current"));
-    EXPECT_EQ(Said(QVRNameUtil::CheckName(handle, "1st", 0)), "S_OK");
-    EXPECT_EQ(Said(QVRNameUtil::CheckName(handle, "1.", 0)), char1);
+    EXPECT_EQ(ResultText(QVRNameUtil::CheckName(handle, "1st", 0)), "S_OK");
+    EXPECT_EQ(ResultText(QVRNameUtil::CheckName(handle, "1.", 0)), char1);
     other.Alias(Repeated('y', 80)); // clashes and is too long: the clash is told
-    EXPECT_EQ(Said(QVRNameUtil::CheckName(handle, Repeated('y', 80), 1)), duplicate);
+    EXPECT_EQ(ResultText(QVRNameUtil::CheckName(handle, Repeated('y', 80), 1)), duplicate);
     for (ZFXISpecObject_var nameless : {ZFXISpecObject_var(feature.Without(IID_ZFXIAlias)), ZFXISpecObject_var()}) {
-        EXPECT_EQ(Said(QVRNameUtil::CheckName(nameless, "x", 1)), "ZFXIAliasERR_01");
-        EXPECT_EQ(Said(QVRNameUtil::CheckFileName(nameless, "x")), "ZFXIAliasERR_01");
+        EXPECT_EQ(ResultText(QVRNameUtil::CheckName(nameless, "x", 1)), "ZFXIAliasERR_01");
+        EXPECT_EQ(ResultText(QVRNameUtil::CheckFileName(nameless, "x")), "ZFXIAliasERR_01");
     }
 }
 

@@ -40,18 +40,18 @@ public:
     MemoryFeature steel = root.Add(MemoryKind::Material, "M.1", "Steel.1").MaterialName("Iron");
     MemoryFeature steel2 = root.Add(MemoryKind::Material, "M.1", "Steel.1").MaterialName("Iron");
     MemoryFeature group = root.Add(MemoryKind::Group, "G", "Group.1");
-    MemoryFeature connector = root.Add(MemoryKind::Connector, "C", "c").LeadTo(group);
-    MemoryFeature support = root.Add(MemoryKind::Support, "S", "s").Connect(connector);
-    MemoryFeature design = root.Add(MemoryKind::ConnectionDesign, "D", "d").Master(connector).Slave(connector);
+    MemoryFeature connector = root.Add(MemoryKind::Connector, "C", "c").SetGroup(group);
+    MemoryFeature support = root.Add(MemoryKind::Support, "S", "s").AddConnector(connector);
+    MemoryFeature design = root.Add(MemoryKind::ConnectionDesign, "D", "d").AddMaster(connector).AddSlave(connector);
     I18N* utils = I18N::Instance();
-    static constexpr MemoryAnswer kOther{3, true};
+    static constexpr MemoryResponse kOther{3, true};
 
     /// Calls an operation. Returns its code, and the text that it stores unless `text` is unchanged.
     template <class Operation>
     static std::string Call(const char* text, Operation operation) {
         ZFXUnicodeString name(text);
         const HRESULT code = operation(name);
-        return (code == kCode ? "code" : Said(code)) + (name == text ? "" : "|" + Text(name));
+        return (code == kCode ? "code" : ResultText(code)) + (name == text ? "" : "|" + Text(name));
     }
     template <class Operation>
     static std::string Call(MemoryFeature feature, const char* text, Operation operation) {
@@ -75,7 +75,7 @@ public:
     /// Renames a feature. Returns the stored name and the beginning of the console line.
     static std::string Rename(MemoryFeature feature, const char* former, const char* name) {
         feature.Alias(former);
-        const std::string console = Console([&] {
+        const std::string console = CapturedOutput([&] {
             if (const ZFXIAlias_var alias(feature); alias != nullptr)
                 alias->SetAlias(name);
         });
@@ -204,10 +204,10 @@ TEST_P(FailingRequestsTest, GiveTheExpectedResult) {
         std::string results;
         for (const auto& [way, answer] : {std::pair("fails", kFails), std::pair("fails, filled", kFailsFilled),
                                           std::pair("succeeds, empty", kEmpty), std::pair("returns 3", kOther)}) {
-            model.AnswerOnce(MemoryRequest::Any, k, answer);
+            model.FailNth(MemoryRequest::Any, k, answer);
             const std::string result = Result();
-            request = model.LastTold();
-            model.Heal();
+            request = model.LastFault();
+            model.ClearFaults();
             if (result != normal)
                 results += "\n    " + (way + (": " + result));
             EXPECT_EQ(ZFXBaseUnknown::LiveAllocations(), live) << "request " << k << " " << way;

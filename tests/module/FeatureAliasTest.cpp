@@ -25,13 +25,13 @@ protected:
 
     /// Renames as a host does; what stands in the alias afterwards, and what the console said.
     std::string Rename(MemoryFeature feature, const ZFXUnicodeString& name) {
-        const std::string console = Console([&] { ZFXIAlias_var(feature)->SetAlias(name); });
+        const std::string console = CapturedOutput([&] { ZFXIAlias_var(feature)->SetAlias(name); });
         return Text(feature.StoredAlias()) + "|" + console.substr(0, console.find(':'));
     }
 };
 
 TEST_F(FeatureAliasTest, AStepIsRenamedUnderTheRules) {
-    const std::string console = Console([&] { ZFXIAlias_var(step)->SetAlias(" Step_ "); });
+    const std::string console = CapturedOutput([&] { ZFXIAlias_var(step)->SetAlias(" Step_ "); });
     EXPECT_EQ(console, "NAME ERROR: Another step of this analysis case already has the name; capital and small letters "
                        "count as the same. Choose a name that no step of the case has.\n");
     EXPECT_EQ(Text(ZFXIAlias_var(step)->GetAlias()), "Step-1");
@@ -53,9 +53,9 @@ TEST_F(FeatureAliasTest, JobsAndShellSectionsHaveRulesOfTheirOwn) {
     EXPECT_EQ(Rename(section, "1.st"), "1st section|NAME ERROR");
     MemoryFeature layup = document.PropertySet().Feature("QVRLayupLT", "Layup");
     EXPECT_EQ(Rename(layup, "1st layup"), "Layup|NAME ERROR");
-    analysisCase.Answer(MemoryRequest::FindObjectsOfType, kFailsFilled);
+    analysisCase.FailAlways(MemoryRequest::FindObjectsOfType, kFailsFilled);
     job.Father(MemoryFeature());
-    model.AnswerAlways(MemoryRequest::GetParentSets, kFails);
+    model.FailAlways(MemoryRequest::GetParentSets, kFails);
     EXPECT_EQ(Rename(job, "x"), "|"); // refused without a registered error: silently
 }
 
@@ -65,14 +65,14 @@ TEST_F(FeatureAliasTest, SetterReadsOnceAndStoresTwice) {
     const std::pair<MemoryRequest, long> firstUnexpected[] = {
         {MemoryRequest::GetString, 2}, {MemoryRequest::SetString, 3}, {MemoryRequest::GetLateType, 2}};
     for (const auto& [request, number] : firstUnexpected) {
-        model.AnswerOnce(request, number);
+        model.FailNth(request, number);
         EXPECT_EQ(Rename(job, "Job-2"), "Job-2|");
-        EXPECT_STREQ(model.LastTold(), "") << "a renaming that is accepted";
-        model.Heal();
-        model.AnswerOnce(request, number);
+        EXPECT_STREQ(model.LastFault(), "") << "a renaming that is accepted";
+        model.ClearFaults();
+        model.FailNth(request, number);
         EXPECT_EQ(Rename(layup, "1.st"), "|NAME ERROR");
-        EXPECT_STREQ(model.LastTold(), "") << "a renaming that is refused";
-        model.Heal();
+        EXPECT_STREQ(model.LastFault(), "") << "a renaming that is refused";
+        model.ClearFaults();
         job.Alias("");
     }
 }

@@ -26,10 +26,10 @@ TEST_F(GenericNamesTest, ByPositionAmongTheFathersMembers) {
     EXPECT_EQ(NameBy(kByPosition, document.Model()), refused);                   // no father
     EXPECT_EQ(NameBy(kByPosition, document.Model().Feature("T", "z")), refused); // the father is no set
     EXPECT_EQ(NameBy(kByPosition, set.Father(set)), refused);                    // its own father, not its own member
-    EXPECT_EQ(NameBy(kByPosition, set.Hold(set)), "S-3");
+    EXPECT_EQ(NameBy(kByPosition, set.AddMember(set)), "S-3");
     MemoryFeature another = document.Model().Set("S");
     EXPECT_EQ(NameBy(kByPosition, second.Father(another)), refused); // not among its members
-    another.Hold(set.Feature("T", "w")).Hold(second);
+    another.AddMember(set.Feature("T", "w")).AddMember(second);
     EXPECT_EQ(NameBy(kByPosition, second), "T.1-2");
     EXPECT_EQ(model.References(), 0);
 }
@@ -68,15 +68,15 @@ TEST_F(GenericNamesTest, AFeatureNamedOnceKeepsItsName) {
 TEST_F(GenericNamesTest, LateTypeIsRequestedOnceWhenAFeatureIsFirstNamed) {
     for (const Operation first : {kGeneric, kDisplay}) {
         MemoryFeature feature = set.Feature("T", "x");
-        model.AnswerOnce(MemoryRequest::GetLateType, 2, kFails);
+        model.FailNth(MemoryRequest::GetLateType, 2, kFails);
         for (const Operation operation : {first, kGeneric, kDisplay, kGeneric})
             NameBy(operation, feature);
-        EXPECT_STREQ(model.LastTold(), "") << "a second request";
-        model.Heal();
-        feature.Answer(MemoryRequest::GetLateType, kFails);
+        EXPECT_STREQ(model.LastFault(), "") << "a second request";
+        model.ClearFaults();
+        feature.FailAlways(MemoryRequest::GetLateType, kFails);
     }
     EXPECT_EQ(NameBy(kGeneric, set.Feature("T", "y")), "T-3"); // counted under the type of the first request
-    model.AnswerAlways(MemoryRequest::GetLateType, kFails);
+    model.FailAlways(MemoryRequest::GetLateType, kFails);
     EXPECT_EQ(NameBy(kGeneric, set.Feature("T", "z")), "-1");
 }
 

@@ -8,19 +8,19 @@ class GroupNamesTest : public DocumentTest {
 protected:
     MemoryFeature Connector(const char* groupAlias) {
         MemoryFeature group = document.Model().Add(MemoryKind::Group, "SAMGroup", groupAlias);
-        return document.Model().Add(MemoryKind::Connector, "SAMConnector", "c").LeadTo(group);
+        return document.Model().Add(MemoryKind::Connector, "SAMConnector", "c").SetGroup(group);
     }
     std::string Of(std::initializer_list<MemoryFeature> connectors) {
         MemoryFeature support = document.Model().Add(MemoryKind::Support, "SAMSupport", "s");
         for (const MemoryFeature& connector : connectors)
-            support.Connect(connector);
+            support.AddConnector(connector);
         ZFXISpecObject_var handle(support);
         ZFXUnicodeString bySupport("before");
         ZFXUnicodeString byList("before");
         const HRESULT code = QVRNameUtil::GetSupportGroupName(handle, bySupport);
         EXPECT_EQ(QVRNameUtil::GetSupportGroupName(ListOf(connectors), byList), code);
         EXPECT_EQ(bySupport, byList);
-        return Said(code) + "|" + Text(bySupport);
+        return ResultText(code) + "|" + Text(bySupport);
     }
 };
 
@@ -38,7 +38,7 @@ TEST_F(GroupNamesTest, OneConnectorNamesTheGroup) {
     ZFXUnicodeString name("before");
     EXPECT_EQ(QVRNameUtil::GetSupportGroupName(ListOf({MemoryFeature()}), name), S_OK); // an empty handle
     EXPECT_EQ(Text(name), "");
-    loose.LeadTo(document.Model().Add(MemoryKind::Group, "SAMGroup", "x").Without(IID_ZFXIAlias));
+    loose.SetGroup(document.Model().Add(MemoryKind::Group, "SAMGroup", "x").Without(IID_ZFXIAlias));
     EXPECT_EQ(Of({loose}), "S_OK|");
 }
 
@@ -48,17 +48,17 @@ TEST_F(GroupNamesTest, BothSidesOfADesignNeedOneConnectorEach) {
         ZFXUnicodeString master("m");
         ZFXUnicodeString slave("s");
         const HRESULT code = QVRNameUtil::GetGrpNameofMasterAndSlave(handle, master, slave);
-        return Said(code) + "|" + Text(master) + "|" + Text(slave);
+        return ResultText(code) + "|" + Text(master) + "|" + Text(slave);
     };
     MemoryFeature design = document.Model().Add(MemoryKind::ConnectionDesign, "SAMFaceFaceContact", "d");
     EXPECT_EQ(of(design), "S_OK|m|s");
-    design.Master(Connector("A.1")).Slave(document.Model().Add(MemoryKind::Connector, "SAMConnector", "c"));
+    design.AddMaster(Connector("A.1")).AddSlave(document.Model().Add(MemoryKind::Connector, "SAMConnector", "c"));
     EXPECT_EQ(of(design), "S_OK|A-1|"); // the side that failed is emptied, the design succeeds
     QVRISamAnalysisConnectionDesign_var handle(design);
     ZFXUnicodeString both("m");
     EXPECT_EQ(QVRNameUtil::GetGrpNameofMasterAndSlave(handle, both, both), S_OK); // one object: written last
     EXPECT_EQ(Text(both), "");
-    design.Slave(Connector("B"));
+    design.AddSlave(Connector("B"));
     EXPECT_EQ(of(design), "S_OK|m|s");
 }
 

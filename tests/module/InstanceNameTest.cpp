@@ -10,7 +10,7 @@ protected:
         ZFXUnicodeString instance("i");
         ZFXUnicodeString name("p");
         const HRESULT code = QVRGenInstanceName::GetUniqueLegalInstanceName(ZFXIMSHMeshPart_var(part), instance, name);
-        return (code == S_OK ? "" : Said(code) + "|") + Text(instance) + "|" + Text(name);
+        return (code == S_OK ? "" : ResultText(code) + "|") + Text(instance) + "|" + Text(name);
     }
 };
 

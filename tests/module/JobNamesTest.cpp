@@ -31,14 +31,14 @@ TEST_F(JobNamesTest, JobsAreNumberedOverAllCasesWhateverTheirLetters) {
 
     const ZFXISpecObject_var self(job);
     const char* const duplicate = "DuplicateNameERR_03";
-    EXPECT_EQ(Said(QVRNameUtil::IsUniqueNameForJob(self, "JOB-4")), "S_OK");
-    EXPECT_EQ(Said(QVRNameUtil::IsUniqueNameForJob(self, "job-2")), duplicate);
-    EXPECT_EQ(Said(QVRNameUtil::IsUniqueNameForJob(self, "job-")), duplicate); // the first of all
-    EXPECT_EQ(Said(QVRNameUtil::IsUniqueNameForJob({}, "job-4")), duplicate);
-    EXPECT_EQ(Said(QVRNameUtil::IsUniqueNameForJob(self, "")), duplicate); // as it is: one job has no name
+    EXPECT_EQ(ResultText(QVRNameUtil::IsUniqueNameForJob(self, "JOB-4")), "S_OK");
+    EXPECT_EQ(ResultText(QVRNameUtil::IsUniqueNameForJob(self, "job-2")), duplicate);
+    EXPECT_EQ(ResultText(QVRNameUtil::IsUniqueNameForJob(self, "job-")), duplicate); // the first of all
+    EXPECT_EQ(ResultText(QVRNameUtil::IsUniqueNameForJob({}, "job-4")), duplicate);
+    EXPECT_EQ(ResultText(QVRNameUtil::IsUniqueNameForJob(self, "")), duplicate); // as it is: one job has no name
     MemoryDocument other = model.NewDocument();
     model.MakeCurrent(other);
-    EXPECT_EQ(Said(QVRNameUtil::IsUniqueNameForJob(self, "job-2")), "S_OK"); // the current document only
+    EXPECT_EQ(ResultText(QVRNameUtil::IsUniqueNameForJob(self, "job-2")), "S_OK"); // the current document only
     EXPECT_EQ(Propose(), "Job-1");
 }
 

@@ -1,7 +1,7 @@
 #include "memory-model/MemoryModel.h"
 #include "object-model/ZFXMetaClass.h"
 #include "support/LoadedLibrary.h"
-#include "support/Said.h"
+#include "support/Results.h"
 
 #include <gtest/gtest.h>
 
@@ -11,7 +11,7 @@ namespace {
 std::string Renamed() {
     MemoryModel model;
     MemoryFeature step = model.NewDocument().Case("Static").Step("QVRStaticLPStepLT", "Step-1");
-    Console([&] { ZFXIAlias_var(step)->SetAlias("1.0"); });
+    CapturedOutput([&] { ZFXIAlias_var(step)->SetAlias("1.0"); });
     return Text(step.StoredAlias());
 }
 

@@ -13,7 +13,7 @@ TEST_F(MeshPartNamesTest, NumberFollowsTheHighestInTheMeshManager) {
         ZFXISpecObject_var handle(feature);
         ZFXUnicodeString name("Mesh-");
         const HRESULT code = QVRNameUtil::GetUniqueNameForMeshPart(handle, name);
-        return Said(code) + "|" + Text(name);
+        return ResultText(code) + "|" + Text(name);
     };
     EXPECT_EQ(propose(part), "S_OK|Mesh-8");
     EXPECT_EQ(propose(seven), "S_OK|Mesh-8"); // counts itself

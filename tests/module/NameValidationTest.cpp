@@ -1,6 +1,6 @@
 #include "QVRNameUtil.h"
 
-#include "support/Said.h"
+#include "support/Results.h"
 
 #include <gtest/gtest.h>
 
@@ -40,10 +40,11 @@ TEST(NameValidation, TheFirstRuleThatFailsDecides) {
     // clang-format on
     for (Row row : rows) {
         const ZFXUnicodeString before(row.name);
-        EXPECT_EQ(Said(QVRNameUtil::IsNameValid(row.name, 1)), row.checked) << row.name;
-        EXPECT_EQ(Said(QVRNameUtil::IsNameValid(row.name, 0)), row.unchecked) << row.name;
-        EXPECT_EQ(Said(QVRNameUtil::IsFileNameValid(row.name)), row.asFile) << row.name;
-        EXPECT_EQ(Said(QVRNameUtil::CheckForIllegalCharacters(row.name)), row.quiet ? "S_OK" : "E_FAIL") << row.name;
+        EXPECT_EQ(ResultText(QVRNameUtil::IsNameValid(row.name, 1)), row.checked) << row.name;
+        EXPECT_EQ(ResultText(QVRNameUtil::IsNameValid(row.name, 0)), row.unchecked) << row.name;
+        EXPECT_EQ(ResultText(QVRNameUtil::IsFileNameValid(row.name)), row.asFile) << row.name;
+        EXPECT_EQ(ResultText(QVRNameUtil::CheckForIllegalCharacters(row.name)), row.quiet ? "S_OK" : "E_FAIL")
+            << row.name;
         EXPECT_EQ(row.name, before);
     }
 }

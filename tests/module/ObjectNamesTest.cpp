@@ -10,7 +10,7 @@ protected:
         ZFXISpecObject_var handle(feature);
         ZFXUnicodeString name("before");
         const HRESULT code = QVRNameUtil::GetMorvelObjectName(handle, name);
-        return Said(code) + "|" + Text(name);
+        return ResultText(code) + "|" + Text(name);
     }
 };
 

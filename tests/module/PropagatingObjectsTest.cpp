@@ -27,7 +27,7 @@ protected:
     }
     std::string Check(const ZFXUnicodeString& name) {
         ZFXISpecObject_var feature(load);
-        return Said(QVRNameUtil::IsNameUnique(feature, name));
+        return ResultText(QVRNameUtil::IsNameUnique(feature, name));
     }
 };
 
@@ -41,16 +41,16 @@ TEST_F(PropagatingObjectsTest, TheScopeIsTheSameKindOfSetInEveryStep) {
     EXPECT_EQ(Propose(), "Pressure-6"); // another set of the kind
     document.Case("Other").Step("T", "Step-1").Set("QVRLoadContainerLT").Feature("QVRPressure", "Pressure-7");
     EXPECT_EQ(Propose(), "Pressure-6"); // another case
-    loads3.Hold(load);                  // held twice, the first set counts, and it is left out wherever it occurs
+    loads3.AddMember(load);             // held twice, the first set counts, and it is left out wherever it occurs
     load.Alias("Pressure-20");
     EXPECT_EQ(Propose(), "Pressure-6");
 }
 
 TEST_F(PropagatingObjectsTest, TheLastStepDecidesTheCodeAndFailedStepsGiveNothing) {
-    step1.Answer(MemoryRequest::FindObjectsOfType, kFails);
+    step1.FailAlways(MemoryRequest::FindObjectsOfType, kFails);
     EXPECT_EQ(Check("Pressure-1"), "S_OK");
     EXPECT_EQ(Check("Pressure-2"), "DuplicateNameERR_02 -100");
-    step3.Answer(MemoryRequest::FindObjectsOfType, kFailsFilled);
+    step3.FailAlways(MemoryRequest::FindObjectsOfType, kFailsFilled);
     EXPECT_EQ(Check("Free"), std::to_string(kCode));
 }
 
@@ -59,9 +59,9 @@ TEST_F(PropagatingObjectsTest, OutsideEveryCaseTheCurrentOneOfTheDocumentCounts)
     EXPECT_EQ(Check("Pressure-1"), "DuplicateNameERR_02 -100");
     document.MakeCurrent({});
     EXPECT_EQ(Check("Pressure-1"), "S_OK");
-    model.AnswerOnce(MemoryRequest::GetCurrentAnalysisCaseSP, 1, kFails);
+    model.FailNth(MemoryRequest::GetCurrentAnalysisCaseSP, 1, kFails);
     EXPECT_EQ(Check("Pressure-1"), std::to_string(kCode));
-    load.Answer(MemoryRequest::GetOwningDocument);
+    load.FailAlways(MemoryRequest::GetOwningDocument);
     EXPECT_EQ(Check("Pressure-1"), "E_FAIL"); // the code of the question for the case
     load.Without(IID_ZFXILinkableObject);
     EXPECT_EQ(Check("Pressure-1"), "E_FAIL");

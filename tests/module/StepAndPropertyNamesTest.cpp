@@ -20,7 +20,7 @@ protected:
     }
     static std::string Check(MemoryFeature feature, const ZFXUnicodeString& name) {
         ZFXISpecObject_var handle(feature);
-        return Said(QVRNameUtil::IsNameUnique(handle, name));
+        return ResultText(QVRNameUtil::IsNameUnique(handle, name));
     }
 };
 
@@ -68,7 +68,7 @@ TEST_F(StepNamesTest, OtherFeaturesAreComparedInTheirSet) {
     set.Feature("T", "b");
     EXPECT_EQ(Check(feature, "B"), "DuplicateNameERR_02 -100");
     EXPECT_EQ(Check(document.Model().Feature("T", "loose"), "b"), "S_OK");
-    model.AnswerOnce(MemoryRequest::GetParentSets, 1, {4, false}); // no list
+    model.FailNth(MemoryRequest::GetParentSets, 1, {4, false}); // no list
     EXPECT_EQ(Check(feature, "b"), "4");
     EXPECT_EQ(Check(document.Model().Feature("T", "in none").With(IID_ZFXISamAnalysisEntity), "b"), "S_OK");
 }

@@ -25,7 +25,7 @@ TEST_F(StepMembershipTest, ParentStepNameIsEmptyOutsideEveryStep) {
     const auto parent = [](MemoryFeature feature) {
         ZFXUnicodeString name("before");
         const HRESULT code = QVRNameUtil::GetParentStepName(feature, name);
-        return Said(code) + "|" + Text(name);
+        return ResultText(code) + "|" + Text(name);
     };
     EXPECT_EQ(parent(load), "S_OK|Step-1");
     EXPECT_EQ(parent(analysisCase), "S_OK|");

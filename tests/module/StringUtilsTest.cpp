@@ -1,6 +1,6 @@
 #include "QVRGenZFXUnicodeStringUtils.h"
 
-#include "support/Said.h"
+#include "support/Results.h"
 
 #include <gtest/gtest.h>
 

@@ -32,7 +32,7 @@ TEST_F(UniquenessTest, TheFirstElementThatFailsDecides) {
         ZFXListValZFXBaseUnknown_var scope;
         for (const MemoryFeature& element : elements)
             scope.Append(ZFXBaseUnknown_var(element));
-        EXPECT_EQ(Said(QVRNameUtil::IsNameUniqueInSet(ZFXISpecObject_var(judged), scope, name)), said) << why;
+        EXPECT_EQ(ResultText(QVRNameUtil::IsNameUniqueInSet(ZFXISpecObject_var(judged), scope, name)), said) << why;
     }
 }
 
@@ -45,14 +45,14 @@ TEST_F(UniquenessTest, JobsAreComparedAcrossTheCasesOfTheirModel) {
     second.Add(MemoryKind::JobContainer, "QVRJobContainerLT", "").Feature("QVRJobLT", "In a second container");
     const auto check = [&](const char* name) {
         ZFXISpecObject_var feature(job);
-        return Said(QVRNameUtil::IsNameUniqueAcrossCases(feature, name));
+        return ResultText(QVRNameUtil::IsNameUniqueAcrossCases(feature, name));
     };
     EXPECT_EQ(check("JOB-2"), "DuplicateNameERR_02 -100");
     EXPECT_EQ(check("Job-1"), "S_OK");
     EXPECT_EQ(check("In a second container"), "S_OK");
     EXPECT_EQ(check(""), "S_OK");
 
-    model.AnswerOnce(MemoryRequest::GetParentSets, 1, {3, false}); // no list
+    model.FailNth(MemoryRequest::GetParentSets, 1, {3, false}); // no list
     EXPECT_EQ(check("JOB-2"), "3");
     job = document.Model().Feature("QVRJobLT", "No entity");
     EXPECT_EQ(check("Job-2"), "S_OK");

@@ -1,4 +1,4 @@
-#include "support/Said.h"
+#include "support/Results.h"
 
 #include "errors/MessageCatalog.h"
 #include "text/Utf8Path.h"
@@ -20,15 +20,15 @@ TEST(Error, IsFoundUnderItsOwnCodeUntilManyOthersCame) {
     const HRESULT second = Raise("Second");
     EXPECT_LT(first, 0);
     EXPECT_NE(first, E_FAIL);
-    EXPECT_EQ(Said(first), "First");
-    EXPECT_EQ(Said(second), "Second");
+    EXPECT_EQ(ResultText(first), "First");
+    EXPECT_EQ(ResultText(second), "Second");
     EXPECT_EQ(ZFXError::ZFXGetLastError(E_FAIL, nullptr), nullptr);
     ZFXError* error = ZFXError::ZFXGetLastError(first, nullptr);
     EXPECT_STREQ(error->GetSourceFileName(), "File.cpp");
     EXPECT_EQ(error->GetSourceLineNumber(), 7);
     EXPECT_TRUE(error->IsAKindOf("ZFXInputError") && error->IsAKindOf("ZFXError"));
     std::thread([&] {
-        EXPECT_EQ(Said(Raise("Elsewhere")), "Elsewhere");
+        EXPECT_EQ(ResultText(Raise("Elsewhere")), "Elsewhere");
         EXPECT_EQ(ZFXError::ZFXGetLastError(first, nullptr), nullptr);
     }).join();
     const long before = ZFXBaseUnknown::LiveAllocations();

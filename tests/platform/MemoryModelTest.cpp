@@ -85,17 +85,17 @@ TEST_F(MemoryModelTest, AnyRequestCanBeToldWhatToAnswer) {
     const long before = model.Requests();
     EXPECT_EQ(members(), std::pair(S_OK, 1));
     EXPECT_EQ(model.Requests(), before + 1);
-    loads.Answer(MemoryRequest::ListMembers, {1, false});
+    loads.FailAlways(MemoryRequest::ListMembers, {1, false});
     EXPECT_EQ(members(), std::pair(HRESULT{1}, 0));
     EXPECT_EQ(members(), std::pair(HRESULT{1}, 0));
-    model.Heal();
-    model.AnswerOnce(MemoryRequest::Any, 2); // each rule counts every request that it is meant for
-    model.AnswerOnce(MemoryRequest::ListMembers, 3);
+    model.ClearFaults();
+    model.FailNth(MemoryRequest::Any, 2); // each rule counts every request that it is meant for
+    model.FailNth(MemoryRequest::ListMembers, 3);
     EXPECT_EQ(members(), std::pair(S_OK, 1));
     EXPECT_EQ(members(), std::pair(E_UNEXPECTED, 0));
     EXPECT_EQ(members(), std::pair(E_UNEXPECTED, 0));
     EXPECT_EQ(members(), std::pair(S_OK, 1));
-    model.AnswerAlways(MemoryRequest::Cast);
+    model.FailAlways(MemoryRequest::Cast);
     EXPECT_FALSE(ZFXIAlias_var(loads));
 }
 

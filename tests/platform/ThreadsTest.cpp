@@ -4,7 +4,7 @@
 #include "QVRNameUtil.h"
 
 #include "collections/ZFXListVal.h"
-#include "support/Said.h"
+#include "support/Results.h"
 
 #include <gtest/gtest.h>
 
@@ -49,7 +49,7 @@ TEST(Threads, EachHasItsOwnLastErrorsAndMayJudgeTexts) {
         ZFXUnicodeString name(thread % 2 == 0 ? "1st" : "a.b");
         const HRESULT code = QVRNameUtil::IsNameValid(name, 1);
         last[static_cast<std::size_t>(thread)] = code;
-        EXPECT_EQ(Said(code), thread % 2 == 0 ? "LeadingDigitERR_01" : "IllegalCharERR_01 -100");
+        EXPECT_EQ(ResultText(code), thread % 2 == 0 ? "LeadingDigitERR_01" : "IllegalCharERR_01 -100");
         EXPECT_GT(ZFXError::ZFXGetLastError(code, nullptr)->GetNLSMessage().GetLengthInChar(), 20);
         ZFXUnicodeString padded(QVRGenZFXUnicodeStringUtils::ReplacePeriodWithDash(name));
         ZFXUnicodeString suffix("(b c)");

@@ -1,4 +1,4 @@
-#include "support/Said.h"
+#include "support/Results.h"
 
 #include "text/ZFXUnicodeString.h"
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "memory-model/MemoryModel.h"
-#include "support/Said.h"
+#include "support/Results.h"
 
 #include <gtest/gtest.h>
 
@@ -22,7 +22,7 @@ protected:
     /// Answers that are neither the default failure nor E_FAIL, so that a code passed on is told from one
     /// made up.
     static constexpr HRESULT kCode = static_cast<HRESULT>(0x80070057);
-    static constexpr MemoryAnswer kFails{kCode, false};
-    static constexpr MemoryAnswer kFailsFilled{kCode, true};
-    static constexpr MemoryAnswer kEmpty{S_OK, false};
+    static constexpr MemoryResponse kFails{kCode, false};
+    static constexpr MemoryResponse kFailsFilled{kCode, true};
+    static constexpr MemoryResponse kEmpty{S_OK, false};
 };

@@ -17,7 +17,7 @@ protected:
     std::string NameBy(Operation operation, MemoryFeature feature) {
         ZFXUnicodeString name("before");
         const HRESULT code = (utils->*operation)(feature, name);
-        return code == S_OK ? Text(name) : Said(code) + "|" + Text(name);
+        return code == S_OK ? Text(name) : ResultText(code) + "|" + Text(name);
     }
 
     static constexpr Operation kGeneric = &QVRGenI18NUtils::GetGenericEnglishFeatureName;

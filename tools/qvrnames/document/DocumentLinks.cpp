@@ -15,19 +15,19 @@ void Connect(LinkKind kind, MemoryFeature from, MemoryFeature to) {
         from.PointedAtBy(to);
         break;
     case LinkKind::Member:
-        from.Hold(to);
+        from.AddMember(to);
         break;
     case LinkKind::Group:
-        from.LeadTo(to);
+        from.SetGroup(to);
         break;
     case LinkKind::Connector:
-        from.Connect(to);
+        from.AddConnector(to);
         break;
     case LinkKind::MasterConnector:
-        from.Master(to);
+        from.AddMaster(to);
         break;
     case LinkKind::SlaveConnector:
-        from.Slave(to);
+        from.AddSlave(to);
         break;
     }
 }

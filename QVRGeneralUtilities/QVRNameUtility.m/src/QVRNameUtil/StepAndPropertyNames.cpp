@@ -66,11 +66,11 @@ HRESULT QVRNameUtil::GetUniqueNameForProperty(ZFXUnicodeString& name, ZFXISamAna
 }
 
 HRESULT QVRNameUtil::IsUniqueNameForObject(ZFXISpecObject_var& object, const ZFXUnicodeString& name) noexcept {
-    using Navigation::HolderOutcome;
-    const Navigation::HolderAnswer answer = Navigation::HoldingSetOf(object);
-    if (answer.outcome == HolderOutcome::EmptyList)
+    using Navigation::ParentSetOutcome;
+    const Navigation::ParentSetResult answer = Navigation::FirstParentSetOf(object);
+    if (answer.outcome == ParentSetOutcome::EmptyList)
         return S_OK; // in no set, so beside nothing
-    if (answer.outcome != HolderOutcome::Found)
+    if (answer.outcome != ParentSetOutcome::Found)
         return answer.code;
     const ZFXISamAnalysisSet_var set(answer.holder);
     if (set == nullptr)

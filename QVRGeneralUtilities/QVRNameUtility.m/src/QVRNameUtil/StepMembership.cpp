@@ -37,7 +37,7 @@ HRESULT QVRNameUtil::GetParentStepName(const ZFXISpecObject_var& object, ZFXUnic
 
 HRESULT QVRNameUtil::GetObjectsInStep(ZFXISpecObject_var& step, ZFXListValZFXBaseUnknown_var& objects,
                                       const ZFXISpecObject_var& object) noexcept {
-    const Navigation::HolderAnswer answer = Navigation::HoldingSetOf(object);
+    const Navigation::ParentSetResult answer = Navigation::FirstParentSetOf(object);
     const ZFXISpecObject_var holder(answer.holder);
     if (holder == nullptr)
         return E_FAIL;

@@ -32,11 +32,11 @@ HRESULT QVRNameUtil::IsNameUniqueInSet(const ZFXISpecObject_var& feature, const 
 }
 
 HRESULT QVRNameUtil::IsNameUniqueAcrossCases(ZFXISpecObject_var& feature, const ZFXUnicodeString& name) noexcept {
-    using Navigation::HolderOutcome;
-    const Navigation::HolderAnswer answer = Navigation::HoldingSetOf(feature);
-    if (answer.outcome == HolderOutcome::EmptyList)
+    using Navigation::ParentSetOutcome;
+    const Navigation::ParentSetResult answer = Navigation::FirstParentSetOf(feature);
+    if (answer.outcome == ParentSetOutcome::EmptyList)
         return E_FAIL;
-    if (answer.outcome != HolderOutcome::Found)
+    if (answer.outcome != ParentSetOutcome::Found)
         return answer.code;
     const ZFXISpecObject_var holder(answer.holder);
     const ZFXISamAnalysisModel_var model(holder == nullptr ? ZFXBaseUnknown_var() : TakeOver(holder->GetFather()));

@@ -9,7 +9,7 @@
 
 namespace Navigation {
 
-HistoryAnswer SimulationHistoryOf(const ZFXISamAnalysisCase_var& analysisCase) {
+HistoryResult SimulationHistoryOf(const ZFXISamAnalysisCase_var& analysisCase) {
     const ZFXISamAnalysisScan_var scan(analysisCase);
     if (scan == nullptr)
         return {HistoryOutcome::CaseNotSearchable, {}};
@@ -36,20 +36,20 @@ ZFXBaseUnknown_var SimulationHistoryAbove(const ZFXISpecObject_var& step) {
     return {};
 }
 
-HolderAnswer HoldingSetOf(const ZFXISpecObject_var& feature) {
+ParentSetResult FirstParentSetOf(const ZFXISpecObject_var& feature) {
     const ZFXISamAnalysisEntity_var entity(feature);
     if (entity == nullptr)
-        return {HolderOutcome::NoEntity, S_OK, {}};
+        return {ParentSetOutcome::NoEntity, S_OK, {}};
     ZFXListValZFXBaseUnknown_var* raw = nullptr;
     const HRESULT code = entity->GetParentSets(raw);
     const OwnedList sets(raw);
     if (Failed(code))
-        return {HolderOutcome::RequestFailed, code, {}};
+        return {ParentSetOutcome::RequestFailed, code, {}};
     if (sets == nullptr)
-        return {HolderOutcome::NoList, code, {}};
+        return {ParentSetOutcome::NoList, code, {}};
     if (sets->Size() == 0)
-        return {HolderOutcome::EmptyList, code, {}};
-    return {HolderOutcome::Found, code, (*sets)[1]};
+        return {ParentSetOutcome::EmptyList, code, {}};
+    return {ParentSetOutcome::Found, code, (*sets)[1]};
 }
 
 HRESULT AppendMembers(const ZFXISamAnalysisSet_var& set, ZFXListValZFXBaseUnknown_var& scope) {

@@ -11,29 +11,29 @@ namespace Navigation {
 
 enum class HistoryOutcome { CaseNotSearchable, NotFound, HistoryNotSearchable, Found };
 
-struct HistoryAnswer {
+struct HistoryResult {
     HistoryOutcome outcome;
     ZFXISamAnalysisScan_var history; ///< empty unless found
 };
 
 /// The simulation history of a case: the first object of its late type under the case. A failed search is one
 /// that found nothing.
-HistoryAnswer SimulationHistoryOf(const ZFXISamAnalysisCase_var& analysisCase);
+HistoryResult SimulationHistoryOf(const ZFXISamAnalysisCase_var& analysisCase);
 
 /// The simulation history above a step: the first owner of that late type among the attributes that point at
 /// the step. Empty when there is none.
 ZFXBaseUnknown_var SimulationHistoryAbove(const ZFXISpecObject_var& step);
 
-enum class HolderOutcome { NoEntity, RequestFailed, NoList, EmptyList, Found };
+enum class ParentSetOutcome { NoEntity, RequestFailed, NoList, EmptyList, Found };
 
-struct HolderAnswer {
-    HolderOutcome outcome;
+struct ParentSetResult {
+    ParentSetOutcome outcome;
     HRESULT code;              ///< of the request; S_OK when none was made
     ZFXBaseUnknown_var holder; ///< empty unless found
 };
 
 /// The set that holds a feature: the first of those that its entity names.
-HolderAnswer HoldingSetOf(const ZFXISpecObject_var& feature);
+ParentSetResult FirstParentSetOf(const ZFXISpecObject_var& feature);
 
 /// Appends the members of a set to a scope and returns the code of the request: what the list holds is taken
 /// whatever the code is. The set must not be empty.

@@ -8,7 +8,7 @@
 
 /// A result code as a test reads it: "S_OK", "E_FAIL", the message id of the error registered under it, with
 /// the return code that the error carries ("DuplicateNameERR_02 -100"), or the number.
-inline std::string Said(HRESULT code) {
+inline std::string ResultText(HRESULT code) {
     if (code == S_OK)
         return "S_OK";
     if (code == E_FAIL)
@@ -24,7 +24,7 @@ inline std::string Said(HRESULT code) {
 
 /// What an action writes on standard output.
 template <class Action>
-std::string Console(Action action) {
+std::string CapturedOutput(Action action) {
     std::ostringstream written;
     std::streambuf* const before = std::cout.rdbuf(written.rdbuf());
     action();
