@@ -7,7 +7,10 @@
 class ZFX_PLATFORM_EXPORT ZFXISamAnalysisSet : public ZFXBaseUnknown {
     ZFX_DECLARE_INTERFACE(ZFXISamAnalysisSet)
 
-    /// The member features, in order; CLSID_ZFXBaseUnknown takes them all, `flag` is 0. [appends]
+    /// The `flag` of every call of ListMembers. No other value is passed.
+    static constexpr int kMemberFlag = 0;
+
+    /// The member features, in order; CLSID_ZFXBaseUnknown takes them all, `flag` is kMemberFlag. [appends]
     virtual HRESULT ListMembers(ZFXListValZFXISpecObject_var& members, const IID& filter, int flag) = 0;
 };
 

@@ -6,7 +6,6 @@
 #include "analysis/ZFXISamAnalysisSet.h"
 #include "internal/Numbering.h"
 #include "internal/Ownership.h"
-#include "internal/Platform.h"
 #include "internal/Refusal.h"
 
 HRESULT QVRGenI18NUtils::GetGenericEnglishName(const ZFXISpecObject_var& feature, ZFXUnicodeString& name) noexcept {
@@ -14,7 +13,7 @@ HRESULT QVRGenI18NUtils::GetGenericEnglishName(const ZFXISpecObject_var& feature
         return InputErrorReturn(MessageId::GetGenericEnglishNameERR_01);
     const ZFXISamAnalysisSet_var set(TakeOver(feature->GetFather()));
     ZFXListValZFXISpecObject_var members;
-    if (set == nullptr || Failed(set->ListMembers(members, CLSID_ZFXBaseUnknown, kMemberFlag)))
+    if (set == nullptr || Failed(set->ListMembers(members, CLSID_ZFXBaseUnknown, ZFXISamAnalysisSet::kMemberFlag)))
         return InputErrorReturn(MessageId::GetGenericEnglishNameERR_01);
     const int position = members.Locate(feature, 1);
     if (position == 0)

@@ -5,7 +5,6 @@
 #include "analysis/ZFXIAlias.h"
 #include "internal/Navigation.h"
 #include "internal/Ownership.h"
-#include "internal/Platform.h"
 #include "internal/Refusal.h"
 
 HRESULT QVRNameUtil::GetObjectName(const ZFXISpecObject_var& feature, ZFXUnicodeString& name) noexcept {
@@ -34,7 +33,7 @@ HRESULT QVRNameUtil::GetMorvelObjectName(ZFXISpecObject_var& feature, ZFXUnicode
     if (father == nullptr)
         return InputErrorReturn(MessageId::ParentERR_01);
     ZFXListValZFXBaseUnknown_var siblings;
-    father->ListChildren(siblings, kScanMode); // the list counts, not the code
+    father->ListChildren(siblings, ZFXISamAnalysisScan::kScanMode); // the list counts, not the code
     const HRESULT unique = IsNameUniqueInSet(feature, siblings, "");
     return Failed(unique) ? InputErrorReturn(MessageId::DuplicateZFXNameERR_01) : unique;
 }

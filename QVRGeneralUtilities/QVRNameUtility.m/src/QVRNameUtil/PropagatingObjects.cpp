@@ -3,7 +3,6 @@
 #include "analysis/WorkbenchUtilities.h"
 #include "analysis/ZFXILinkableObject.h"
 #include "internal/Navigation.h"
-#include "internal/Platform.h"
 #include "internal/Refusal.h"
 
 #include <utility>
@@ -17,7 +16,7 @@ HRESULT QVRNameUtil::GetAllPropagatingObjects(ZFXISamAnalysisCase_var& analysisC
     if (outcome != Navigation::HistoryOutcome::Found)
         return InputErrorReturn(MessageId::ObjectParentERR_01);
     ZFXListValZFXBaseUnknown_var steps;
-    HRESULT code = history->ListChildren(steps, kScanMode);
+    HRESULT code = history->ListChildren(steps, ZFXISamAnalysisScan::kScanMode);
     if (Failed(code))
         return code;
     const ZFXBaseUnknown* self = ZFXIdentityOf(object);

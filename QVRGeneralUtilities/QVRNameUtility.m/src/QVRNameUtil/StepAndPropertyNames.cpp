@@ -4,7 +4,6 @@
 #include "analysis/ZFXILinkableObject.h"
 #include "errors/ZFXError.h"
 #include "internal/Navigation.h"
-#include "internal/Platform.h"
 #include "internal/Refusal.h"
 #include "internal/Vocabulary.h"
 
@@ -17,7 +16,7 @@ HRESULT QVRNameUtil::GetUniqueNameForStep(ZFXUnicodeString& name, ZFXISamAnalysi
     if (outcome != Navigation::HistoryOutcome::Found)
         return InputErrorReturn(MessageId::AnalysisCaseERR_03);
     ZFXListValZFXBaseUnknown_var steps;
-    const HRESULT code = history->ListChildren(steps, kScanMode);
+    const HRESULT code = history->ListChildren(steps, ZFXISamAnalysisScan::kScanMode);
     if (Failed(code))
         return code;
     if (steps.Size() > 0)
@@ -31,7 +30,7 @@ HRESULT QVRNameUtil::IsUniqueNameForStep(ZFXISpecObject_var& step, const ZFXUnic
         return InputErrorReturn(MessageId::StepParentERR_01);
     const ZFXISamAnalysisScan_var history(above);
     ZFXListValZFXBaseUnknown_var steps;
-    if (history == nullptr || Failed(history->ListChildren(steps, kScanMode)))
+    if (history == nullptr || Failed(history->ListChildren(steps, ZFXISamAnalysisScan::kScanMode)))
         return InputErrorReturn(MessageId::StepParentERR_02);
     const HRESULT code = IsNameUniqueInSet(step, steps, name);
     if (!Failed(code))
@@ -57,7 +56,7 @@ HRESULT QVRNameUtil::GetUniqueNameForProperty(ZFXUnicodeString& name, ZFXISamAna
     const ZFXISamAnalysisScan_var scan(model);
     ZFXListValZFXBaseUnknown_var found;
     if (scan != nullptr) // The found list decides, not the code.
-        scan->FindObjectsOfType(Vocabulary::QVRTarnisPropertySetLT, found, kScanMode);
+        scan->FindObjectsOfType(Vocabulary::QVRTarnisPropertySetLT, found, ZFXISamAnalysisScan::kScanMode);
     const ZFXISamAnalysisSet_var propertySet(found.Size() == 0 ? ZFXBaseUnknown_var() : found[1]);
     ZFXListValZFXBaseUnknown_var properties;
     if (propertySet == nullptr || Failed(Navigation::AppendMembers(propertySet, properties)))

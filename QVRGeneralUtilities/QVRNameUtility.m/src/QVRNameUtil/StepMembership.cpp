@@ -4,7 +4,6 @@
 #include "analysis/WorkbenchUtilities.h"
 #include "analysis/ZFXIAlias.h"
 #include "internal/Navigation.h"
-#include "internal/Platform.h"
 #include "internal/Vocabulary.h"
 
 #include <utility>
@@ -46,7 +45,7 @@ HRESULT QVRNameUtil::GetObjectsInStep(ZFXISpecObject_var& step, ZFXListValZFXBas
     if (scan == nullptr)
         return E_FAIL;
     ZFXListValZFXBaseUnknown_var found;
-    HRESULT code = scan->FindObjectsOfType(setType, found, kScanMode);
+    HRESULT code = scan->FindObjectsOfType(setType, found, ZFXISamAnalysisScan::kScanMode);
     if (Failed(code))
         return code;
     for (int i = 1; i <= found.Size(); ++i) {
@@ -54,8 +53,8 @@ HRESULT QVRNameUtil::GetObjectsInStep(ZFXISpecObject_var& step, ZFXListValZFXBas
         if (set == nullptr)
             continue;
         ZFXListValZFXISpecObject_var members;
-        set->ListMembers(members, CLSID_ZFXBaseUnknown,
-                         kMemberFlag); // what the list holds counts, not the code
+        // The list counts, not the code.
+        set->ListMembers(members, CLSID_ZFXBaseUnknown, ZFXISamAnalysisSet::kMemberFlag);
         for (ZFXISpecObject_var& member : members)
             if (!IsPropagated(member))
                 objects.Append(std::move(member));

@@ -5,7 +5,6 @@
 #include "internal/Names.h"
 #include "internal/Navigation.h"
 #include "internal/Ownership.h"
-#include "internal/Platform.h"
 #include "internal/Refusal.h"
 #include "internal/Vocabulary.h"
 #include "internal/Walk.h"
@@ -49,7 +48,8 @@ HRESULT QVRNameUtil::IsNameUniqueAcrossCases(ZFXISpecObject_var& feature, const 
         if (scan == nullptr)
             return E_FAIL;
         ZFXListValZFXBaseUnknown_var containers;
-        scan->FindObjectsOfType(Vocabulary::QVRJobContainerLT, containers, kScanMode); // as above
+        // The list counts, not the code.
+        scan->FindObjectsOfType(Vocabulary::QVRJobContainerLT, containers, ZFXISamAnalysisScan::kScanMode);
         if (containers.Size() == 0)
             continue;
         const ZFXISamAnalysisSet_var container(containers[1]);

@@ -2,7 +2,6 @@
 
 #include "analysis/ZFXISamAnalysisEntity.h"
 #include "internal/Ownership.h"
-#include "internal/Platform.h"
 #include "internal/Vocabulary.h"
 
 #include <utility>
@@ -14,7 +13,7 @@ HistoryResult SimulationHistoryOf(const ZFXISamAnalysisCase_var& analysisCase) {
     if (scan == nullptr)
         return {HistoryOutcome::CaseNotSearchable, {}};
     ZFXListValZFXBaseUnknown_var found;
-    const HRESULT code = scan->FindObjectsOfType(Vocabulary::QVROruSimHistLT, found, kScanMode);
+    const HRESULT code = scan->FindObjectsOfType(Vocabulary::QVROruSimHistLT, found, ZFXISamAnalysisScan::kScanMode);
     if (Failed(code) || found.Size() == 0)
         return {HistoryOutcome::NotFound, {}};
     const ZFXISamAnalysisScan_var history(found[1]);
@@ -54,7 +53,7 @@ ParentSetResult FirstParentSetOf(const ZFXISpecObject_var& feature) {
 
 HRESULT AppendMembers(const ZFXISamAnalysisSet_var& set, ZFXListValZFXBaseUnknown_var& scope) {
     ZFXListValZFXISpecObject_var members;
-    const HRESULT code = set->ListMembers(members, CLSID_ZFXBaseUnknown, kMemberFlag);
+    const HRESULT code = set->ListMembers(members, CLSID_ZFXBaseUnknown, ZFXISamAnalysisSet::kMemberFlag);
     scope.Reserve(scope.Size() + members.Size());
     for (ZFXISpecObject_var& member : members)
         scope.Append(std::move(member));
