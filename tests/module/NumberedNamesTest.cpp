@@ -1,10 +1,12 @@
 #include "QVRNameUtil.h"
 
-#include "QVRGenI18NUtils.h"
+#include "LateTypes.h"
 #include "support/DocumentTest.h"
 
 #include <random>
 #include <tuple>
+#include <utility>
+#include <vector>
 
 namespace {
 
@@ -74,23 +76,18 @@ TEST_F(NumberedNamesTest, ABatchGivesWhatSingleProposalsWould) {
     }
 }
 
-TEST_F(NumberedNamesTest, FeaturesTheSolverCannotNameGoByTheirLateType) {
-    QVRGenI18NUtils::Instance()->ResetAllLists();
-    // clang-format off
-    const std::tuple<const char*, const char*, const char*> rows[] = {
-        {"SAMBoltTightening", "ボルト", "SAMBoltTightening"}, {"SAMBoltTightening", "Träger", "Träger"},
-        {"SAMBoltTightening", "螺栓", "SAMBoltTightening-1"}, {"SAMThickness", "厚", "SAMThickness"},
-        {"SAMBoltTightening", "日", "SAMBoltTightening-2"}, {"QVRPressure", "圧力", "圧力"}, {"xSAM", "日", "日"},
-        {"SAMxSAM", "日", "SAMxSAM"},
-    };
-    // clang-format on
-    for (const auto& [lateType, alias, expectedName] : rows) {
-        const ZFXISpecObject_var feature(document.Model().Feature(lateType, alias));
-        ZFXUnicodeString name("before");
-        EXPECT_EQ(QVRNameUtil::GenerateUniqueName(*feature.Get(), name), S_OK);
-        EXPECT_EQ(Text(name), expectedName);
+TEST_F(NumberedNamesTest, BaseNamesFollowTheExactLateType) {
+    // The rows of the table, and late types that no row has.
+    std::vector<std::pair<const char*, const char*>> types{
+        {"QVRPressureLT", nullptr}, {"QVRPRESSURE", nullptr}, {"QVRFieldOutputLT", nullptr}, {"", nullptr}};
+    for (const LateTypes::Row& row : LateTypes::kRows)
+        types.emplace_back(row.lateType, row.baseName);
+    for (const auto& [lateType, expectedBaseName] : types) {
+        ZFXISpecObject_var feature(document.Model().Feature(lateType, "x"));
+        ZFXUnicodeString baseName("before");
+        EXPECT_EQ(QVRNameUtil::CreateBaseName(feature, baseName), S_OK);
+        EXPECT_EQ(Text(baseName), expectedBaseName == nullptr ? "before" : expectedBaseName) << lateType;
     }
-    QVRGenI18NUtils::Instance()->ResetAllLists();
 }
 
 } // namespace

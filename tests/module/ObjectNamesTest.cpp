@@ -1,6 +1,9 @@
 #include "QVRNameUtil.h"
 
+#include "QVRGenI18NUtils.h"
 #include "support/DocumentTest.h"
+
+#include <tuple>
 
 namespace {
 
@@ -46,6 +49,25 @@ TEST_F(ObjectNamesTest, NamesAreGivenAsStoredOrMadeLegal) {
     ZFXUnicodeString name("before");
     EXPECT_EQ(QVRNameUtil::GetObjectName(bolt.Alias("as.stored "), name), S_OK);
     EXPECT_EQ(Text(name), "as.stored ");
+}
+
+TEST_F(ObjectNamesTest, FeaturesTheSolverCannotNameGoByTheirLateType) {
+    QVRGenI18NUtils::Instance()->ResetAllLists();
+    // clang-format off
+    const std::tuple<const char*, const char*, const char*> rows[] = {
+        {"SAMBoltTightening", "ボルト", "SAMBoltTightening"}, {"SAMBoltTightening", "Träger", "Träger"},
+        {"SAMBoltTightening", "螺栓", "SAMBoltTightening-1"}, {"SAMThickness", "厚", "SAMThickness"},
+        {"SAMBoltTightening", "日", "SAMBoltTightening-2"}, {"QVRPressure", "圧力", "圧力"}, {"xSAM", "日", "日"},
+        {"SAMxSAM", "日", "SAMxSAM"},
+    };
+    // clang-format on
+    for (const auto& [lateType, alias, expectedName] : rows) {
+        const ZFXISpecObject_var feature(document.Model().Feature(lateType, alias));
+        ZFXUnicodeString name("before");
+        EXPECT_EQ(QVRNameUtil::GenerateUniqueName(*feature.Get(), name), S_OK);
+        EXPECT_EQ(Text(name), expectedName);
+    }
+    QVRGenI18NUtils::Instance()->ResetAllLists();
 }
 
 } // namespace

@@ -1,7 +1,6 @@
 #include "QVRNameUtility.h"
 
 #include "errors/MessageCatalog.h"
-#include "internal/MessageIds.h"
 
 #include <gtest/gtest.h>
 

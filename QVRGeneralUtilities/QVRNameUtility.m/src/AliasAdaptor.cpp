@@ -1,9 +1,19 @@
-#include "AliasAdaptor.h"
+// Offers ZFXIAlias on the features of the guarded late types and forwards it to QVREFeatureAlias. The platform creates
+// one adaptor for each interface cast and destroys it with its last reference.
 
 #include "QVREFeatureAlias.h"
+
+#include "analysis/ZFXIAlias.h"
 #include "object-model/ZFXDictionary.h"
+#include "object-model/ZFXTie.h"
+
+#include <cassert>
 
 namespace {
+
+/// Registered when the module is loaded. From then on, a feature of the guarded late types offers ZFXIAlias.
+const ZFXFillDictionary dictionaryEntry(QVREFeatureAlias::MetaObject(), ZFXIAlias::MetaObject(),
+                                        CreateTIEZFXIAliasQVREFeatureAlias, nullptr, 1);
 
 ZFXMetaClass* AdaptorClass() {
     static ZFXMetaClass* const adaptorClass = fct_RetrieveAdaptorMetaObject(
@@ -11,60 +21,62 @@ ZFXMetaClass* AdaptorClass() {
     return adaptorClass;
 }
 
-/// What Tie_Construct gave for the module's last adaptor, to be offered to the next.
-ZFXBaseUnknown* previousImplementation = nullptr;
-
-QVREFeatureAlias* ImplementationOf(const ZFXTie& tie) { return static_cast<QVREFeatureAlias*>(Tie_StackCtx::Run(tie)); }
-
-/// Made when the module is loaded: a feature of the late types answers ZFXIAlias from then on.
-const ZFXFillDictionary dictionaryEntry(QVREFeatureAlias::MetaObject(), ZFXIAlias::MetaObject(),
-                                        CreateTIEZFXIAliasQVREFeatureAlias, nullptr, 1);
-
-} // namespace
-
-AliasAdaptor* AliasAdaptor::Make(ZFXBaseUnknown* object, void* context) {
-    auto* adaptor = new AliasAdaptor;
-    if (adaptor == nullptr || object == nullptr) {
-        delete adaptor;
+class AliasAdaptor final : public ZFXIAlias {
+public:
+    /// Creates an adaptor on `object` with one reference. Returns null without an object or without memory.
+    [[nodiscard]] static AliasAdaptor* Make(ZFXBaseUnknown* object, void* context) {
+        auto* adaptor = object == nullptr ? nullptr : new AliasAdaptor;
+        if (adaptor == nullptr)
+            return nullptr;
+        previousImplementation = Tie_Construct(adaptor, adaptor->m_tie, AdaptorClass(), QVREFeatureAlias::ClassId(),
+                                               QVREFeatureAlias::MetaObject()->GetTypeOfClass(), previousImplementation,
+                                               QVREFeatureAlias::CreateItself, object, context);
+        if (adaptor->m_tie.implementation != nullptr)
+            return adaptor;
+        adaptor->Release();
         return nullptr;
     }
-    previousImplementation = Tie_Construct(adaptor, adaptor->m_tie, AdaptorClass(), QVREFeatureAlias::ClassId(),
-                                           QVREFeatureAlias::MetaObject()->GetTypeOfClass(), previousImplementation,
-                                           QVREFeatureAlias::CreateItself, object, context);
-    if (adaptor->m_tie.implementation != nullptr)
-        return adaptor;
-    adaptor->Release();
-    return nullptr;
-}
+    ~AliasAdaptor() override { Tie_Destruct(this, m_tie); }
 
-AliasAdaptor::~AliasAdaptor() { Tie_Destruct(this, m_tie); }
+    void SetAlias(const ZFXUnicodeString& alias) override { Implementation()->SetAlias(alias); }
+    ZFXUnicodeString GetAlias() override { return Implementation()->GetAlias(); }
 
-HRESULT AliasAdaptor::QueryInterface(const IID& iid, void** face) {
-    return Tie_Query(this, m_tie, AdaptorClass(), iid, face);
-}
+    using ZFXIAlias::QueryInterface;
+    HRESULT QueryInterface(const IID& iid, void** face) override {
+        return Tie_Query(this, m_tie, AdaptorClass(), iid, face);
+    }
+    ULONG AddRef() override { return Tie_AddRef(m_tie); }
+    ULONG Release() override { return Tie_Release(this, m_tie); }
+    ZFXMetaClass* GetMetaObject() const override { return AdaptorClass(); }
+    HRESULT GetTypeInfoCount(unsigned int* count) override { return Tie_GetTypeInfoCount(m_tie, count); }
+    HRESULT GetTypeInfo(unsigned int index, unsigned long locale, void** info) override {
+        return Tie_GetTypeInfo(m_tie, index, locale, info);
+    }
+    HRESULT GetIDsOfNames(const IID& iid, char16_t** names, unsigned int count, unsigned long locale,
+                          long* ids) override {
+        return Tie_GetIDsOfNames(m_tie, iid, names, count, locale, ids);
+    }
+    HRESULT Invoke(long id, const IID& iid, unsigned long locale, unsigned short flags, void* params, void* result,
+                   void* exception, unsigned int* argument) override {
+        return Tie_Invoke(m_tie, id, iid, locale, flags, params, result, exception, argument);
+    }
 
-ULONG AliasAdaptor::AddRef() { return Tie_AddRef(m_tie); }
-ULONG AliasAdaptor::Release() { return Tie_Release(this, m_tie); }
-HRESULT AliasAdaptor::GetTypeInfoCount(unsigned int* count) { return Tie_GetTypeInfoCount(m_tie, count); }
+private:
+    AliasAdaptor() = default;
 
-HRESULT AliasAdaptor::GetTypeInfo(unsigned int index, unsigned long locale, void** info) {
-    return Tie_GetTypeInfo(m_tie, index, locale, info);
-}
+    QVREFeatureAlias* Implementation() const {
+        ZFXBaseUnknown* const implementation = Tie_StackCtx::Run(m_tie);
+        assert(implementation != nullptr);
+        return static_cast<QVREFeatureAlias*>(implementation);
+    }
 
-HRESULT AliasAdaptor::GetIDsOfNames(const IID& iid, char16_t** names, unsigned int count, unsigned long locale,
-                                    long* ids) {
-    return Tie_GetIDsOfNames(m_tie, iid, names, count, locale, ids);
-}
+    /// The result of Tie_Construct for the module's last adaptor; passed on for the next one.
+    static inline ZFXBaseUnknown* previousImplementation = nullptr;
 
-HRESULT AliasAdaptor::Invoke(long id, const IID& iid, unsigned long locale, unsigned short flags, void* params,
-                             void* result, void* exception, unsigned int* argument) {
-    return Tie_Invoke(m_tie, id, iid, locale, flags, params, result, exception, argument);
-}
+    ZFXTie m_tie;
+};
 
-ZFXMetaClass* AliasAdaptor::GetMetaObject() const { return AdaptorClass(); }
-
-void AliasAdaptor::SetAlias(const ZFXUnicodeString& alias) { ImplementationOf(m_tie)->SetAlias(alias); }
-ZFXUnicodeString AliasAdaptor::GetAlias() { return ImplementationOf(m_tie)->GetAlias(); }
+} // namespace
 
 ZFXBaseUnknown* CreateTIEZFXIAliasQVREFeatureAlias(ZFXBaseUnknown* object, void* context) {
     return AliasAdaptor::Make(object, context);

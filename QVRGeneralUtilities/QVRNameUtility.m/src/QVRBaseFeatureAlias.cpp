@@ -3,9 +3,9 @@
 #include "QVRNameUtil.h"
 #include "analysis/ZFXISpecAttrAccess.h"
 #include "errors/ZFXError.h"
-#include "internal/Ownership.h"
 #include "internal/Vocabulary.h"
 
+#include <cassert>
 #include <iostream>
 
 namespace {
@@ -15,8 +15,9 @@ namespace {
 class AliasAttribute {
 public:
     explicit AliasAttribute(ZFXBaseUnknown* extension) : m_access(extension) {
+        assert(extension != nullptr);
         if (m_access != nullptr)
-            m_key = TakeOver(m_access->GetAttrKey("Alias"));
+            m_key = ZFXISpecAttrKey_var::TakeOver(m_access->GetAttrKey("Alias"));
     }
 
     ZFXUnicodeString Read() const { return m_key == nullptr ? ZFXUnicodeString() : m_access->GetString(m_key, 0); }

@@ -7,14 +7,16 @@
 #include "analysis/ZFXISamExplicit.h"
 #include "internal/Numbering.h"
 
+#include <tuple>
+
 namespace {
 
 using Utils = QVRGenZFXUnicodeStringUtils;
 
-constexpr const char* kOrphanMesh = "OrphanMesh-";
+constexpr const char* kOrphanMeshPrefix = "OrphanMesh-";
 constexpr const char* kTagMarker = "INSTANCE";
 
-/// The integer that the platform keeps for a mesh part.
+/// Reads the integer tag that the platform stores for a mesh part.
 HRESULT ReadTag(const ZFXIMSHMeshPart_var& meshPart, int& tag) {
     const ZFXISamExplicit_var explicitPart(meshPart);
     ZFXAnalysisExplicitChild child;
@@ -23,18 +25,19 @@ HRESULT ReadTag(const ZFXIMSHMeshPart_var& meshPart, int& tag) {
     return child.GetTag(tag);
 }
 
-/// What stands behind a prefix, a colon and a blank; the blank is taken to be there unless the colon leads.
+/// Removes the text up to the last colon and the character after it, which is usually a space. Keeps that character if
+/// the colon is the first character, and the whole text if the colon is the last one.
 ZFXUnicodeString WithoutColonPrefix(const ZFXUnicodeString& display) {
     const int colon = display.SearchSubString(":", 0, ZFXUnicodeString::SearchBackward);
-    const int behind = display.GetLengthInChar() - colon - 1;
-    ZFXUnicodeString base = colon >= 0 && behind >= 1 ? display.SubString(colon + 1, behind) : display;
+    const int rest = display.GetLengthInChar() - colon - 1;
+    ZFXUnicodeString base = colon >= 0 && rest >= 1 ? display.SubString(colon + 1, rest) : display;
     if (colon > 0)
         base.Remove(0, 1);
     return base;
 }
 
 /// Removes spaces at the start, and spaces and underscores in any mix at the end. Other white space stays.
-ZFXUnicodeString WithoutBlankEnds(const ZFXUnicodeString& text) {
+ZFXUnicodeString Trimmed(const ZFXUnicodeString& text) {
     ZFXUnicodeString trimmed(text);
     ZFXUnicodeString before;
     do {
@@ -44,13 +47,14 @@ ZFXUnicodeString WithoutBlankEnds(const ZFXUnicodeString& text) {
     return trimmed;
 }
 
-ZFXUnicodeString Clean(const ZFXUnicodeString& base) {
-    const ZFXUnicodeString trimmed = WithoutBlankEnds(Utils::RemoveLeadingUnderscores(Utils::RemoveDoubleQuotes(base)));
+/// Removes what the solver deck does not allow in a name.
+ZFXUnicodeString CleanedName(const ZFXUnicodeString& base) {
+    const ZFXUnicodeString trimmed = Trimmed(Utils::RemoveLeadingUnderscores(Utils::RemoveDoubleQuotes(base)));
     return Utils::ReplaceBackslashWithForwardslash(Utils::ReplacePeriodWithDash(trimmed));
 }
 
 ZFXUnicodeString DeckName(const char* word, int tag, const ZFXUnicodeString& base) {
-    ZFXUnicodeString name = Numbering::Numbered(word, tag);
+    ZFXUnicodeString name = Numbering::NumberedName(word, tag);
     if (base.IsNull() == 0)
         name.Append("-").Append(base);
     return Utils::TrucateToLegalLength(name);
@@ -71,8 +75,8 @@ HRESULT QVRGenInstanceName::GetUniqueLegalInstanceName(const ZFXIMSHMeshPart_var
     if (alias == nullptr)
         return E_FAIL;
     const ZFXUnicodeString display = alias->GetAlias();
-    if (display.SearchSubString(kOrphanMesh, 0, ZFXUnicodeString::SearchForward) == 0) {
-        instanceName = partName = display.SubString(ZFXUnicodeString(kOrphanMesh).GetLengthInChar(), -1);
+    if (display.SearchSubString(kOrphanMeshPrefix, 0, ZFXUnicodeString::SearchForward) == 0) {
+        instanceName = partName = display.SubString(ZFXUnicodeString(kOrphanMeshPrefix).GetLengthInChar(), -1);
         return S_OK;
     }
     ZFXUnicodeString base;
@@ -84,7 +88,7 @@ HRESULT QVRGenInstanceName::GetUniqueLegalInstanceName(const ZFXIMSHMeshPart_var
     } else {
         base = WithoutColonPrefix(display);
     }
-    base = Clean(base);
+    base = CleanedName(base);
     instanceName = DeckName("Instance", tag, base);
     partName = DeckName("Part", tag, base);
     return S_OK;
@@ -98,6 +102,6 @@ HRESULT QVRGenInstanceName::GetUniqueLegalInstanceTag(int& tag, const ZFXUnicode
     }
     const ZFXUnicodeString rest = name.SubString(marker + ZFXUnicodeString(kTagMarker).GetLengthInChar(), -1);
     const int dash = rest.SearchSubString("-", 0, ZFXUnicodeString::SearchForward);
-    rest.SubString(0, dash).ConvertToNum(&tag, "%d"); // without a dash, to the end
+    std::ignore = rest.SubString(0, dash).ConvertToNum(&tag, "%d"); // keeps `tag` if this is no number
     return S_OK;
 }

@@ -1,6 +1,7 @@
+// What the module has besides its classes: the constants that are built when it is loaded, and its marker.
+
 #include "QVRNameUtility.h"
 
-#include "QVRNameUtil.h"
 #include "internal/Vocabulary.h"
 
 namespace Vocabulary {
@@ -10,8 +11,3 @@ namespace Vocabulary {
 } // namespace Vocabulary
 
 int HALVERN_WORKS_UXM2_INTERNAL_QVRNameUtility() { return 1; }
-
-QVRNameUtil::QVRNameUtil() = default;
-QVRNameUtil::QVRNameUtil(const QVRNameUtil& other) = default;
-QVRNameUtil& QVRNameUtil::operator=(const QVRNameUtil& other) = default;
-QVRNameUtil::~QVRNameUtil() = default;

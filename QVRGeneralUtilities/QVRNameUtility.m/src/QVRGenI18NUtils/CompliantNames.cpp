@@ -6,12 +6,12 @@
 
 namespace {
 
-/// Late types begin with a prefix of their maker's, which says nothing to the solver's user.
+/// Removes the prefix that late types begin with, in any letter case.
 ZFXUnicodeString WithoutTypePrefix(const ZFXUnicodeString& name) {
     ZFXUnicodeString prefix = name.SubString(0, 3);
     prefix.ToUpper();
-    const bool known = prefix == "QVR" || prefix == "SAM" || prefix == "LMS";
-    return known ? name.SubString(3, -1) : name;
+    const bool isPrefix = prefix == "QVR" || prefix == "SAM" || prefix == "LMS";
+    return isPrefix ? name.SubString(3, -1) : name;
 }
 
 } // namespace
@@ -28,10 +28,6 @@ HRESULT QVRGenI18NUtils::GetTARNISCompliantFeatureName(const ZFXUnicodeString& n
         compliantName = WithoutTypePrefix(name);
         return S_OK;
     }
-    QVRGenI18NUtils* handedOut = Instance(); // whatever object this is
-    int count = 0;
-    const bool again = handedOut->FindNameAndNextID(genericName, count) != 0;
-    handedOut->PushNameToList(genericName);
-    compliantName = WithoutTypePrefix(again ? Numbering::Numbered(genericName + "-", count) : genericName);
+    compliantName = WithoutTypePrefix(Numbering::IssueGenericName(genericName));
     return S_OK;
 }

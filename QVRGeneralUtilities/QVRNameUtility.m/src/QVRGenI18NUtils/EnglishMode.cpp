@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <cstdint>
 #include <iostream>
+#include <tuple>
 
 namespace {
 
@@ -13,7 +14,7 @@ namespace {
 constexpr int EnglishLocaleIds[] = {0x0409, 0x0809, 0x0C09, 0x1009, 0x1409, 0x1809, 0x1C09,
                                     0x2009, 0x2409, 0x2809, 0x2C09, 0x3009, 0x3409};
 
-void Report(const char* which, unsigned char english) {
+void PrintInitialLocale(const char* which, unsigned char english) {
     std::cout << "The initial " << which << " locale is " << (english != 0 ? "" : "NOT ") << "English." << std::endl;
 }
 
@@ -38,12 +39,12 @@ unsigned char QVRGenI18NUtils::IsEnglishMode() noexcept {
     m_initialInputLocaleEnglish = IsEnglishInputLocale();
     m_englishMode = m_initialUserLocaleEnglish & m_initialInputLocaleEnglish;
     m_localesChecked = 1;
-    Report("user", m_initialUserLocaleEnglish);
-    Report("input", m_initialInputLocaleEnglish);
+    PrintInitialLocale("user", m_initialUserLocaleEnglish);
+    PrintInitialLocale("input", m_initialInputLocaleEnglish);
     return m_englishMode;
 }
 
-void QVRGenI18NUtils::GetInitialLocales() noexcept { IsEnglishMode(); }
+void QVRGenI18NUtils::GetInitialLocales() noexcept { std::ignore = IsEnglishMode(); }
 
 unsigned char QVRGenI18NUtils::IsInitialUserLocaleEnglish() noexcept { return m_initialUserLocaleEnglish; }
 

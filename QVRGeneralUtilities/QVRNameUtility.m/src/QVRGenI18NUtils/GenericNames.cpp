@@ -4,21 +4,20 @@
 #include "QVRGenZFXUnicodeStringUtils.h"
 #include "analysis/ZFXIAlias.h"
 #include "analysis/ZFXISamAnalysisSet.h"
+#include "internal/InputErrors.h"
 #include "internal/Numbering.h"
-#include "internal/Ownership.h"
-#include "internal/Refusal.h"
 
 HRESULT QVRGenI18NUtils::GetGenericEnglishName(const ZFXISpecObject_var& feature, ZFXUnicodeString& name) noexcept {
     if (feature == nullptr)
         return InputErrorReturn(MessageId::GetGenericEnglishNameERR_01);
-    const ZFXISamAnalysisSet_var set(TakeOver(feature->GetFather()));
+    const ZFXISamAnalysisSet_var set(ZFXBaseUnknown_var::TakeOver(feature->GetFather()));
     ZFXListValZFXISpecObject_var members;
     if (set == nullptr || Failed(set->ListMembers(members, CLSID_ZFXBaseUnknown, ZFXISamAnalysisSet::kMemberFlag)))
         return InputErrorReturn(MessageId::GetGenericEnglishNameERR_01);
     const int position = members.Locate(feature, 1);
     if (position == 0)
         return InputErrorReturn(MessageId::GetGenericEnglishNameERR_01);
-    name = Numbering::Numbered(feature->GetLateType() + "-", position);
+    name = Numbering::NumberedName(feature->GetLateType() + "-", position);
     return S_OK;
 }
 
@@ -32,7 +31,7 @@ HRESULT QVRGenI18NUtils::GetGenericEnglishFeatureName(const ZFXISpecObject_var& 
     }
     const ZFXUnicodeString lateType = feature->GetLateType();
     const int number = m_index->lateTypes.NbOccur(lateType) + 1;
-    name = QVRGenZFXUnicodeStringUtils::RemovePeriods(Numbering::Numbered(lateType + "-", number));
+    name = QVRGenZFXUnicodeStringUtils::RemovePeriods(Numbering::NumberedName(lateType + "-", number));
     m_index->AddFeature(feature, name, lateType);
     return S_OK;
 }
@@ -54,8 +53,7 @@ HRESULT QVRGenI18NUtils::GetFeatureName(const ZFXISpecObject_var& feature, ZFXUn
         if (listedAlias->GetAlias() == display)
             ++count;
     }
-    const ZFXUnicodeString numbered = count > 0 ? Numbering::Numbered(display + "-", count) : display;
-    name = QVRGenZFXUnicodeStringUtils::RemovePeriods(numbered);
+    name = QVRGenZFXUnicodeStringUtils::RemovePeriods(Numbering::DistinctName(display, count));
     m_index->AddFeature(feature, name, feature->GetLateType());
     return S_OK;
 }

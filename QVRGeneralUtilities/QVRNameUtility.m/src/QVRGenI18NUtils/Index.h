@@ -3,16 +3,17 @@
 #include "QVRGenI18NUtils.h"
 
 #include <algorithm>
+#include <cassert>
 #include <cstddef>
 #include <functional>
 #include <string_view>
 #include <unordered_map>
 
-inline std::size_t HashOf(const ZFXUnicodeString& text) noexcept {
+[[nodiscard]] inline std::size_t HashOf(const ZFXUnicodeString& text) noexcept {
     return std::hash<std::u16string_view>()(text.Units());
 }
 
-inline std::size_t HashOf(const ZFXISpecObject_var& object) {
+[[nodiscard]] inline std::size_t HashOf(const ZFXISpecObject_var& object) {
     return std::hash<const ZFXBaseUnknown*>()(ZFXIdentityOf(object));
 }
 
@@ -23,22 +24,23 @@ inline std::size_t HashOf(const ZFXISpecObject_var& object) {
 template <class Element>
 class IndexedList {
 public:
-    /// Indexes what the list contains. From now on the list must change through this index only.
+    /// Indexes what the list contains. From then on, the list must change through this index only.
     explicit IndexedList(ZFXListVal<Element>& list) : m_list(list) {
         for (int position = 1; position <= m_list.Size(); ++position)
             Add(position);
     }
 
     /// Returns the position of the first element equal to `x`, or 0 if there is none.
-    int Locate(const Element& x) {
+    [[nodiscard]] int Locate(const Element& x) {
         const Entry* entry = Find(x);
         return entry == nullptr ? 0 : entry->position;
     }
     /// Returns the number of elements equal to `x`.
-    int NbOccur(const Element& x) {
+    [[nodiscard]] int NbOccur(const Element& x) {
         const Entry* entry = Find(x);
         return entry == nullptr ? 0 : entry->occurrences;
     }
+    /// Appends an element to the list and the index.
     void Append(const Element& x) {
         m_list.Append(x);
         Add(m_list.Size());
@@ -56,6 +58,7 @@ private:
         return found == last ? nullptr : &found->second;
     }
     void Add(int position) {
+        assert(position >= 1 && position <= m_list.Size());
         const Element& x = m_list[position];
         if (Entry* entry = Find(x))
             ++entry->occurrences;
@@ -76,7 +79,7 @@ struct QVRGenI18NUtils::Index {
           lateTypes(lists.m_featureLateTypes),
           featureNames(lists.m_featureNames) {}
 
-    /// Appends a feature with the name that it keeps.
+    /// Appends a feature with its name and late type. All three lists have the same length.
     void AddFeature(const ZFXISpecObject_var& feature, const ZFXUnicodeString& name, const ZFXUnicodeString& lateType) {
         features.Append(feature);
         featureNames.Append(name);

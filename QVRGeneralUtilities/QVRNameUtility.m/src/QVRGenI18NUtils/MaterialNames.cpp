@@ -10,7 +10,7 @@
 
 namespace {
 
-/// Returns the material name, else the alias, or nothing for an object that offers neither.
+/// Returns the material name of an object that offers one, else its alias. Returns nothing if it offers neither.
 std::optional<ZFXUnicodeString> MaterialNameOf(const ZFXISpecObject_var& material) {
     if (const ZFXIMaterialFeature_var named(material); named != nullptr)
         return named->GetMaterialFeatureName();
@@ -39,8 +39,7 @@ HRESULT QVRGenI18NUtils::GetMaterialName(const ZFXISpecObject_var& material, ZFX
     }
     if (listed == 0)
         m_index->materials.Append(material);
-    const ZFXUnicodeString numbered = count > 0 ? Numbering::Numbered(*own + "-", count) : *own;
-    name = QVRGenZFXUnicodeStringUtils::ReplacePeriodWithDash(numbered);
+    name = QVRGenZFXUnicodeStringUtils::ReplacePeriodWithDash(Numbering::DistinctName(*own, count));
     return S_OK;
 }
 
@@ -54,6 +53,6 @@ HRESULT QVRGenI18NUtils::GetGenericEnglishMaterialName(const ZFXISpecObject_var&
         m_index->materials.Append(material);
         position = m_materialObjects.Size();
     }
-    name = QVRGenZFXUnicodeStringUtils::ReplacePeriodWithDash(Numbering::Numbered(lateType + "-", position));
+    name = QVRGenZFXUnicodeStringUtils::ReplacePeriodWithDash(Numbering::NumberedName(lateType + "-", position));
     return S_OK;
 }

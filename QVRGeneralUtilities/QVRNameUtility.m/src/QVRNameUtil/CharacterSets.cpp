@@ -1,19 +1,20 @@
 #include "QVRNameUtil.h"
 
+#include "internal/InputErrors.h"
 #include "internal/NameRules.h"
-#include "internal/Refusal.h"
 
 #include <algorithm>
 #include <string>
 
 namespace {
 
-/// Lists the units above the limit for the user and refuses the name if there are any.
-HRESULT RefuseAbove(char16_t limit, const ZFXUnicodeString& name, ZFXUnicodeString& offending) {
+/// Returns S_OK if no unit of the name is above the limit. Otherwise appends these units to `offending` and raises
+/// DoubleByteCharErr_01.
+HRESULT RejectUnitsAbove(char16_t limit, const ZFXUnicodeString& name, ZFXUnicodeString& offending) {
     const auto isAbove = [limit](char16_t unit) { return unit > limit; };
     if (std::ranges::none_of(name.Units(), isAbove))
         return S_OK;
-    const ZFXUnicodeString examined(name); // the list may be the name itself
+    const ZFXUnicodeString examined(name); // `offending` may be the same object as `name`
     for (const char16_t unit : examined.Units()) {
         if (!isAbove(unit))
             continue;
@@ -26,16 +27,16 @@ HRESULT RefuseAbove(char16_t limit, const ZFXUnicodeString& name, ZFXUnicodeStri
     return InputErrorReturn(MessageId::DoubleByteCharErr_01, {.diagnostic = &offending});
 }
 
-constexpr int kMaxTagLength = 80;
+constexpr int kMaxTagLength = 80; // UTF-16 code units
 
 } // namespace
 
 HRESULT QVRNameUtil::DoesNameContainDoubleByteChar(const ZFXUnicodeString& name, ZFXUnicodeString& offending) noexcept {
-    return RefuseAbove(0xFF, name, offending);
+    return RejectUnitsAbove(0xFF, name, offending);
 }
 
 HRESULT QVRNameUtil::DoesNameContainSignedChar(const ZFXUnicodeString& name, ZFXUnicodeString& offending) noexcept {
-    return RefuseAbove(0x7F, name, offending);
+    return RejectUnitsAbove(0x7F, name, offending);
 }
 
 HRESULT QVRNameUtil::StripIllegalCharsFromFileName(ZFXUnicodeString& name) noexcept {
@@ -46,14 +47,14 @@ HRESULT QVRNameUtil::StripIllegalCharsFromFileName(ZFXUnicodeString& name) noexc
 }
 
 void QVRNameUtil::QuoteIfNeeded(ZFXUnicodeString& name) noexcept {
-    const bool holdsSpace = name.SearchSubString(" ", 0, ZFXUnicodeString::SearchForward) != -1;
-    const bool beginsQuoted = name.SearchSubString("\"", 0, ZFXUnicodeString::SearchForward) == 0;
-    if (holdsSpace && !beginsQuoted)
+    const bool hasSpace = name.SearchSubString(" ", 0, ZFXUnicodeString::SearchForward) != -1;
+    const bool isQuoted = name.SearchSubString("\"", 0, ZFXUnicodeString::SearchForward) == 0;
+    if (hasSpace && !isQuoted)
         name = ZFXUnicodeString("\"").Append(name).Append("\"");
 }
 
 HRESULT QVRNameUtil::PadStrings(ZFXUnicodeString& name, ZFXUnicodeString& suffix, ZFXUnicodeString& prefix) noexcept {
-    ZFXUnicodeString tag = prefix + name; // before the suffix changes: it may be one of the two
+    ZFXUnicodeString tag = prefix + name; // before `suffix` changes, because it may be one of these objects
     const HRESULT code = StripIllegalCharsFromFileName(suffix);
     tag.Append("_").Append(suffix.ConvertToChar());
     tag.ReplaceAll(" ", "");

@@ -4,7 +4,14 @@
 #include "analysis/QVRIStep.h"
 #include "analysis/WorkbenchUtilities.h"
 #include "analysis/ZFXIAlias.h"
-#include "internal/Refusal.h"
+#include "internal/InputErrors.h"
+
+#include <tuple>
+
+QVRNameUtil::QVRNameUtil() = default;
+QVRNameUtil::QVRNameUtil(const QVRNameUtil& other) = default;
+QVRNameUtil& QVRNameUtil::operator=(const QVRNameUtil& other) = default;
+QVRNameUtil::~QVRNameUtil() = default;
 
 HRESULT QVRNameUtil::IsNameUnique(ZFXISpecObject_var& feature, const ZFXUnicodeString& name) noexcept {
     if (QVRIStep_var(feature) != nullptr)
@@ -49,12 +56,12 @@ void QVRNameUtil::GetUniqueName(ZFXUnicodeString& name, ZFXISpecObject_var& feat
     if (scopeCase == nullptr &&
         (Failed(QVRStepUtils::GetCurrentAnalysisCaseSP(scopeCase, nullptr)) || scopeCase == nullptr))
         return;
-    // Whatever goes wrong below leaves the name; there is nobody to hand a code to.
+    // The operation returns no code. Each failure below leaves the name unchanged.
     if (QVRIStep_var(feature) != nullptr)
-        static_cast<void>(GetUniqueNameForStep(name, scopeCase));
+        std::ignore = GetUniqueNameForStep(name, scopeCase);
     else if (QVRAnalysisEntityUtils::IsObjectAProperty(feature) != 0 ||
              QVRAnalysisEntityUtils::IsObjectAnAmplitude(feature) != 0)
-        static_cast<void>(GetUniqueNameForProperty(name, scopeCase));
+        std::ignore = GetUniqueNameForProperty(name, scopeCase);
     else
-        static_cast<void>(GetUniqueNameForPropagatingObject(name, feature, scopeCase));
+        std::ignore = GetUniqueNameForPropagatingObject(name, feature, scopeCase);
 }

@@ -5,7 +5,8 @@
 #include "analysis/ZFXIAlias.h"
 #include "analysis/ZFXISamAnalysisConnector.h"
 #include "analysis/ZFXISamAnalysisSupport.h"
-#include "internal/Ownership.h"
+
+#include <tuple>
 
 HRESULT QVRNameUtil::GetSupportGroupName(ZFXISpecObject_var& support, ZFXUnicodeString& groupName) noexcept {
     groupName = "";
@@ -13,20 +14,21 @@ HRESULT QVRNameUtil::GetSupportGroupName(ZFXISpecObject_var& support, ZFXUnicode
     if (connected == nullptr)
         return S_OK;
     ZFXListValZFXBaseUnknown_var connectors;
-    connected->ListConnectors(connectors); // the list counts, not the code
+    std::ignore = connected->ListConnectors(connectors); // the list counts, not the code
     return GetSupportGroupName(connectors, groupName);
 }
 
 HRESULT QVRNameUtil::GetSupportGroupName(
-    ZFXListValZFXBaseUnknown_var connectors, // NOLINT(performance-unnecessary-value-param): callers know it by value
+    ZFXListValZFXBaseUnknown_var connectors, // NOLINT(performance-unnecessary-value-param):
+                                             // the exported signature is fixed
     ZFXUnicodeString& groupName) noexcept {
     groupName = "";
     const ZFXISamAnalysisConnector_var connector(connectors.Size() == 1 ? connectors[1] : ZFXBaseUnknown_var());
     if (connector == nullptr)
         return S_OK;
     ZFXBaseUnknown* raw = nullptr;
-    connector->GetGroup(raw); // the group counts, not the code
-    const ZFXBaseUnknown_var group = TakeOver(raw);
+    std::ignore = connector->GetGroup(raw); // the group counts, not the code
+    const ZFXBaseUnknown_var group = ZFXBaseUnknown_var::TakeOver(raw);
     if (QVRISamGroupExt_var(group) == nullptr)
         return E_FAIL;
     const ZFXIAlias_var alias(group);
@@ -45,11 +47,11 @@ HRESULT QVRNameUtil::GetGrpNameofMasterAndSlave(QVRISamAnalysisConnectionDesign_
         return E_FAIL;
     ZFXListValZFXBaseUnknown_var master;
     ZFXListValZFXBaseUnknown_var slave;
-    design->GetMasterAndSlaveConnectors(master, slave); // the lists count, not the code
+    std::ignore = design->GetMasterAndSlaveConnectors(master, slave); // the lists count, not the code
     if (master.Size() != 1 || slave.Size() != 1)
         return S_OK;
-    // A side without a usable group has an empty name; that is no failure of the design.
-    static_cast<void>(GetSupportGroupName(master, masterName));
-    static_cast<void>(GetSupportGroupName(slave, slaveName));
+    // A side without a usable group gets an empty name. That is no failure of the design.
+    std::ignore = GetSupportGroupName(master, masterName);
+    std::ignore = GetSupportGroupName(slave, slaveName);
     return S_OK;
 }

@@ -1,7 +1,9 @@
 #include "QVRNameUtil.h"
 
+#include "internal/InputErrors.h"
 #include "internal/NameRules.h"
-#include "internal/Refusal.h"
+
+#include <cassert>
 
 HRESULT QVRNameUtil::IsNameValid(ZFXUnicodeString& name, unsigned char checkStartAndEnd) noexcept {
     HRESULT code = NameCheckUserLength(name);
@@ -28,16 +30,15 @@ HRESULT QVRNameUtil::NameCheckUserLength(ZFXUnicodeString& name) noexcept {
 }
 
 HRESULT QVRNameUtil::NameCheckStartAndEnd(ZFXUnicodeString& name) noexcept {
-    // The first byte of the narrow form is a digit exactly when the first unit is: no other character has
-    // such bytes.
+    assert(name.GetLengthInChar() > 0);
     return name[0].IsDigit() != 0 ? InputErrorReturn(MessageId::LeadingDigitERR_01) : S_OK;
 }
 
 HRESULT QVRNameUtil::NameCheckIllegalCharacter(ZFXUnicodeString& name, unsigned char isFileName) noexcept {
     using namespace NameRules;
     if (Breaks(name, isFileName != 0 ? kReservedInFileNames : kReservedInNames))
-        return InputErrorReturn(MessageId::IllegalCharERR_01, {.returnCode = kNameRefused});
+        return InputErrorReturn(MessageId::IllegalCharERR_01, {.returnCode = kNameRejected});
     if (isFileName != 0 && Breaks(name, kIllegalInFileNames))
-        return InputErrorReturn(MessageId::IllegalCharERR_02, {.returnCode = kNameRefused});
+        return InputErrorReturn(MessageId::IllegalCharERR_02, {.returnCode = kNameRejected});
     return S_OK;
 }

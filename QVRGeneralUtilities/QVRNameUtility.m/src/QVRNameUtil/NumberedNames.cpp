@@ -1,19 +1,19 @@
 #include "QVRNameUtil.h"
 
-#include "QVRGenI18NUtils.h"
-#include "analysis/ZFXIAlias.h"
-#include "internal/Names.h"
+#include "LateTypes.h"
 #include "internal/Navigation.h"
 #include "internal/Numbering.h"
-#include "internal/Walk.h"
+#include "internal/ScopeNames.h"
 
 namespace {
 
-/// The numbers behind the base in a scope, with room for some more.
-Numbering::InUse NumbersInUse(const ZFXUnicodeString& base, const ZFXListValZFXBaseUnknown_var& scope, int more) {
-    Numbering::InUse numbers(static_cast<std::size_t>(scope.Size()) + static_cast<std::size_t>(more));
-    Walk(scope, [&](const ZFXBaseUnknown_var& object) {
-        numbers.Add(Numbering::NumberAfter(base, NameOf(object)));
+/// Returns an allocator for `count` names in which the numbers after the base in the scope are marked as used.
+Numbering::NumberAllocator AllocatorFor(const ZFXUnicodeString& base, const ZFXListValZFXBaseUnknown_var& scope,
+                                        int count) {
+    assert(count > 0);
+    Numbering::NumberAllocator numbers(static_cast<std::size_t>(scope.Size()) + static_cast<std::size_t>(count));
+    ForEachPrefetched(scope, [&](const ZFXBaseUnknown_var& object) {
+        numbers.MarkUsed(Numbering::NumberAfter(base, NameOf(object)));
         return true;
     });
     return numbers;
@@ -22,7 +22,7 @@ Numbering::InUse NumbersInUse(const ZFXUnicodeString& base, const ZFXListValZFXB
 } // namespace
 
 HRESULT QVRNameUtil::GetNextUniqueName(ZFXUnicodeString& name, const ZFXListValZFXBaseUnknown_var& scope) noexcept {
-    name = Numbering::Numbered(name, NumbersInUse(name, scope, 1).Take());
+    name = Numbering::NumberedName(name, AllocatorFor(name, scope, 1).Allocate());
     return S_OK;
 }
 
@@ -30,10 +30,10 @@ HRESULT QVRNameUtil::GetNextUniqueNames(ZFXUnicodeString& name, const ZFXListVal
                                         ZFXListValZFXUnicodeString& names) noexcept {
     if (count < 1)
         return E_FAIL;
-    Numbering::InUse numbers = NumbersInUse(name, scope, count);
+    Numbering::NumberAllocator numbers = AllocatorFor(name, scope, count);
     names.Reserve(names.Size() + count);
     for (int i = 0; i < count; ++i)
-        names.Append(Numbering::Numbered(name, numbers.Take()));
+        names.Append(Numbering::NumberedName(name, numbers.Allocate()));
     return S_OK;
 }
 
@@ -44,27 +44,15 @@ HRESULT QVRNameUtil::GetNextUniqueName(ZFXUnicodeString& name, const ZFXISamAnal
     return GetNextUniqueName(name, scope);
 }
 
-HRESULT QVRNameUtil::GenerateUniqueName(const ZFXISpecObject& feature, ZFXUnicodeString& name) noexcept {
-    // The platform's operations are not constant; these two only read.
-    const ZFXISpecObject_var object(const_cast<ZFXISpecObject*>(&feature));
-    const ZFXIAlias_var alias(object);
-    if (alias == nullptr)
+HRESULT QVRNameUtil::CreateBaseName(ZFXISpecObject_var& feature, ZFXUnicodeString& baseName) noexcept {
+    if (feature == nullptr)
         return E_FAIL;
-    const ZFXUnicodeString current = alias->GetAlias();
-    ZFXUnicodeString offending;
-    if (!Failed(DoesNameContainDoubleByteChar(current, offending))) {
-        name = current;
-        return S_OK;
+    const ZFXUnicodeString lateType = feature->GetLateType();
+    for (const LateTypes::Row& row : LateTypes::kRows) {
+        if (row.baseName == nullptr || lateType != row.lateType)
+            continue;
+        baseName = row.baseName;
+        break;
     }
-    const ZFXUnicodeString lateType = object->GetLateType();
-    if (lateType.SearchSubString("SAM", 0, ZFXUnicodeString::SearchForward) != 0) {
-        name = current;
-        return S_OK;
-    }
-    QVRGenI18NUtils* handedOut = QVRGenI18NUtils::Instance();
-    int count = 0;
-    const bool again = handedOut->FindNameAndNextID(lateType, count) != 0;
-    name = again ? Numbering::Numbered(lateType + "-", count) : lateType;
-    handedOut->PushNameToList(lateType);
     return S_OK;
 }

@@ -3,9 +3,11 @@
 #include "LateTypes.h"
 #include "QVRGenZFXUnicodeStringUtils.h"
 #include "analysis/ZFXIAlias.h"
-#include "internal/Navigation.h"
-#include "internal/Ownership.h"
-#include "internal/Refusal.h"
+#include "analysis/ZFXISamAnalysisScan.h"
+#include "internal/InputErrors.h"
+#include "internal/Numbering.h"
+
+#include <tuple>
 
 HRESULT QVRNameUtil::GetObjectName(const ZFXISpecObject_var& feature, ZFXUnicodeString& name) noexcept {
     if (feature == nullptr)
@@ -29,11 +31,29 @@ HRESULT QVRNameUtil::GetMorvelObjectName(ZFXISpecObject_var& feature, ZFXUnicode
     const HRESULT legal = IsNameValid(name, 1);
     if (Failed(legal) || !LateTypes::IsOfKind(lateType, LateTypes::Kind::BoltTightening))
         return legal;
-    const ZFXISamAnalysisScan_var father(TakeOver(feature->GetFather()));
+    const ZFXISamAnalysisScan_var father(ZFXBaseUnknown_var::TakeOver(feature->GetFather()));
     if (father == nullptr)
         return InputErrorReturn(MessageId::ParentERR_01);
     ZFXListValZFXBaseUnknown_var siblings;
-    father->ListChildren(siblings, ZFXISamAnalysisScan::kScanMode); // the list counts, not the code
+    std::ignore = father->ListChildren(siblings, ZFXISamAnalysisScan::kScanMode); // the list counts, not the code
     const HRESULT unique = IsNameUniqueInSet(feature, siblings, "");
     return Failed(unique) ? InputErrorReturn(MessageId::DuplicateZFXNameERR_01) : unique;
+}
+
+HRESULT QVRNameUtil::GenerateUniqueName(const ZFXISpecObject& feature, ZFXUnicodeString& name) noexcept {
+    // The platform's operations are not const. The two that are called do not change the feature.
+    const ZFXISpecObject_var object(const_cast<ZFXISpecObject*>(&feature));
+    const ZFXIAlias_var alias(object);
+    if (alias == nullptr)
+        return E_FAIL;
+    const ZFXUnicodeString current = alias->GetAlias();
+    ZFXUnicodeString offending;
+    if (!Failed(DoesNameContainDoubleByteChar(current, offending))) {
+        name = current;
+        return S_OK;
+    }
+    const ZFXUnicodeString lateType = object->GetLateType();
+    const bool isHostType = lateType.SearchSubString("SAM", 0, ZFXUnicodeString::SearchForward) == 0;
+    name = isHostType ? Numbering::IssueGenericName(lateType) : current;
+    return S_OK;
 }

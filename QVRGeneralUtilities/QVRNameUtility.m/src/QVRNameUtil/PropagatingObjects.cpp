@@ -2,9 +2,10 @@
 
 #include "analysis/WorkbenchUtilities.h"
 #include "analysis/ZFXILinkableObject.h"
+#include "internal/InputErrors.h"
 #include "internal/Navigation.h"
-#include "internal/Refusal.h"
 
+#include <cassert>
 #include <utility>
 
 HRESULT QVRNameUtil::GetAllPropagatingObjects(ZFXISamAnalysisCase_var& analysisCase,
@@ -25,7 +26,7 @@ HRESULT QVRNameUtil::GetAllPropagatingObjects(ZFXISamAnalysisCase_var& analysisC
         ZFXListValZFXBaseUnknown_var inStep;
         code = GetObjectsInStep(step, inStep, object);
         if (Failed(code))
-            continue; // this step gives nothing; the code of the last one is the answer
+            continue; // skips this step; the code of the last step is returned
         for (ZFXBaseUnknown_var& found : inStep)
             if (ZFXIdentityOf(found) != self)
                 objects.Append(std::move(found));
@@ -35,6 +36,7 @@ HRESULT QVRNameUtil::GetAllPropagatingObjects(ZFXISamAnalysisCase_var& analysisC
 
 HRESULT QVRNameUtil::GetUniqueNameForPropagatingObject(ZFXUnicodeString& name, ZFXISpecObject_var& object,
                                                        ZFXISamAnalysisCase_var& analysisCase) noexcept {
+    assert(object != nullptr && analysisCase != nullptr);
     ZFXListValZFXBaseUnknown_var scope;
     const HRESULT code = GetAllPropagatingObjects(analysisCase, scope, object);
     return Failed(code) ? code : GetNextUniqueName(name, scope);
@@ -48,7 +50,7 @@ HRESULT QVRNameUtil::IsUniqueNameForPropagatingObject(ZFXISpecObject_var& object
     if (!Failed(code)) {
         analysisCase = parent;
     } else {
-        // Outside every case the current case of the document is the scope; without one every name is free.
+        // Outside every case, the scope is the current case of the document. Without one, every name is unique.
         const ZFXILinkableObject_var linkable(object);
         ZFXDocument* document = linkable == nullptr ? nullptr : linkable->GetOwningDocument();
         if (document == nullptr)

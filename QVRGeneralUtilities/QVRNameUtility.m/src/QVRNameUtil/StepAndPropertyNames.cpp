@@ -3,9 +3,11 @@
 #include "analysis/WorkbenchUtilities.h"
 #include "analysis/ZFXILinkableObject.h"
 #include "errors/ZFXError.h"
+#include "internal/InputErrors.h"
 #include "internal/Navigation.h"
-#include "internal/Refusal.h"
 #include "internal/Vocabulary.h"
+
+#include <tuple>
 
 HRESULT QVRNameUtil::GetUniqueNameForStep(ZFXUnicodeString& name, ZFXISamAnalysisCase_var& analysisCase) noexcept {
     if (analysisCase == nullptr)
@@ -20,15 +22,15 @@ HRESULT QVRNameUtil::GetUniqueNameForStep(ZFXUnicodeString& name, ZFXISamAnalysi
     if (Failed(code))
         return code;
     if (steps.Size() > 0)
-        steps.RemovePosition(1); // The first child of a history takes no part in the numbering.
+        steps.RemovePosition(1); // The first child of a history is skipped.
     return GetNextUniqueName(name, steps);
 }
 
 HRESULT QVRNameUtil::IsUniqueNameForStep(ZFXISpecObject_var& step, const ZFXUnicodeString& name) noexcept {
-    const ZFXBaseUnknown_var above = Navigation::SimulationHistoryAbove(step);
-    if (above == nullptr)
+    const ZFXBaseUnknown_var parent = Navigation::SimulationHistoryAbove(step);
+    if (parent == nullptr)
         return InputErrorReturn(MessageId::StepParentERR_01);
-    const ZFXISamAnalysisScan_var history(above);
+    const ZFXISamAnalysisScan_var history(parent);
     ZFXListValZFXBaseUnknown_var steps;
     if (history == nullptr || Failed(history->ListChildren(steps, ZFXISamAnalysisScan::kScanMode)))
         return InputErrorReturn(MessageId::StepParentERR_02);
@@ -38,7 +40,7 @@ HRESULT QVRNameUtil::IsUniqueNameForStep(ZFXISpecObject_var& step, const ZFXUnic
     const ZFXError* error = ZFXError::ZFXGetLastError(code, nullptr);
     if (error == nullptr)
         return 1;
-    if (error->GetReturnCode() == kNameRefused)
+    if (error->GetReturnCode() == kNameRejected)
         return InputErrorReturn(MessageId::DuplicateNameERR_01);
     return InputErrorReturn(std::string(error->GetMsgId()));
 }
@@ -55,8 +57,9 @@ HRESULT QVRNameUtil::GetUniqueNameForProperty(ZFXUnicodeString& name, ZFXISamAna
         return InputErrorReturn(MessageId::ErrorAnalysisModelErr_0004);
     const ZFXISamAnalysisScan_var scan(model);
     ZFXListValZFXBaseUnknown_var found;
-    if (scan != nullptr) // The found list decides, not the code.
-        scan->FindObjectsOfType(Vocabulary::QVRTarnisPropertySetLT, found, ZFXISamAnalysisScan::kScanMode);
+    if (scan != nullptr) // The list counts, not the code.
+        std::ignore =
+            scan->FindObjectsOfType(Vocabulary::QVRTarnisPropertySetLT, found, ZFXISamAnalysisScan::kScanMode);
     const ZFXISamAnalysisSet_var propertySet(found.Size() == 0 ? ZFXBaseUnknown_var() : found[1]);
     ZFXListValZFXBaseUnknown_var properties;
     if (propertySet == nullptr || Failed(Navigation::AppendMembers(propertySet, properties)))
@@ -66,12 +69,12 @@ HRESULT QVRNameUtil::GetUniqueNameForProperty(ZFXUnicodeString& name, ZFXISamAna
 
 HRESULT QVRNameUtil::IsUniqueNameForObject(ZFXISpecObject_var& object, const ZFXUnicodeString& name) noexcept {
     using Navigation::ParentSetOutcome;
-    const Navigation::ParentSetResult answer = Navigation::FirstParentSetOf(object);
-    if (answer.outcome == ParentSetOutcome::EmptyList)
-        return S_OK; // in no set, so beside nothing
-    if (answer.outcome != ParentSetOutcome::Found)
-        return answer.code;
-    const ZFXISamAnalysisSet_var set(answer.holder);
+    const Navigation::ParentSetResult parent = Navigation::FirstParentSetOf(object);
+    if (parent.outcome == ParentSetOutcome::EmptyList)
+        return S_OK; // no set, so no names to compare with
+    if (parent.outcome != ParentSetOutcome::Found)
+        return parent.code;
+    const ZFXISamAnalysisSet_var set(parent.set);
     if (set == nullptr)
         return E_FAIL;
     ZFXListValZFXBaseUnknown_var scope;

@@ -6,14 +6,16 @@
 #include "internal/Navigation.h"
 #include "internal/Vocabulary.h"
 
+#include <tuple>
 #include <utility>
 
 namespace {
 
-/// Whether a member only came into its step from an earlier one. An initial temperature never counts as such.
-bool IsPropagated(const ZFXISpecObject_var& member) {
+/// Returns true if the member was propagated to its step from an earlier one. Returns false for every initial
+/// temperature.
+[[nodiscard]] bool IsPropagated(const ZFXISpecObject_var& member) {
     const QVRIPropagatingFeature_var propagating(member);
-    return propagating != nullptr && member->GetLateType().Compare(Vocabulary::QVRInitialTemperatureLT) != 2 &&
+    return propagating != nullptr && member->GetLateType() != Vocabulary::QVRInitialTemperatureLT &&
            propagating->IsPropagated() != 0;
 }
 
@@ -36,11 +38,10 @@ HRESULT QVRNameUtil::GetParentStepName(const ZFXISpecObject_var& object, ZFXUnic
 
 HRESULT QVRNameUtil::GetObjectsInStep(ZFXISpecObject_var& step, ZFXListValZFXBaseUnknown_var& objects,
                                       const ZFXISpecObject_var& object) noexcept {
-    const Navigation::ParentSetResult answer = Navigation::FirstParentSetOf(object);
-    const ZFXISpecObject_var holder(answer.holder);
-    if (holder == nullptr)
+    const ZFXISpecObject_var parentSet(Navigation::FirstParentSetOf(object).set);
+    if (parentSet == nullptr)
         return E_FAIL;
-    const ZFXUnicodeString setType = holder->GetLateType();
+    const ZFXUnicodeString setType = parentSet->GetLateType();
     const ZFXISamAnalysisScan_var scan(step);
     if (scan == nullptr)
         return E_FAIL;
@@ -54,7 +55,7 @@ HRESULT QVRNameUtil::GetObjectsInStep(ZFXISpecObject_var& step, ZFXListValZFXBas
             continue;
         ZFXListValZFXISpecObject_var members;
         // The list counts, not the code.
-        set->ListMembers(members, CLSID_ZFXBaseUnknown, ZFXISamAnalysisSet::kMemberFlag);
+        std::ignore = set->ListMembers(members, CLSID_ZFXBaseUnknown, ZFXISamAnalysisSet::kMemberFlag);
         for (ZFXISpecObject_var& member : members)
             if (!IsPropagated(member))
                 objects.Append(std::move(member));

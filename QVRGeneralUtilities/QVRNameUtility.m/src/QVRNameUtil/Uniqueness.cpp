@@ -2,12 +2,12 @@
 
 #include "analysis/ZFXIAlias.h"
 #include "analysis/ZFXISamAnalysisModel.h"
-#include "internal/Names.h"
+#include "internal/InputErrors.h"
 #include "internal/Navigation.h"
-#include "internal/Ownership.h"
-#include "internal/Refusal.h"
+#include "internal/ScopeNames.h"
 #include "internal/Vocabulary.h"
-#include "internal/Walk.h"
+
+#include <tuple>
 
 HRESULT QVRNameUtil::IsNameUniqueInSet(const ZFXISpecObject_var& feature, const ZFXListValZFXBaseUnknown_var& scope,
                                        const ZFXUnicodeString& name) noexcept {
@@ -17,14 +17,14 @@ HRESULT QVRNameUtil::IsNameUniqueInSet(const ZFXISpecObject_var& feature, const 
     const ZFXUnicodeString candidate = name.IsNull() != 0 ? ownAlias->GetAlias() : name;
     const ZFXBaseUnknown* self = ZFXIdentityOf(feature);
     HRESULT code = S_OK;
-    Walk(scope, [&](const ZFXBaseUnknown_var& other) {
+    ForEachPrefetched(scope, [&](const ZFXBaseUnknown_var& other) {
         if (ZFXIdentityOf(other) == self)
             return true;
         const ZFXIAlias_var alias(other);
         if (alias == nullptr)
             code = InputErrorReturn(MessageId::ZFXIAliasERR_01);
         else if (NamesClash(candidate, alias->GetAlias()))
-            code = InputErrorReturn(MessageId::DuplicateNameERR_02, {.returnCode = kNameRefused});
+            code = InputErrorReturn(MessageId::DuplicateNameERR_02, {.returnCode = kNameRejected});
         return !Failed(code);
     });
     return code;
@@ -32,24 +32,26 @@ HRESULT QVRNameUtil::IsNameUniqueInSet(const ZFXISpecObject_var& feature, const 
 
 HRESULT QVRNameUtil::IsNameUniqueAcrossCases(ZFXISpecObject_var& feature, const ZFXUnicodeString& name) noexcept {
     using Navigation::ParentSetOutcome;
-    const Navigation::ParentSetResult answer = Navigation::FirstParentSetOf(feature);
-    if (answer.outcome == ParentSetOutcome::EmptyList)
+    const Navigation::ParentSetResult parent = Navigation::FirstParentSetOf(feature);
+    if (parent.outcome == ParentSetOutcome::EmptyList)
         return E_FAIL;
-    if (answer.outcome != ParentSetOutcome::Found)
-        return answer.code;
-    const ZFXISpecObject_var holder(answer.holder);
-    const ZFXISamAnalysisModel_var model(holder == nullptr ? ZFXBaseUnknown_var() : TakeOver(holder->GetFather()));
+    if (parent.outcome != ParentSetOutcome::Found)
+        return parent.code;
+    const ZFXISpecObject_var set(parent.set);
+    const ZFXISamAnalysisModel_var model(set == nullptr ? ZFXBaseUnknown_var()
+                                                        : ZFXBaseUnknown_var::TakeOver(set->GetFather()));
     if (model == nullptr)
         return E_FAIL;
     ZFXListValZFXBaseUnknown_var cases;
-    model->ListAnalysisCases(cases); // the list counts, not the code
+    std::ignore = model->ListAnalysisCases(cases); // the list counts, not the code
     for (int i = 1; i <= cases.Size(); ++i) {
         const ZFXISamAnalysisScan_var scan(cases[i]);
         if (scan == nullptr)
             return E_FAIL;
         ZFXListValZFXBaseUnknown_var containers;
         // The list counts, not the code.
-        scan->FindObjectsOfType(Vocabulary::QVRJobContainerLT, containers, ZFXISamAnalysisScan::kScanMode);
+        std::ignore =
+            scan->FindObjectsOfType(Vocabulary::QVRJobContainerLT, containers, ZFXISamAnalysisScan::kScanMode);
         if (containers.Size() == 0)
             continue;
         const ZFXISamAnalysisSet_var container(containers[1]);

@@ -1,10 +1,25 @@
 #include "internal/Navigation.h"
 
 #include "analysis/ZFXISamAnalysisEntity.h"
-#include "internal/Ownership.h"
 #include "internal/Vocabulary.h"
 
+#include <cassert>
+#include <memory>
 #include <utility>
+
+namespace {
+
+struct EmptyAndDelete {
+    void operator()(ZFXListValZFXBaseUnknown_var* list) const {
+        list->RemoveAll(ZFXCollec::ReleaseAllocation);
+        delete list;
+    }
+};
+
+/// A list that a platform operation returned for the caller to empty and delete.
+using OwnedList = std::unique_ptr<ZFXListValZFXBaseUnknown_var, EmptyAndDelete>;
+
+} // namespace
 
 namespace Navigation {
 
@@ -23,12 +38,14 @@ HistoryResult SimulationHistoryOf(const ZFXISamAnalysisCase_var& analysisCase) {
 }
 
 ZFXBaseUnknown_var SimulationHistoryAbove(const ZFXISpecObject_var& step) {
+    assert(step != nullptr);
     const ZFXListValZFXISpecAttribute_var* attributes = step->ListPointingAttributes("ZFXISpecObject", "", "");
     if (attributes == nullptr)
         return {};
     for (int i = 1; i <= attributes->Size(); ++i) {
         const ZFXISpecAttribute_var& attribute = (*attributes)[i];
-        const ZFXISpecObject_var owner(attribute == nullptr ? ZFXBaseUnknown_var() : TakeOver(attribute->GetOwner()));
+        const ZFXISpecObject_var owner(attribute == nullptr ? ZFXBaseUnknown_var()
+                                                            : ZFXBaseUnknown_var::TakeOver(attribute->GetOwner()));
         if (owner != nullptr && owner->GetLateType() == Vocabulary::QVROruSimHistLT)
             return owner;
     }
@@ -45,13 +62,14 @@ ParentSetResult FirstParentSetOf(const ZFXISpecObject_var& feature) {
     if (Failed(code))
         return {ParentSetOutcome::RequestFailed, code, {}};
     if (sets == nullptr)
-        return {ParentSetOutcome::NoList, code, {}};
+        return {ParentSetOutcome::NullList, code, {}};
     if (sets->Size() == 0)
         return {ParentSetOutcome::EmptyList, code, {}};
     return {ParentSetOutcome::Found, code, (*sets)[1]};
 }
 
 HRESULT AppendMembers(const ZFXISamAnalysisSet_var& set, ZFXListValZFXBaseUnknown_var& scope) {
+    assert(set != nullptr);
     ZFXListValZFXISpecObject_var members;
     const HRESULT code = set->ListMembers(members, CLSID_ZFXBaseUnknown, ZFXISamAnalysisSet::kMemberFlag);
     scope.Reserve(scope.Size() + members.Size());

@@ -5,8 +5,8 @@
 #include "analysis/ZFXISamAnalysisSet.h"
 #include "analysis/ZFXISpecObject.h"
 
-/// The walks over a document that several operations make. A walk tells what it met and refuses nothing: the
-/// same outcome deserves different answers from different callers.
+/// Finds related objects in a document, for several operations. Raises no errors: the operations return different
+/// results for the same outcome.
 namespace Navigation {
 
 enum class HistoryOutcome { CaseNotSearchable, NotFound, HistoryNotSearchable, Found };
@@ -16,27 +16,28 @@ struct HistoryResult {
     ZFXISamAnalysisScan_var history; ///< empty unless found
 };
 
-/// The simulation history of a case: the first object of its late type under the case. A failed search is one
-/// that found nothing.
-HistoryResult SimulationHistoryOf(const ZFXISamAnalysisCase_var& analysisCase);
+/// Finds the simulation history of a case: the first object of its late type under the case. The outcome of a failed
+/// search is NotFound.
+[[nodiscard]] HistoryResult SimulationHistoryOf(const ZFXISamAnalysisCase_var& analysisCase);
 
-/// The simulation history above a step: the first owner of that late type among the attributes that point at
-/// the step. Empty when there is none.
-ZFXBaseUnknown_var SimulationHistoryAbove(const ZFXISpecObject_var& step);
+/// Returns the simulation history of a step: the first object of its late type among the owners of the attributes that
+/// point at the step. Returns an empty handle if there is none. `step` must not be empty.
+[[nodiscard]] ZFXBaseUnknown_var SimulationHistoryAbove(const ZFXISpecObject_var& step);
 
-enum class ParentSetOutcome { NoEntity, RequestFailed, NoList, EmptyList, Found };
+enum class ParentSetOutcome { NoEntity, RequestFailed, NullList, EmptyList, Found };
 
 struct ParentSetResult {
     ParentSetOutcome outcome;
-    HRESULT code;              ///< of the request; S_OK when none was made
-    ZFXBaseUnknown_var holder; ///< empty unless found
+    HRESULT code;           ///< of the request; S_OK if none was made
+    ZFXBaseUnknown_var set; ///< empty unless found
 };
 
-/// The set that holds a feature: the first of those that its entity names.
-ParentSetResult FirstParentSetOf(const ZFXISpecObject_var& feature);
+/// Finds the first of the sets that contain a feature. The outcome is NoEntity if the feature does not offer
+/// ZFXISamAnalysisEntity.
+[[nodiscard]] ParentSetResult FirstParentSetOf(const ZFXISpecObject_var& feature);
 
-/// Appends the members of a set to a scope and returns the code of the request: what the list holds is taken
-/// whatever the code is. The set must not be empty.
-HRESULT AppendMembers(const ZFXISamAnalysisSet_var& set, ZFXListValZFXBaseUnknown_var& scope);
+/// Appends the members of a set to a scope, also if the request fails. Returns the code of the request. `set` must not
+/// be an empty handle.
+[[nodiscard]] HRESULT AppendMembers(const ZFXISamAnalysisSet_var& set, ZFXListValZFXBaseUnknown_var& scope);
 
 } // namespace Navigation

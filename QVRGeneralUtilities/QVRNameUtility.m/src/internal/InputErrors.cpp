@@ -1,10 +1,18 @@
-#include "internal/Refusal.h"
+#include "internal/InputErrors.h"
 
 #include "errors/ZFXError.h"
 
+#include <cassert>
+
 namespace {
 
-HRESULT Raise(const char* id, const RefusalDetails& details, const char* sourceFile, int sourceLine) {
+constexpr const char* kIds[] = {
+#define MESSAGE_ID(id) #id,
+#include "internal/MessageIds.def"
+#undef MESSAGE_ID
+};
+
+HRESULT Raise(const char* id, const InputErrorDetails& details, const char* sourceFile, int sourceLine) {
     auto* error = new ZFXInputError(id, "QVRNameUtility");
     if (error == nullptr)
         return E_FAIL;
@@ -18,10 +26,11 @@ HRESULT Raise(const char* id, const RefusalDetails& details, const char* sourceF
 
 } // namespace
 
-HRESULT InputErrorReturn(MessageId id, const RefusalDetails& details, const char* sourceFile, int sourceLine) {
-    return Raise(TextOf(id), details, sourceFile, sourceLine);
+HRESULT InputErrorReturn(MessageId id, const InputErrorDetails& details, const char* sourceFile, int sourceLine) {
+    return Raise(kIds[static_cast<std::size_t>(id)], details, sourceFile, sourceLine);
 }
 
 HRESULT InputErrorReturn(const std::string& id, const char* sourceFile, int sourceLine) {
+    assert(!id.empty());
     return Raise(id.c_str(), {}, sourceFile, sourceLine);
 }

@@ -4,7 +4,7 @@
 
 namespace {
 
-class JobNamesTest : public DocumentTest {
+class JobAndMeshPartNamesTest : public DocumentTest {
 protected:
     static std::string Propose() {
         ZFXUnicodeString name("not read");
@@ -13,7 +13,7 @@ protected:
     }
 };
 
-TEST_F(JobNamesTest, JobsAreNumberedOverAllCasesWhateverTheirLetters) {
+TEST_F(JobAndMeshPartNamesTest, JobsAreNumberedOverAllCasesWhateverTheirLetters) {
     EXPECT_EQ(Propose(), "Job-1");
     MemoryFeature first = document.Case("First");
     MemoryFeature second = document.Case("Second");
@@ -40,6 +40,19 @@ TEST_F(JobNamesTest, JobsAreNumberedOverAllCasesWhateverTheirLetters) {
     model.MakeCurrent(other);
     EXPECT_EQ(ResultText(QVRNameUtil::IsUniqueNameForJob(self, "job-2")), "S_OK"); // the current document only
     EXPECT_EQ(Propose(), "Job-1");
+}
+
+TEST_F(JobAndMeshPartNamesTest, MeshPartsAreNumberedOverTheMeshManager) {
+    MemoryFeature part = document.MeshPart("Mesh-1", 1);
+    MemoryFeature seven = document.MeshPart("Mesh-7", 2);
+    const auto propose = [](MemoryFeature feature) {
+        ZFXISpecObject_var handle(feature);
+        ZFXUnicodeString name("Mesh-");
+        const HRESULT code = QVRNameUtil::GetUniqueNameForMeshPart(handle, name);
+        return ResultText(code) + "|" + Text(name);
+    };
+    EXPECT_EQ(propose(part), "S_OK|Mesh-8");
+    EXPECT_EQ(propose(seven), "S_OK|Mesh-8"); // counts itself
 }
 
 } // namespace

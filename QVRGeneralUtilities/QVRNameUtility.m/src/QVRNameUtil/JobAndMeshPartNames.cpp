@@ -1,0 +1,65 @@
+#include "QVRNameUtil.h"
+
+#include "analysis/WorkbenchUtilities.h"
+#include "analysis/ZFXILinkableObject.h"
+#include "errors/ZFXError.h"
+#include "internal/InputErrors.h"
+#include "internal/Navigation.h"
+#include "internal/Numbering.h"
+#include "internal/ScopeNames.h"
+#include "internal/Vocabulary.h"
+
+#include <tuple>
+
+namespace {
+
+/// Returns every job of every case of the current document. Skips cases and jobs that cannot be listed.
+ZFXListValZFXISpecObject_var AllJobs() {
+    ZFXListValZFXBaseUnknown_var cases;
+    std::ignore = QVRAnalysisDocUtils::GetAllAnalysisCases(cases, nullptr); // the list counts, not the code
+    ZFXListValZFXISpecObject_var jobs;
+    std::ignore = QVRAnalysisDocUtils::GetJobs(cases, jobs); // the list counts, not the code
+    return jobs;
+}
+
+ZFXUnicodeString LowerCase(ZFXUnicodeString text) {
+    text.ToLower();
+    return text;
+}
+
+} // namespace
+
+HRESULT QVRNameUtil::GetUniqueNameForJob(ZFXUnicodeString& name) noexcept {
+    const ZFXListValZFXISpecObject_var jobs = AllJobs();
+    const ZFXUnicodeString base = LowerCase(Vocabulary::JobBase);
+    Numbering::NumberAllocator numbers(static_cast<std::size_t>(jobs.Size()) + 1);
+    for (int i = 1; i <= jobs.Size(); ++i)
+        numbers.MarkUsed(Numbering::NumberAfter(base, LowerCase(NameOf(jobs[i]))));
+    name = Numbering::NumberedName(Vocabulary::JobBase, numbers.Allocate());
+    return S_OK;
+}
+
+HRESULT QVRNameUtil::IsUniqueNameForJob(const ZFXISpecObject_var& job, const ZFXUnicodeString& name) noexcept {
+    const ZFXListValZFXISpecObject_var jobs = AllJobs();
+    const ZFXBaseUnknown* self = ZFXIdentityOf(job);
+    for (int i = 1; i <= jobs.Size(); ++i)
+        if (ZFXIdentityOf(jobs[i]) != self && NamesClash(name, NameOf(jobs[i])))
+            return InputErrorReturn(MessageId::DuplicateNameERR_03);
+    return S_OK;
+}
+
+HRESULT QVRNameUtil::GetUniqueNameForMeshPart(ZFXISpecObject_var& meshPart, ZFXUnicodeString& name) noexcept {
+    const ZFXILinkableObject_var linkable(meshPart);
+    const ZFXDocument* document = linkable == nullptr ? nullptr : linkable->GetOwningDocument();
+    if (document == nullptr)
+        return InputErrorReturn(MessageId::MeshPartUniqueNameERR);
+    ZFXIMSHMeshManager_var manager;
+    if (Failed(QVRAnalysisDocUtils::GetMeshManager(manager, document)))
+        return InputErrorReturn(MessageId::MeshPartUniqueNameERR);
+    const ZFXISamAnalysisSet_var set(manager);
+    ZFXListValZFXBaseUnknown_var scope;
+    if (set == nullptr || Failed(Navigation::AppendMembers(set, scope)))
+        return InputErrorReturn(MessageId::MeshPartUniqueNameERR);
+    std::ignore = GetNextUniqueName(name, scope); // always S_OK
+    return ZFXError::GetReturn(ZFXErrorTypeSuccess, nullptr, nullptr, __FILE__, __LINE__);
+}

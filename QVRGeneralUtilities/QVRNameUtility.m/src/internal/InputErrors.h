@@ -1,0 +1,34 @@
+#pragma once
+
+#include "base/ZFXResult.h"
+#include "text/ZFXUnicodeString.h"
+
+#include <cstdint>
+#include <string>
+
+// The module raises every error that a user must understand through InputErrorReturn. No other code of the module
+// creates an error object.
+
+/// The message ids of MessageIds.def.
+enum class MessageId : std::uint8_t {
+#define MESSAGE_ID(id) id,
+#include "internal/MessageIds.def"
+#undef MESSAGE_ID
+};
+
+/// The return code of an error that rejects a name for its characters or as a duplicate.
+inline constexpr HRESULT kNameRejected = -100;
+
+/// What some errors contain in addition to their message id.
+struct InputErrorDetails {
+    HRESULT returnCode = 0;                 ///< 0 for none
+    ZFXUnicodeString* diagnostic = nullptr; ///< parameter of the diagnostic text, or null. [borrowed]
+};
+
+/// Registers an input error with the message id and the position of the calling statement.
+/// Returns the code under which ZFXError::ZFXGetLastError finds the error.
+[[nodiscard]] HRESULT InputErrorReturn(MessageId id, const InputErrorDetails& details = {},
+                                       const char* sourceFile = __builtin_FILE(), int sourceLine = __builtin_LINE());
+/// Registers an input error with the id of another error. `id` is a copy, because the registry may free that error.
+[[nodiscard]] HRESULT InputErrorReturn(const std::string& id, const char* sourceFile = __builtin_FILE(),
+                                       int sourceLine = __builtin_LINE());
