@@ -1,193 +1,110 @@
-# Writes docs/messages.md: every message of the catalog, and which operations raise it.
+# Writes docs/messages.md: the messages of the catalog and the operations that raise them.
 #   cmake -P docs/messages.cmake                 writes the page
-#   cmake -DCHECK=ON -P docs/messages.cmake      fails when the page is another
-# The texts come from the catalog, the order from MessageIds.def, and who raises what from the sources: an operation
-# raises what its own body raises and what the operations raise that it calls.
+#   cmake -DCHECK=ON -P docs/messages.cmake      fails if the page differs
+# The texts come from the message catalog; the order and the operations come from MessageIds.def. Also fails if
+# docs/operations.md names a message that its operation does not raise.
 cmake_minimum_required(VERSION 3.25)
 get_filename_component(root ${CMAKE_CURRENT_LIST_DIR} DIRECTORY)
 set(module ${root}/QVRGeneralUtilities)
+set(table ${module}/QVRNameUtility.m/src/internal/MessageIds.def)
+set(catalog ${module}/resources/msgcatalog/QVRNameUtility.msg)
 set(page ${root}/docs/messages.md)
-
-# What a call says by an argument: of a name the characters that only file names forbid are not asked for.
-set(never "IsNameValid IllegalCharERR_02")
 
 include(${root}/cmake/ReadLines.cmake)
 
-# ---- What can be raised ----------------------------------------------------------------------------------------
+# ---- The rows: ids, and raisers_ID, the operations that raise the id ----
 
-set(ids)
-read_lines(${module}/QVRNameUtility.m/src/internal/MessageIds.def rows)
-foreach(row IN LISTS rows)
-  if(row MATCHES "^MESSAGE_ID\\(([A-Za-z0-9_]+)\\)$")
-    list(APPEND ids ${CMAKE_MATCH_1})
-  endif()
+file(GLOB headers ${module}/public-headers/*.h)
+set(declarations "")
+foreach(header IN LISTS headers)
+  file(READ ${header} text)
+  string(APPEND declarations "${text}")
 endforeach()
 
-file(GLOB catalogs ${module}/resources/msgcatalog/QVRNameUtility.msg
-                   ${module}/resources/msgcatalog/QVRNameUtility.catalog)
-list(LENGTH catalogs count)
-if(NOT count EQUAL 1)
-  message(FATAL_ERROR "expected one message catalog below ${module}/resources/msgcatalog, not ${count}")
-endif()
-read_lines(${catalogs} rows)
+set(ids)
+file(READ ${table} text)
+string(REGEX MATCHALL "\nMESSAGE_ID\\([^)]*\\)" rows "${text}")
+foreach(row IN LISTS rows)
+  if(NOT row MATCHES "\\(([A-Za-z0-9_]+),[ \n]*\"([^)]*)\"\\)$")
+    message(FATAL_ERROR "${table}: not a row: ${row}")
+  endif()
+  set(id ${CMAKE_MATCH_1})
+  string(REGEX MATCHALL "[A-Za-z0-9]+" raisers_${id} "${CMAKE_MATCH_2}")
+  list(APPEND ids ${id})
+  foreach(operation IN LISTS raisers_${id})
+    if(NOT declarations MATCHES "[ &]${operation}\\(")
+      message(SEND_ERROR "${table}: no public header declares ${operation}")
+    endif()
+  endforeach()
+endforeach()
+
+# ---- The texts: Diagnostic_ID and Advice_ID ----
+
+read_lines(${catalog} rows)
 foreach(row IN LISTS rows)
   if(NOT row MATCHES "^([A-Za-z0-9_]+)\\.(Request|Diagnostic|Advice)[ \t]*=[ \t]*(.+)$")
     continue()
   endif()
-  if(NOT CMAKE_MATCH_1 IN_LIST ids)
-    message(SEND_ERROR "${catalogs} has a text for ${CMAKE_MATCH_1}, which is no message id")
+  set(id ${CMAKE_MATCH_1})
+  set(part ${CMAKE_MATCH_2})
+  if(NOT id IN_LIST ids)
+    message(SEND_ERROR "${catalog}: ${id} is not in MessageIds.def")
   endif()
-  set(${CMAKE_MATCH_2}_${CMAKE_MATCH_1} "${CMAKE_MATCH_3}")
+  # Escapes the characters that have a meaning in Markdown.
+  string(REGEX REPLACE "([*_`#<>|~${stand2}${stand3}${stand4}])" "\\\\\\1" ${part}_${id} "${CMAKE_MATCH_3}")
 endforeach()
 
-# ---- Who raises it ---------------------------------------------------------------------------------------------
-
-# A definition begins with a line whose first character is a letter and ends with a line that begins with a brace.
-file(GLOB_RECURSE sources ${module}/QVRNameUtility.m/src/*.cpp)
-set(functions)
-foreach(source IN LISTS sources)
-  read_lines(${source} rows)
-  set(function "")
-  foreach(row IN LISTS rows)
-    string(REGEX REPLACE "//.*$" "" row "${row}")
-    if(row MATCHES "^[A-Za-z][^(=]*[^A-Za-z0-9_(=]([A-Za-z0-9_]+)\\(")
-      set(function ${CMAKE_MATCH_1})
-      list(APPEND functions ${function})
-    endif()
-    if(function)
-      string(REGEX MATCHALL "MessageId::[A-Za-z0-9_]+" raised "${row}")
-      list(TRANSFORM raised REPLACE "MessageId::" "")
-      list(APPEND raises_${function} ${raised})
-      string(REGEX MATCHALL "[A-Za-z0-9_]+\\(" called "${row}")
-      list(TRANSFORM called REPLACE "\\(" "")
-      list(APPEND calls_${function} ${called})
-    endif()
-    if(row MATCHES "^}")
-      set(function "")
-    endif()
-  endforeach()
-endforeach()
-list(REMOVE_DUPLICATES functions)
-list(REMOVE_ITEM functions InputErrorReturn)
-
-set(unused ${never})
-set(grew ON)
-while(grew)
-  set(grew OFF)
-  foreach(function IN LISTS functions)
-    set(before "${raises_${function}}")
-    foreach(called IN LISTS calls_${function})
-      if(called IN_LIST functions)
-        list(APPEND raises_${function} ${raises_${called}})
-      endif()
-    endforeach()
-    list(REMOVE_DUPLICATES raises_${function})
-    foreach(row IN LISTS never)
-      string(REPLACE " " ";" pair "${row}")
-      list(GET pair 0 caller)
-      list(GET pair 1 id)
-      if(caller STREQUAL function AND id IN_LIST raises_${function})
-        list(REMOVE_ITEM raises_${function} ${id})
-        list(REMOVE_ITEM unused "${row}")
-      endif()
-    endforeach()
-    if(NOT "${raises_${function}}" STREQUAL "${before}")
-      set(grew ON)
-    endif()
-  endforeach()
-endwhile()
-if(unused)
-  message(SEND_ERROR "docs/messages.cmake: no longer true: never ${unused}")
-endif()
-
-# The operations that a caller has: what stands in a public part of the exported headers, class by class.
-file(GLOB headers ${module}/public-headers/*.h)
-list(SORT headers)
-set(operations)
-foreach(header IN LISTS headers)
-  get_filename_component(class ${header} NAME_WE)
-  read_lines(${header} rows)
-  set(isPublic OFF)
-  foreach(row IN LISTS rows)
-    if(row MATCHES "^(public|protected|private):")
-      string(COMPARE EQUAL "${CMAKE_MATCH_1}" public isPublic)
-    elseif(isPublic AND row MATCHES "^    (static |virtual )*[A-Za-z][A-Za-z_& *]*[ *&]([A-Za-z]+)\\(")
-      list(APPEND operations ${class}::${CMAKE_MATCH_2})
-    endif()
-  endforeach()
-endforeach()
-list(REMOVE_DUPLICATES operations)
-
-# ---- The page --------------------------------------------------------------------------------------------------
+# ---- The page ----
 
 list(LENGTH ids count)
 set(text "# The messages
 
-What an analyst reads when a name is refused, ${count} messages, and which operations raise each of them, by themselves or
-through another operation. Most give back the code under which the message is found; some only register it and go on:
-[operations.md](operations.md) says which. `/P1` stands for a parameter.
+The ${count} messages that a user can get when an operation rejects a name or cannot propose one, and the operations that raise
+them. An operation raises a message if it or an operation that it calls does so. Most operations return the code of the
+error; [operations.md](operations.md) lists those that only register it. `/P1` is a parameter.
 
-This page is written by `cmake -P docs/messages.cmake`, from the message catalog and the sources.
+This page is written by `cmake -P docs/messages.cmake` from the message catalog and `MessageIds.def`.
 ")
 foreach(id IN LISTS ids)
   if(NOT Diagnostic_${id} OR NOT Advice_${id})
-    message(SEND_ERROR "${id} has no diagnostic or no advice in ${catalogs}")
+    message(SEND_ERROR "${catalog}: ${id} has no diagnostic or no advice")
   endif()
-  set(raisers "")
-  foreach(operation IN LISTS operations)
-    string(REGEX REPLACE ".*::" "" function ${operation})
-    if(id IN_LIST raises_${function})
-      list(APPEND raisers "`${operation}`")
-    endif()
-  endforeach()
-  if(NOT raisers)
-    message(SEND_ERROR "no operation raises ${id}")
-  endif()
-  list(JOIN raisers ", " raisers)
-  # What Markdown would take for more than a character.
-  foreach(part IN ITEMS Diagnostic Advice)
-    string(REGEX REPLACE "([*_`#<>|~${stand2}${stand3}${stand4}])" "\\\\\\1" ${part} "${${part}_${id}}")
-  endforeach()
-  string(APPEND text "\n## ${id}\n\n**Cause:** ${Diagnostic}\n\n**Mend:** ${Advice}\n\n**Raised by:** ${raisers}\n")
+  list(JOIN raisers_${id} "`, `" raisers)
+  string(APPEND text "\n## ${id}\n\n**Cause:** ${Diagnostic_${id}}\n\n**Fix:** ${Advice_${id}}\n\n"
+                     "**Raised by:** `${raisers}`\n")
 endforeach()
 as_written("${text}" text)
 
 if(CHECK)
   file(READ ${page} present)
   if(NOT present STREQUAL text)
-    message(FATAL_ERROR "docs/messages.md is not what the catalog and the sources say; run: cmake -P docs/messages.cmake")
+    message(FATAL_ERROR
+      "docs/messages.md differs from the message catalog or MessageIds.def; run: cmake -P docs/messages.cmake")
   endif()
 else()
   file(WRITE ${page} "${text}")
 endif()
 
-# ---- What docs/operations.md says of them ----------------------------------------------------------------------
+# ---- The ids in the text of docs/operations.md, each below the heading of its operations ----
 
 read_lines(${root}/docs/operations.md rows)
-set(heading "")
+set(operations)
+set(inExample OFF)
 foreach(row IN LISTS rows)
-  if(row MATCHES "^### ")
-    string(REGEX MATCHALL "[A-Za-z0-9]+\\(" heading "${row}")
-    list(TRANSFORM heading REPLACE "\\(" "")
-    set(inRefusals OFF)
+  if(row MATCHES "^##")
+    string(REGEX MATCHALL "[A-Za-z0-9]+\\(" operations "${row}")
+    list(TRANSFORM operations REPLACE "\\(" "")
+  elseif(row MATCHES "^```" AND inExample)
+    set(inExample OFF)
   elseif(row MATCHES "^```")
-    set(inRefusals OFF)
-  endif()
-  if(row MATCHES "Refusals:(.*)")
-    set(inRefusals ON)
-    set(row "${CMAKE_MATCH_1}")
-  endif()
-  if(heading AND inRefusals)
-    string(REGEX MATCHALL "[A-Za-z]+(ERR|Err)(_[0-9]+)?" named "${row}")
+    set(inExample ON)
+  elseif(NOT inExample)
+    string(REGEX MATCHALL "[A-Za-z]+(ERR|Err_)[0-9_]*" named "${row}")
     foreach(id IN LISTS named)
-      set(isRaised OFF)
-      foreach(function IN LISTS heading)
-        if(id IN_LIST raises_${function})
-          set(isRaised ON)
-        endif()
-      endforeach()
-      if(NOT isRaised)
-        message(SEND_ERROR "docs/operations.md: ${id} is not raised by ${heading}")
+      set(raised ${raisers_${id}})
+      list(REMOVE_ITEM raised ${operations})
+      if("${raised}" STREQUAL "${raisers_${id}}")
+        message(SEND_ERROR "docs/operations.md: ${operations} does not raise ${id}")
       endif()
     endforeach()
   endif()

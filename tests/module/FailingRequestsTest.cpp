@@ -5,6 +5,7 @@
 
 #include "support/DocumentTest.h"
 
+#include <algorithm>
 #include <cctype>
 #include <cstdlib>
 #include <fstream>
@@ -157,13 +158,44 @@ const Operation kOperations[] = {
 };
 // clang-format on
 
+/// The rows of MessageIds.def: a message id, and ", " before and after each operation that raises it.
+const std::pair<std::string_view, std::string_view> kRaisedBy[] = {
+#define MESSAGE_ID(id, raisedBy) {#id, ", " raisedBy ", "},
+#include "internal/MessageIds.def"
+#undef MESSAGE_ID
+};
+
+HRESULT RegisterMarker() {
+    return ZFXError::GetReturn(ZFXErrorTypeInput, new ZFXInputError("Marker", ""), nullptr, "", 0);
+}
+
+/// Calls an operation and returns its result. Expects that MessageIds.def lists the operation for each error that it
+/// registers. `name` is the name of the operation and may continue after a comma.
+template <class Call>
+auto RaisesOnlyItsMessages(std::string_view name, Call call) {
+    const std::string operation = ", " + std::string(name.substr(0, name.find(','))) + ", ";
+    const HRESULT before = RegisterMarker();
+    auto result = call();
+    const HRESULT after = RegisterMarker();
+    EXPECT_GT(after, before);
+    for (HRESULT code = before + 1; code < after; ++code) { // codes are consecutive
+        const ZFXError* error = ZFXError::ZFXGetLastError(code, nullptr);
+        const std::string_view id = error == nullptr ? "no error" : error->GetMsgId();
+        const bool listed = std::ranges::any_of(kRaisedBy, [&](const auto& row) {
+            return row.first == id && row.second.find(operation) != row.second.npos;
+        });
+        EXPECT_TRUE(listed) << name << " raises " << id;
+    }
+    return result;
+}
+
 /// Fails each request of one operation in turn, in four ways, and compares the results with failing-requests.txt.
 /// To write that file anew, run module-tests with QVR_WRITE_EXPECTED=1 and look at the difference.
 class FailingRequestsTest : public Requests, public ::testing::WithParamInterface<Operation> {
 protected:
     /// Returns the result, and the number of references that the singleton keeps.
     std::string Result() {
-        std::string result = GetParam().call(*this);
+        std::string result = RaisesOnlyItsMessages(GetParam().name, [&] { return GetParam().call(*this); });
         if (const long kept = model.References(); kept != 0)
             result += " +" + std::to_string(kept);
         utils->ResetAllLists();
@@ -222,6 +254,27 @@ TEST_P(FailingRequestsTest, GiveTheExpectedResult) {
                                                                             << text << "\n";
     }
     EXPECT_EQ(text, Expected(GetParam().name));
+}
+
+TEST_F(Requests, ChecksOfTextsRaiseOnlyTheirMessages) {
+    ZFXISpecObject_var feature(step);
+    const std::string tooLong(73, 'a');
+    for (const char* text : {"", "1", "a.", "a b", "ä", "厚", "step-2", tooLong.c_str()}) {
+        ZFXUnicodeString name(text);
+        ZFXUnicodeString offending;
+        RaisesOnlyItsMessages("IsNameValid", [&] { return Util::IsNameValid(name, 1); });
+        RaisesOnlyItsMessages("IsFileNameValid", [&] { return Util::IsFileNameValid(name); });
+        RaisesOnlyItsMessages("CheckName", [&] { return Util::CheckName(feature, name, 1); });
+        RaisesOnlyItsMessages("CheckFileName", [&] { return Util::CheckFileName(feature, name); });
+        RaisesOnlyItsMessages("SetAlias", [&] { return Rename(step, "Step-1", text); });
+        RaisesOnlyItsMessages("DoesNameContainDoubleByteChar",
+                              [&] { return Util::DoesNameContainDoubleByteChar(name, offending); });
+        RaisesOnlyItsMessages("DoesNameContainSignedChar",
+                              [&] { return Util::DoesNameContainSignedChar(name, offending); });
+        RaisesOnlyItsMessages("GetTARNISCompliantFeatureName",
+                              [&] { return utils->GetTARNISCompliantFeatureName(name, "G", offending); });
+    }
+    utils->ResetAllLists();
 }
 
 INSTANTIATE_TEST_SUITE_P(Each, FailingRequestsTest, ::testing::ValuesIn(kOperations), [](const auto& operation) {

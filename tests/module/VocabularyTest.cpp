@@ -25,7 +25,7 @@ TEST(Vocabulary, HasExactlyTheseRowsInThisOrder) {
 
 TEST(MessageIds, AllHaveATextThatSaysWhatIsWrongAndWhatToDo) {
     const char* const ids[] = {
-#define MESSAGE_ID(id) #id,
+#define MESSAGE_ID(id, raisedBy) #id,
 #include "internal/MessageIds.def"
 #undef MESSAGE_ID
     };

@@ -17,7 +17,7 @@ constexpr const char* kOrphanMeshPrefix = "OrphanMesh-";
 constexpr const char* kTagMarker = "INSTANCE";
 
 /// Reads the integer tag that the platform stores for a mesh part.
-HRESULT ReadTag(const ZFXIMSHMeshPart_var& meshPart, int& tag) {
+[[nodiscard]] HRESULT ReadTag(const ZFXIMSHMeshPart_var& meshPart, int& tag) {
     const ZFXISamExplicit_var explicitPart(meshPart);
     ZFXAnalysisExplicitChild child;
     if (explicitPart == nullptr || Failed(explicitPart->GetExplicitChild(child, 1)))

@@ -10,7 +10,7 @@ namespace {
 
 /// Returns S_OK if no unit of the name is above the limit. Otherwise appends these units to `offending` and raises
 /// DoubleByteCharErr_01.
-HRESULT RejectUnitsAbove(char16_t limit, const ZFXUnicodeString& name, ZFXUnicodeString& offending) {
+[[nodiscard]] HRESULT RejectUnitsAbove(char16_t limit, const ZFXUnicodeString& name, ZFXUnicodeString& offending) {
     const auto isAbove = [limit](char16_t unit) { return unit > limit; };
     if (std::ranges::none_of(name.Units(), isAbove))
         return S_OK;

@@ -7,7 +7,7 @@
 namespace {
 
 constexpr const char* kIds[] = {
-#define MESSAGE_ID(id) #id,
+#define MESSAGE_ID(id, raisedBy) #id,
 #include "internal/MessageIds.def"
 #undef MESSAGE_ID
 };

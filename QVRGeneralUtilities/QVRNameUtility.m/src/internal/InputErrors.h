@@ -11,7 +11,7 @@
 
 /// The message ids of MessageIds.def.
 enum class MessageId : std::uint8_t {
-#define MESSAGE_ID(id) id,
+#define MESSAGE_ID(id, raisedBy) id,
 #include "internal/MessageIds.def"
 #undef MESSAGE_ID
 };
