@@ -44,67 +44,91 @@ MemoryFeature MemoryFeature::Job(const ZFXUnicodeString& alias) {
 
 MemoryFeature MemoryFeature::History() const { return MemoryFeature(FirstChildOf(m_object, MemoryKind::History)); }
 
-/// Runs a change on the object, if there is one, and gives the sentence back.
-#define MEMORY_SENTENCE(change)                                                                                        \
-    do {                                                                                                               \
-        if (m_object != nullptr)                                                                                       \
-            change;                                                                                                    \
-        return *this;                                                                                                  \
-    } while (false)
+template <class Action>
+MemoryFeature& MemoryFeature::Change(Action action) {
+    if (m_object != nullptr)
+        action(*m_object);
+    return *this;
+}
 
-MemoryFeature& MemoryFeature::Alias(const ZFXUnicodeString& alias) { MEMORY_SENTENCE(m_object->alias = alias); }
-MemoryFeature& MemoryFeature::Unnamed() { MEMORY_SENTENCE(m_object->alias = ""); }
+MemoryFeature& MemoryFeature::Alias(const ZFXUnicodeString& alias) {
+    return Change([&](MemoryObject& object) { object.alias = alias; });
+}
+MemoryFeature& MemoryFeature::Unnamed() { return Alias({}); }
 MemoryFeature& MemoryFeature::Attribute(const char* name, const ZFXUnicodeString& value) {
-    if (m_object != nullptr && std::string_view(name) == "Alias") {
-        m_object->aliasKey = true;
-        return Alias(value);
-    }
-    MEMORY_SENTENCE(m_object->Extras().attributes.insert_or_assign(name, value));
+    return Change([&](MemoryObject& object) {
+        const bool isAlias = std::string_view(name) == "Alias";
+        object.aliasKey = object.aliasKey || isAlias;
+        (isAlias ? object.alias : object.Extras().attributes[name]) = value;
+    });
 }
 MemoryFeature& MemoryFeature::WithoutAttribute(const char* name) {
-    if (m_object != nullptr && std::string_view(name) == "Alias")
-        m_object->aliasKey = false;
-    MEMORY_SENTENCE(m_object->Extras().attributes.erase(name));
+    return Change([&](MemoryObject& object) {
+        if (std::string_view(name) == "Alias")
+            object.aliasKey = false;
+        else
+            object.Extras().attributes.erase(name);
+    });
 }
-MemoryFeature& MemoryFeature::With(const IID& interfaceId) { MEMORY_SENTENCE(m_object->Offer(interfaceId)); }
-MemoryFeature& MemoryFeature::Without(const IID& interfaceId) { MEMORY_SENTENCE(m_object->Withhold(interfaceId)); }
-MemoryFeature& MemoryFeature::Father(MemoryFeature father) { MEMORY_SENTENCE(m_object->father = father.m_object); }
-MemoryFeature& MemoryFeature::Propagated(bool propagated) { MEMORY_SENTENCE(m_object->propagated = propagated); }
-MemoryFeature& MemoryFeature::Property(bool property) { MEMORY_SENTENCE(m_object->Extras().property = property); }
-MemoryFeature& MemoryFeature::Amplitude(bool amplitude) { MEMORY_SENTENCE(m_object->Extras().amplitude = amplitude); }
-MemoryFeature& MemoryFeature::SolverCase(bool solver) { MEMORY_SENTENCE(m_object->Extras().solverCase = solver); }
-MemoryFeature& MemoryFeature::Tag(int tag) { MEMORY_SENTENCE(m_object->Extras().tag = tag); }
+MemoryFeature& MemoryFeature::With(const IID& interfaceId) {
+    return Change([&](MemoryObject& object) { object.Offer(interfaceId); });
+}
+MemoryFeature& MemoryFeature::Without(const IID& interfaceId) {
+    return Change([&](MemoryObject& object) { object.Withhold(interfaceId); });
+}
+MemoryFeature& MemoryFeature::Father(MemoryFeature father) {
+    return Change([&](MemoryObject& object) { object.father = father.m_object; });
+}
+MemoryFeature& MemoryFeature::Propagated(bool propagated) {
+    return Change([&](MemoryObject& object) { object.propagated = propagated; });
+}
+MemoryFeature& MemoryFeature::Property(bool property) {
+    return Change([&](MemoryObject& object) { object.Extras().property = property; });
+}
+MemoryFeature& MemoryFeature::Amplitude(bool amplitude) {
+    return Change([&](MemoryObject& object) { object.Extras().amplitude = amplitude; });
+}
+MemoryFeature& MemoryFeature::SolverCase(bool solver) {
+    return Change([&](MemoryObject& object) { object.Extras().solverCase = solver; });
+}
+MemoryFeature& MemoryFeature::Tag(int tag) {
+    return Change([&](MemoryObject& object) { object.Extras().tag = tag; });
+}
 MemoryFeature& MemoryFeature::MaterialName(const ZFXUnicodeString& name) {
-    MEMORY_SENTENCE(m_object->Extras().materialName = name);
+    return Change([&](MemoryObject& object) { object.Extras().materialName = name; });
 }
 MemoryFeature& MemoryFeature::AddMember(MemoryFeature member) {
-    if (member.m_object == nullptr || m_object == nullptr)
-        return *this;
-    member.m_object->parentSets.push_back(m_object);
-    member.m_object->Offer(IID_ZFXISamAnalysisEntity);
-    MEMORY_SENTENCE(m_object->Extras().members.push_back(member.m_object));
+    return Change([&](MemoryObject& set) {
+        if (!member)
+            return;
+        member.m_object->parentSets.push_back(&set);
+        member.m_object->Offer(IID_ZFXISamAnalysisEntity);
+        set.Extras().members.push_back(member.m_object);
+    });
 }
 MemoryFeature& MemoryFeature::PointedAtBy(MemoryFeature owner) {
-    if (owner.m_object == nullptr)
-        return *this;
-    MEMORY_SENTENCE(m_object->AddPointing(owner.m_object));
+    return Change([&](MemoryObject& object) {
+        if (owner)
+            object.AddPointing(owner.m_object);
+    });
 }
 MemoryFeature& MemoryFeature::AddConnector(MemoryFeature connector) {
-    MEMORY_SENTENCE(m_object->Extras().connectors.push_back(connector.m_object));
+    return Change([&](MemoryObject& support) { support.Extras().connectors.push_back(connector.m_object); });
 }
 MemoryFeature& MemoryFeature::SetGroup(MemoryFeature group) {
-    MEMORY_SENTENCE(m_object->Extras().group = group.m_object);
+    return Change([&](MemoryObject& connector) { connector.Extras().group = group.m_object; });
 }
 MemoryFeature& MemoryFeature::AddMaster(MemoryFeature connector) {
-    MEMORY_SENTENCE(m_object->Extras().master.push_back(connector.m_object));
+    return Change([&](MemoryObject& design) { design.Extras().master.push_back(connector.m_object); });
 }
 MemoryFeature& MemoryFeature::AddSlave(MemoryFeature connector) {
-    MEMORY_SENTENCE(m_object->Extras().slave.push_back(connector.m_object));
+    return Change([&](MemoryObject& design) { design.Extras().slave.push_back(connector.m_object); });
 }
 MemoryFeature& MemoryFeature::FailAlways(MemoryRequest request, MemoryResponse response) {
-    MEMORY_SENTENCE(m_object->document->session.faults.Add(request, m_object, MemoryFaults::kAlways, response));
+    return Change([&](MemoryObject& object) {
+        object.document->session.faults.Add(request, &object, MemoryFaults::kAlways, response);
+    });
 }
-#undef MEMORY_SENTENCE
 
 ZFXUnicodeString MemoryFeature::StoredAlias() const {
     return m_object == nullptr ? ZFXUnicodeString() : m_object->alias;

@@ -35,6 +35,7 @@ enum class MemoryKind {
     Support,          ///< a support
     Connector,        ///< a connector
     ConnectionDesign, ///< a connection design
+    Count             ///< the number of kinds
 };
 
 /// A request that a document can be told to answer otherwise.
@@ -150,6 +151,10 @@ public:
 
 private:
     friend class MemoryDocument;
+    /// Calls `action` with the object, if there is one. Returns this feature.
+    template <class Action>
+    MemoryFeature& Change(Action action);
+
     MemoryObject* m_object = nullptr;
 };
 

@@ -2,10 +2,6 @@
 
 #include "memory-model/MemorySession.h"
 
-#include <algorithm>
-#include <string_view>
-#include <utility>
-
 long MemoryObject::live = 0;
 
 const MemoryLateType& MemoryLateType::Of(const ZFXUnicodeString& name) {
@@ -17,32 +13,12 @@ const MemoryLateType& MemoryLateType::Of(const ZFXUnicodeString& name) {
     return known->emplace(std::u16string(name.Units()), made).first->second;
 }
 
-MemoryResponse MemoryFaults::ApplyRules(MemoryRequest request, const MemoryObject* object) {
-    MemoryResponse response = kSuccess;
-    bool found = false;
-    // Every rule that is meant counts the request, whichever of them answers it: the first that is due.
-    std::erase_if(m_rules, [&](Rule& rule) {
-        const bool meant = (rule.request == MemoryRequest::Any || rule.request == request) &&
-                           (rule.object == nullptr || rule.object == object);
-        const bool due = meant && (rule.countdown == kAlways || --rule.countdown == 0);
-        if (due && !std::exchange(found, true)) {
-            response = rule.response;
-            m_lastFault = request;
-        }
-        return due && rule.countdown != kAlways;
-    });
-    return response;
-}
-
 MemoryObject::MemoryObject(MemoryDocumentObject* owner, MemoryKind objectKind, const MemoryLateType& type)
     : m_faults(owner == nullptr ? nullptr : &owner->session.faults),
       lateType(&type),
       document(owner),
       kind(objectKind) {
     ++live;
-    for (ZFXBaseUnknown* face : std::initializer_list<ZFXBaseUnknown*>{&m_spec, &m_aliasFace, &m_attributes,
-                                                                       &m_linkable, &m_entity, &m_propagating})
-        face->SetImpl(this);
 }
 
 MemoryObject::~MemoryObject() { --live; }
@@ -50,17 +26,13 @@ MemoryObject::~MemoryObject() { --live; }
 MemoryExtras& MemoryObject::Extras() {
     if (m_extras == nullptr) {
         m_extras = std::make_unique<MemoryExtras>();
-        MemoryRareFaces& f = m_extras->faces;
-        for (ZFXBaseUnknown* face : std::initializer_list<ZFXBaseUnknown*>{
-                 &f.model, &f.analysisCase, &f.set, &f.scan, &f.support, &f.connector, &f.explicitObject,
-                 &f.explicitData, &f.meshManager, &f.meshPart, &f.material, &f.step, &f.group, &f.design})
-            face->SetImpl(this);
+        m_extras->explicitData.SetImpl(this);
     }
     return *m_extras;
 }
 
 const MemoryExtras& MemoryObject::NoExtras() {
-    static const MemoryExtras none;
+    static const MemoryExtras none{};
     return none;
 }
 
@@ -68,7 +40,9 @@ void MemoryObject::Offer(const IID& iid) {
     const auto number = static_cast<std::size_t>(ZFXNumberOf(iid));
     m_offered.set(number);
     m_withheld.reset(number);
-    FaceOf(ZFXNumberOf(iid)); // made now, so that a query never makes anything
+    // Creates the extras if the interface object is part of them, so that a query allocates nothing.
+    if (ZFXBaseUnknown* object = InterfaceObject(ZFXNumberOf(iid)))
+        object->SetImpl(this);
 }
 
 void MemoryObject::Withhold(const IID& iid) {
@@ -109,29 +83,29 @@ void MemoryObject::Detach() {
     m_extras->pointing.RemoveAll();
 }
 
-HRESULT MemoryObject::QueryInterface(const IID& iid, void** face) {
-    if (face == nullptr)
+HRESULT MemoryObject::QueryInterface(const IID& iid, void** result) {
+    if (result == nullptr)
         return E_POINTER;
-    *face = nullptr;
+    *result = nullptr;
     if (iid == IID_ZFXBaseUnknown) {
         AddRef();
-        *face = static_cast<ZFXBaseUnknown*>(this);
+        *result = static_cast<ZFXBaseUnknown*>(this);
         return S_OK;
     }
     const ZFXInterfaceNumber number = ZFXNumberOf(iid);
     if (!BeginRequest(MemoryRequest::Cast).filled || m_withheld.test(static_cast<std::size_t>(number)))
         return E_NOINTERFACE;
-    // An extension that a module declared for the late type comes before the object's own interface.
+    // An extension that a module declared for the late type takes precedence over the object's own interface.
     const ZFXAdaptorFactory factory =
         lateType->metaClass->IsExtended() ? lateType->metaClass->FindAdaptorFactory(iid) : nullptr;
     if (factory != nullptr) {
-        *face = factory(this, nullptr);
-        return *face == nullptr ? E_NOINTERFACE : S_OK;
+        *result = factory(this, nullptr);
+        return *result == nullptr ? E_NOINTERFACE : S_OK;
     }
-    ZFXBaseUnknown* own = OwnFace(number);
+    ZFXBaseUnknown* own = OfferedInterface(number);
     if (own == nullptr)
         return E_NOINTERFACE;
     AddRef();
-    *face = own; // the root is the first base of every face, so the addresses are the same
+    *result = own; // the root is the first base of every interface, so the address is that of the interface
     return S_OK;
 }

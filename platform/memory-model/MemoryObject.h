@@ -1,6 +1,8 @@
 #pragma once
 
-#include "memory-model/MemoryModel.h"
+#include "memory-model/MemoryAttributes.h"
+#include "memory-model/MemoryFaults.h"
+#include "memory-model/MemoryInterfaces.h"
 #include "object-model/ZFXMetaClass.h"
 
 #include <bitset>
@@ -10,145 +12,18 @@
 #include <string>
 #include <vector>
 
-/// A late type: its name and the meta class that knows what extends it. One for each name, never destroyed.
+/// A late type: its name and its meta class, which lists the extensions of the type.
 struct MemoryLateType {
     ZFXUnicodeString name;
     ZFXMetaClass* metaClass;
 
+    /// Returns the late type of this name. There is one object for each name; it is never destroyed.
     static const MemoryLateType& Of(const ZFXUnicodeString& name);
 };
 
-/// The key of one attribute name.
-class MemoryAttrKey final : public ZFXISpecAttrKey {
-public:
-    explicit MemoryAttrKey(std::string keyName) : name(std::move(keyName)), isAlias(name == "Alias") {}
-    const std::string name;
-    const bool isAlias; // asked for far more often than all others
-    long References() { return static_cast<long>(Count()) - 1; }
-};
-
-/// An attribute of its owner that points at the object which lists it.
-class MemoryPointingAttribute final : public ZFXISpecAttribute {
-public:
-    explicit MemoryPointingAttribute(MemoryObject* owner) : m_owner(owner) {}
-
-    using ZFXISpecAttribute::QueryInterface;
-    HRESULT QueryInterface(const IID& iid, void** face) override;
-    ZFXBaseUnknown* GetOwner() override;
-
-    void ForgetOwner() noexcept { m_owner = nullptr; }
-    long References() { return static_cast<long>(Count()) - 1; }
-
-private:
-    MemoryObject* m_owner;
-};
-
-/// Requests counted, and the answers that some of them were told to give.
-class MemoryFaults {
-public:
-    MemoryResponse BeginRequest(MemoryRequest request, const MemoryObject* object) {
-        ++m_requests;
-        return m_rules.empty() ? kSuccess : ApplyRules(request, object);
-    }
-    long Requests() const noexcept { return m_requests; }
-    MemoryRequest LastFault() const noexcept { return m_lastFault; }
-    void Add(MemoryRequest request, const MemoryObject* object, long n, MemoryResponse response) {
-        m_rules.push_back({request, object, n, response});
-    }
-    void Clear() {
-        m_rules.clear();
-        m_lastFault = MemoryRequest::Any;
-    }
-
-    static constexpr MemoryResponse kSuccess{S_OK, true};
-    static constexpr long kAlways = -1;
-
-private:
-    struct Rule {
-        MemoryRequest request;
-        const MemoryObject* object; // null: any
-        long countdown;             // of such requests; kAlways: every one
-        MemoryResponse response;
-    };
-    MemoryResponse ApplyRules(MemoryRequest request, const MemoryObject* object);
-
-    std::vector<Rule> m_rules;
-    long m_requests = 0;
-    MemoryRequest m_lastFault = MemoryRequest::Any; // none
-};
-
-/// One face of an object: an interface that forwards its root operations. Counted with the object.
-template <class Interface>
-class MemoryFace : public Interface {
-public:
-    using Interface::QueryInterface;
-    HRESULT QueryInterface(const IID& iid, void** face) final;
-    ULONG AddRef() final;
-    ULONG Release() final;
-
-protected:
-    MemoryObject& Object() const noexcept;
-};
-
-#define MEMORY_FACE(name, operations)                                                                                  \
-    class Memory##name final : public MemoryFace<name> {                                                               \
-    public:                                                                                                            \
-        operations                                                                                                     \
-    };
-
-MEMORY_FACE(ZFXIAlias, void SetAlias(const ZFXUnicodeString& alias) override; ZFXUnicodeString GetAlias() override;)
-MEMORY_FACE(ZFXISpecObject, ZFXUnicodeString GetLateType() override; ZFXBaseUnknown * GetFather() override;
-            ZFXListValZFXISpecAttribute_var * ListPointingAttributes(const char* interfaceName,
-                                                                     const ZFXUnicodeString& type,
-                                                                     const ZFXUnicodeString& name) override;)
-MEMORY_FACE(ZFXISpecAttrAccess, ZFXISpecAttrKey* GetAttrKey(const char* name) override;
-            void SetString(ZFXISpecAttrKey* key, const ZFXUnicodeString& value, int index) override;
-            ZFXUnicodeString GetString(ZFXISpecAttrKey * key, int index) override;)
-MEMORY_FACE(ZFXILinkableObject, ZFXDocument* GetOwningDocument() override;)
-MEMORY_FACE(ZFXISamAnalysisModel, HRESULT ListAnalysisCases(ZFXListValZFXBaseUnknown_var& cases) override;)
-MEMORY_FACE(ZFXISamAnalysisCase, )
-MEMORY_FACE(ZFXISamAnalysisSet,
-            HRESULT ListMembers(ZFXListValZFXISpecObject_var& members, const IID& filter, int flag) override;)
-MEMORY_FACE(ZFXISamAnalysisScan, HRESULT FindObjectsOfType(const ZFXUnicodeString& lateType,
-                                                           ZFXListValZFXBaseUnknown_var& found, int mode) override;
-            HRESULT ListChildren(ZFXListValZFXBaseUnknown_var & children, int mode) override;)
-MEMORY_FACE(ZFXISamAnalysisEntity, HRESULT GetParentSets(ZFXListValZFXBaseUnknown_var*& sets) override;)
-MEMORY_FACE(ZFXISamAnalysisSupport, HRESULT ListConnectors(ZFXListValZFXBaseUnknown_var& connectors) override;)
-MEMORY_FACE(ZFXISamAnalysisConnector, HRESULT GetGroup(ZFXBaseUnknown*& group) override;)
-MEMORY_FACE(ZFXISamExplicit, HRESULT GetExplicitChild(ZFXAnalysisExplicitChild& child, int flag) override;)
-MEMORY_FACE(ZFXExplicitData, HRESULT ReadTag(int& tag) override;)
-MEMORY_FACE(ZFXIMSHMeshManager, )
-MEMORY_FACE(ZFXIMSHMeshPart, )
-MEMORY_FACE(ZFXIMaterialFeature, ZFXUnicodeString GetMaterialFeatureName() override;)
-MEMORY_FACE(QVRIStep, )
-MEMORY_FACE(QVRIPropagatingFeature, int IsPropagated() override;)
-MEMORY_FACE(QVRISamGroupExt, )
-MEMORY_FACE(QVRISamAnalysisConnectionDesign,
-            HRESULT GetMasterAndSlaveConnectors(ZFXListValZFXBaseUnknown_var& master,
-                                                ZFXListValZFXBaseUnknown_var& slave) override;)
-#undef MEMORY_FACE
-
 using MemoryObjects = std::vector<MemoryObject*>;
 
-/// The faces that few objects have. A document holds many more plain features than anything else.
-struct MemoryRareFaces {
-    MemoryZFXISamAnalysisModel model;
-    MemoryZFXISamAnalysisCase analysisCase;
-    MemoryZFXISamAnalysisSet set;
-    MemoryZFXISamAnalysisScan scan;
-    MemoryZFXISamAnalysisSupport support;
-    MemoryZFXISamAnalysisConnector connector;
-    MemoryZFXISamExplicit explicitObject;
-    MemoryZFXExplicitData explicitData;
-    MemoryZFXIMSHMeshManager meshManager;
-    MemoryZFXIMSHMeshPart meshPart;
-    MemoryZFXIMaterialFeature material;
-    MemoryQVRIStep step;
-    MemoryQVRISamGroupExt group;
-    MemoryQVRISamAnalysisConnectionDesign design;
-};
-
-/// What few objects hold.
+/// The data that few objects need. Most objects of a document are plain features without it.
 struct MemoryExtras {
     MemoryObjects children;
     MemoryObjects members;
@@ -157,20 +32,23 @@ struct MemoryExtras {
     MemoryObjects slave;
     MemoryObject* group = nullptr;
     ZFXListValZFXISpecAttribute_var pointing;
-    std::map<std::string, ZFXUnicodeString> attributes; // beside "Alias"
+    std::map<std::string, ZFXUnicodeString> attributes; // without "Alias"
     std::optional<int> tag;
     ZFXUnicodeString materialName;
     std::optional<bool> property;
     std::optional<bool> amplitude;
     bool solverCase = true;
-    MemoryRareFaces faces;
+    MemoryRareInterfaces interfaces;
+    MemoryInterface<ZFXExplicitData> explicitData;
 };
 
-/// An object of a document: the implementation behind all its faces.
+/// An object of a document: the implementation behind its interface objects.
 class MemoryObject final : public ZFXBaseUnknown {
-    using Interfaces = std::bitset<32>;
+    using Interfaces = std::bitset<32>; // by ZFXInterfaceNumber
+    static_assert(static_cast<std::size_t>(ZFXInterfaceNumber::Count) <= Interfaces().size());
 
-    // What a scan reads of each feature comes first, side by side: a scope is larger than the processor's caches.
+    // The members that a scan reads of each feature come first and are adjacent: a scope is larger than the processor's
+    // caches.
     MemoryFaults* m_faults; // of the document's session; null once the document is closed
     Interfaces m_offered;
     Interfaces m_withheld;
@@ -179,54 +57,68 @@ public:
     const MemoryLateType* lateType;
 
 private:
-    MemoryZFXIAlias m_aliasFace;
+    MemoryInterface<ZFXIAlias> m_alias;
 
 public:
     ZFXUnicodeString alias;
 
 private:
-    MemoryZFXISpecObject m_spec;
-    MemoryQVRIPropagatingFeature m_propagating;
+    MemoryInterface<ZFXISpecObject> m_specObject;
+    MemoryInterface<QVRIPropagatingFeature> m_propagatingFeature;
 
 public:
     MemoryObject(MemoryDocumentObject* owner, MemoryKind objectKind, const MemoryLateType& type);
     ~MemoryObject() override;
 
     using ZFXBaseUnknown::QueryInterface;
-    HRESULT QueryInterface(const IID& iid, void** face) override;
+    HRESULT QueryInterface(const IID& iid, void** result) override;
 
+    /// Returns the extras. Creates them at the first call.
     MemoryExtras& Extras();
-    /// What it has of the extras, or a shared empty one.
+    /// Returns the extras, or a shared empty object if there are none.
     const MemoryExtras& ExtrasOrNone() const { return m_extras == nullptr ? NoExtras() : *m_extras; }
+
+    /// Counts a request on this object and returns its response. After the document was closed, always kSuccess.
     MemoryResponse BeginRequest(MemoryRequest request) {
         return m_faults == nullptr ? MemoryFaults::kSuccess : m_faults->BeginRequest(request, this);
     }
+
+    /// Offers the interface from now on.
     void Offer(const IID& iid);
+    /// Offers the interface no longer. Extensions of the late type cannot add it either.
     void Withhold(const IID& iid);
+    /// Returns true if the object itself offers the interface.
     bool IsOffered(ZFXInterfaceNumber number) const { return m_offered.test(static_cast<std::size_t>(number)); }
-    /// The nearest object above this one in the tree that offers the interface, or null.
+    /// Returns the object's own interface object, or null if the object does not offer the interface. Makes no request.
+    /// [borrowed]
+    ZFXBaseUnknown* OfferedInterface(ZFXInterfaceNumber number) {
+        return IsOffered(number) ? InterfaceObject(number) : nullptr;
+    }
+
+    /// Returns the nearest object above this one in the tree that offers the interface, or null.
     MemoryObject* NearestAbove(ZFXInterfaceNumber number) const;
-    /// The object's own face of that number, or null when it does not offer it. No request. [borrowed]
-    ZFXBaseUnknown* OwnFace(ZFXInterfaceNumber number);
-    /// An attribute of `owner` points at this object from now on.
+    /// Adds an attribute of `owner` that points at this object.
     void AddPointing(MemoryObject* owner);
-    /// Those that others hold, on the object or on an attribute that points at it.
+    /// Returns the number of references that others have on this object and on the attributes that point at it.
     long References();
-    /// The document goes: nothing of it is reached from here any more.
+    /// Removes all links to other objects and to the document, because the document closes.
     void Detach();
 
-    MemoryDocumentObject* document;
+    MemoryDocumentObject* document; // null once it is closed
     MemoryObject* parent = nullptr; // in the tree
-    MemoryObject* father = nullptr; // what GetFather answers
+    MemoryObject* father = nullptr; // the result of GetFather
     MemoryObjects parentSets;
     MemoryKind kind;
-    bool aliasKey = true;
+    bool aliasKey = true; // whether the attribute "Alias" has a key
     bool propagated = false;
 
+    /// The number of objects in this process.
     static long live;
 
 private:
-    ZFXBaseUnknown* FaceOf(ZFXInterfaceNumber number);
+    template <class Interface>
+    ZFXBaseUnknown* InterfaceObject();
+    ZFXBaseUnknown* InterfaceObject(ZFXInterfaceNumber number);
     static const MemoryExtras& NoExtras();
     template <class Visit>
     void ForEachPointing(Visit visit) const {
@@ -236,58 +128,40 @@ private:
     }
 
     std::unique_ptr<MemoryExtras> m_extras;
-    MemoryZFXISpecAttrAccess m_attributes;
-    MemoryZFXILinkableObject m_linkable;
-    MemoryZFXISamAnalysisEntity m_entity;
+    MemoryInterface<ZFXISpecAttrAccess> m_attrAccess;
+    MemoryInterface<ZFXILinkableObject> m_linkableObject;
+    MemoryInterface<ZFXISamAnalysisEntity> m_entity;
 };
 
-// Defined here, so that a number that is known costs no call.
-inline ZFXBaseUnknown* MemoryObject::OwnFace(ZFXInterfaceNumber number) {
-    return IsOffered(number) ? FaceOf(number) : nullptr;
+/// Returns the interface object of an interface, or null for ZFXISpecAttribute. The object may not offer it.
+template <class Interface>
+ZFXBaseUnknown* MemoryObject::InterfaceObject() {
+    if constexpr (kIsRareInterface<Interface>)
+        return &std::get<MemoryInterface<Interface>>(Extras().interfaces);
+    else if constexpr (std::is_same_v<Interface, ZFXIAlias>)
+        return &m_alias;
+    else if constexpr (std::is_same_v<Interface, ZFXISpecObject>)
+        return &m_specObject;
+    else if constexpr (std::is_same_v<Interface, ZFXISpecAttrAccess>)
+        return &m_attrAccess;
+    else if constexpr (std::is_same_v<Interface, ZFXILinkableObject>)
+        return &m_linkableObject;
+    else if constexpr (std::is_same_v<Interface, ZFXISamAnalysisEntity>)
+        return &m_entity;
+    else if constexpr (std::is_same_v<Interface, QVRIPropagatingFeature>)
+        return &m_propagatingFeature;
+    else
+        return nullptr;
 }
 
-/// The face of that number. Offered ones have been made, so a query allocates nothing.
-inline ZFXBaseUnknown* MemoryObject::FaceOf(ZFXInterfaceNumber number) {
+// Inline, so that a number that is known at compile time needs no switch.
+inline ZFXBaseUnknown* MemoryObject::InterfaceObject(ZFXInterfaceNumber number) {
     switch (number) {
-    case ZFXInterfaceNumber::ZFXIAlias:
-        return &m_aliasFace;
-    case ZFXInterfaceNumber::ZFXISpecObject:
-        return &m_spec;
-    case ZFXInterfaceNumber::ZFXISpecAttrAccess:
-        return &m_attributes;
-    case ZFXInterfaceNumber::ZFXILinkableObject:
-        return &m_linkable;
-    case ZFXInterfaceNumber::ZFXISamAnalysisEntity:
-        return &m_entity;
-    case ZFXInterfaceNumber::QVRIPropagatingFeature:
-        return &m_propagating;
-    case ZFXInterfaceNumber::ZFXISamAnalysisModel:
-        return &Extras().faces.model;
-    case ZFXInterfaceNumber::ZFXISamAnalysisCase:
-        return &Extras().faces.analysisCase;
-    case ZFXInterfaceNumber::ZFXISamAnalysisSet:
-        return &Extras().faces.set;
-    case ZFXInterfaceNumber::ZFXISamAnalysisScan:
-        return &Extras().faces.scan;
-    case ZFXInterfaceNumber::ZFXISamAnalysisSupport:
-        return &Extras().faces.support;
-    case ZFXInterfaceNumber::ZFXISamAnalysisConnector:
-        return &Extras().faces.connector;
-    case ZFXInterfaceNumber::ZFXISamExplicit:
-        return &Extras().faces.explicitObject;
-    case ZFXInterfaceNumber::ZFXIMSHMeshManager:
-        return &Extras().faces.meshManager;
-    case ZFXInterfaceNumber::ZFXIMSHMeshPart:
-        return &Extras().faces.meshPart;
-    case ZFXInterfaceNumber::ZFXIMaterialFeature:
-        return &Extras().faces.material;
-    case ZFXInterfaceNumber::QVRIStep:
-        return &Extras().faces.step;
-    case ZFXInterfaceNumber::QVRISamGroupExt:
-        return &Extras().faces.group;
-    case ZFXInterfaceNumber::QVRISamAnalysisConnectionDesign:
-        return &Extras().faces.design;
-    case ZFXInterfaceNumber::ZFXISpecAttribute: // an attribute is no object of the document's tree
+#define ZFX_INTERFACE(name)                                                                                            \
+    case ZFXInterfaceNumber::name:                                                                                     \
+        return InterfaceObject<name>();
+#include "object-model/ZFXInterfaces.def"
+#undef ZFX_INTERFACE
     case ZFXInterfaceNumber::None:
     case ZFXInterfaceNumber::Count:
         break;
@@ -295,27 +169,28 @@ inline ZFXBaseUnknown* MemoryObject::FaceOf(ZFXInterfaceNumber number) {
     return nullptr;
 }
 
-/// A handle on the object's own face, without a request; empty when there is no object or it does not offer it.
+/// Returns a handle on the object's own interface object, without a request. The handle is empty if `object` is null or
+/// does not offer the interface.
 template <class Interface>
-ZFXHandle<Interface> Face(MemoryObject* object) {
+ZFXHandle<Interface> InterfaceOf(MemoryObject* object) {
     if (object == nullptr)
         return {};
-    return ZFXHandle<Interface>(static_cast<Interface*>(object->OwnFace(ZFXNumberOf(Interface::ClassId()))));
+    return ZFXHandle<Interface>(static_cast<Interface*>(object->OfferedInterface(ZFXNumberOf(Interface::ClassId()))));
 }
 
 template <class Interface>
-MemoryObject& MemoryFace<Interface>::Object() const noexcept {
+MemoryObject& MemoryInterfaceBase<Interface>::Object() const noexcept {
     return static_cast<MemoryObject&>(*this->Implementation());
 }
 template <class Interface>
-HRESULT MemoryFace<Interface>::QueryInterface(const IID& iid, void** face) {
-    return Object().QueryInterface(iid, face);
+HRESULT MemoryInterfaceBase<Interface>::QueryInterface(const IID& iid, void** result) {
+    return Object().QueryInterface(iid, result);
 }
 template <class Interface>
-ULONG MemoryFace<Interface>::AddRef() {
+ULONG MemoryInterfaceBase<Interface>::AddRef() {
     return Object().AddRef();
 }
 template <class Interface>
-ULONG MemoryFace<Interface>::Release() {
+ULONG MemoryInterfaceBase<Interface>::Release() {
     return Object().Release();
 }

@@ -2,18 +2,21 @@
 
 #include "LateTypes.h"
 
-#include <algorithm>
 #include <initializer_list>
+#include <iterator>
 
 namespace {
 
-/// The interfaces that an object of each kind offers beside those that all of them do.
+/// The interfaces that every object offers at first.
+constexpr IID kCommonOffers[] = {IID_ZFXISpecObject, IID_ZFXIAlias, IID_ZFXISpecAttrAccess, IID_ZFXILinkableObject};
+
+/// The further interfaces that an object of a kind offers at first.
 struct KindRow {
     MemoryKind kind;
     std::initializer_list<IID> offers;
 };
 
-const KindRow kKinds[] = {
+constexpr KindRow kKinds[] = {
     {MemoryKind::Feature, {}},
     {MemoryKind::Model, {IID_ZFXISamAnalysisModel, IID_ZFXISamAnalysisScan}},
     {MemoryKind::Case, {IID_ZFXISamAnalysisCase, IID_ZFXISamAnalysisScan}},
@@ -29,6 +32,14 @@ const KindRow kKinds[] = {
     {MemoryKind::Connector, {IID_ZFXISamAnalysisConnector}},
     {MemoryKind::ConnectionDesign, {IID_QVRISamAnalysisConnectionDesign}},
 };
+
+constexpr bool HasOneRowForEachKind() {
+    std::size_t row = 0;
+    while (row < std::size(kKinds) && kKinds[row].kind == static_cast<MemoryKind>(row))
+        ++row;
+    return row == std::size(kKinds) && row == static_cast<std::size_t>(MemoryKind::Count);
+}
+static_assert(HasOneRowForEachKind(), "kKinds needs one row for each kind, in the order of MemoryKind");
 
 bool IsSet(const MemoryObject& object) { return object.IsOffered(ZFXInterfaceNumber::ZFXISamAnalysisSet); }
 
@@ -67,7 +78,7 @@ MemoryObject* MemoryDocumentObject::Make(MemoryKind kind, const ZFXUnicodeString
     object->alias = alias;
     object->parent = parent;
     object->father = kind == MemoryKind::JobContainer ? model : parent;
-    for (const IID& iid : {IID_ZFXISpecObject, IID_ZFXIAlias, IID_ZFXISpecAttrAccess, IID_ZFXILinkableObject})
+    for (const IID& iid : kCommonOffers)
         object->Offer(iid);
     for (const IID& iid : kKinds[static_cast<std::size_t>(kind)].offers)
         object->Offer(iid);
@@ -158,7 +169,7 @@ HRESULT MemorySession::GetJobs(const ZFXListValZFXBaseUnknown_var& cases, ZFXLis
         for (MemoryObject* child : analysisCase->ExtrasOrNone().children)
             if (child->kind == MemoryKind::JobContainer)
                 for (MemoryObject* job : child->ExtrasOrNone().members)
-                    jobs.Append(Face<ZFXISpecObject>(job));
+                    jobs.Append(InterfaceOf<ZFXISpecObject>(job));
     }
     return response.code;
 }
@@ -170,7 +181,7 @@ HRESULT MemorySession::GetAnalysisModel(ZFXISamAnalysisModel_var& model, const Z
         return response.code;
     if (asked == nullptr)
         return E_FAIL;
-    model = Face<ZFXISamAnalysisModel>(asked->model);
+    model = InterfaceOf<ZFXISamAnalysisModel>(asked->model);
     return response.code;
 }
 
@@ -181,7 +192,7 @@ HRESULT MemorySession::GetMeshManager(ZFXIMSHMeshManager_var& manager, const ZFX
         return response.code;
     if (asked == nullptr)
         return E_FAIL;
-    manager = Face<ZFXIMSHMeshManager>(asked->meshManager);
+    manager = InterfaceOf<ZFXIMSHMeshManager>(asked->meshManager);
     return response.code;
 }
 
@@ -199,7 +210,7 @@ HRESULT MemorySession::GetParentStep(const ZFXISpecObject_var& feature, ZFXISpec
     if (object == nullptr)
         return E_FAIL;
     if (MemoryObject* found = object->NearestAbove(ZFXInterfaceNumber::QVRIStep))
-        step = Face<ZFXISpecObject>(found);
+        step = InterfaceOf<ZFXISpecObject>(found);
     return response.code;
 }
 
@@ -211,7 +222,7 @@ HRESULT MemorySession::GetParentCaseFromObject(const ZFXISpecObject_var& feature
     MemoryObject* found = object == nullptr ? nullptr : object->NearestAbove(ZFXInterfaceNumber::ZFXISamAnalysisCase);
     if (found == nullptr)
         return E_FAIL;
-    parent = Face<ZFXISpecObject>(found);
+    parent = InterfaceOf<ZFXISpecObject>(found);
     return response.code;
 }
 
@@ -231,6 +242,6 @@ HRESULT MemorySession::GetCurrentAnalysisCaseSP(ZFXISamAnalysisCase_var& analysi
     const MemoryResponse response = faults.BeginRequest(MemoryRequest::GetCurrentAnalysisCaseSP, nullptr);
     const MemoryDocumentObject* asked = DocumentOr(document);
     if (response.filled)
-        analysisCase = Face<ZFXISamAnalysisCase>(asked == nullptr ? nullptr : asked->currentCase);
+        analysisCase = InterfaceOf<ZFXISamAnalysisCase>(asked == nullptr ? nullptr : asked->currentCase);
     return response.code;
 }

@@ -1,35 +1,20 @@
-// What the faces of an object answer. Each asks the faults first.
+// The operations of the interface objects. Each begins its request first, because a response may be injected.
 
 #include "memory-model/MemoryObject.h"
 #include "memory-model/MemorySession.h"
 
 #include <string_view>
 
-HRESULT MemoryPointingAttribute::QueryInterface(const IID& iid, void** face) {
-    if (face == nullptr || iid != IID_ZFXISpecAttribute)
-        return ZFXISpecAttribute::QueryInterface(iid, face);
-    AddRef();
-    *face = this;
-    return S_OK;
-}
-
-ZFXBaseUnknown* MemoryPointingAttribute::GetOwner() {
-    if (m_owner == nullptr || !m_owner->BeginRequest(MemoryRequest::GetOwner).filled)
-        return nullptr;
-    m_owner->AddRef();
-    return m_owner;
-}
-
-void MemoryZFXIAlias::SetAlias(const ZFXUnicodeString& alias) {
+void MemoryInterface<ZFXIAlias>::SetAlias(const ZFXUnicodeString& alias) {
     if (Object().BeginRequest(MemoryRequest::SetAlias).filled)
         Object().alias = alias;
 }
 
-ZFXUnicodeString MemoryZFXIAlias::GetAlias() {
+ZFXUnicodeString MemoryInterface<ZFXIAlias>::GetAlias() {
     return Object().BeginRequest(MemoryRequest::GetAlias).filled ? Object().alias : ZFXUnicodeString();
 }
 
-ZFXUnicodeString MemoryZFXISpecObject::GetLateType() {
+ZFXUnicodeString MemoryInterface<ZFXISpecObject>::GetLateType() {
     return Object().BeginRequest(MemoryRequest::GetLateType).filled ? Object().lateType->name : ZFXUnicodeString();
 }
 
@@ -49,16 +34,16 @@ void AppendAll(const MemoryObjects& objects, ZFXListValZFXBaseUnknown_var& list)
 
 } // namespace
 
-ZFXBaseUnknown* MemoryZFXISpecObject::GetFather() {
+ZFXBaseUnknown* MemoryInterface<ZFXISpecObject>::GetFather() {
     return Object().BeginRequest(MemoryRequest::GetFather).filled ? WithReference(Object().father) : nullptr;
 }
 
-ZFXListValZFXISpecAttribute_var* MemoryZFXISpecObject::ListPointingAttributes(const char*, const ZFXUnicodeString&,
-                                                                              const ZFXUnicodeString&) {
+ZFXListValZFXISpecAttribute_var*
+MemoryInterface<ZFXISpecObject>::ListPointingAttributes(const char*, const ZFXUnicodeString&, const ZFXUnicodeString&) {
     return Object().BeginRequest(MemoryRequest::ListPointingAttributes).filled ? &Object().Extras().pointing : nullptr;
 }
 
-ZFXISpecAttrKey* MemoryZFXISpecAttrAccess::GetAttrKey(const char* name) {
+ZFXISpecAttrKey* MemoryInterface<ZFXISpecAttrAccess>::GetAttrKey(const char* name) {
     if (!Object().BeginRequest(MemoryRequest::GetAttrKey).filled || name == nullptr || Object().document == nullptr)
         return nullptr;
     MemorySession& session = Object().document->session;
@@ -67,14 +52,14 @@ ZFXISpecAttrKey* MemoryZFXISpecAttrAccess::GetAttrKey(const char* name) {
     return Object().ExtrasOrNone().attributes.contains(name) ? session.KeyOf(name) : nullptr;
 }
 
-void MemoryZFXISpecAttrAccess::SetString(ZFXISpecAttrKey* key, const ZFXUnicodeString& value, int) {
+void MemoryInterface<ZFXISpecAttrAccess>::SetString(ZFXISpecAttrKey* key, const ZFXUnicodeString& value, int) {
     if (!Object().BeginRequest(MemoryRequest::SetString).filled || key == nullptr)
         return;
     const MemoryAttrKey& named = static_cast<MemoryAttrKey&>(*key);
     (named.isAlias ? Object().alias : Object().Extras().attributes[named.name]) = value;
 }
 
-ZFXUnicodeString MemoryZFXISpecAttrAccess::GetString(ZFXISpecAttrKey* key, int) {
+ZFXUnicodeString MemoryInterface<ZFXISpecAttrAccess>::GetString(ZFXISpecAttrKey* key, int) {
     if (!Object().BeginRequest(MemoryRequest::GetString).filled || key == nullptr)
         return {};
     const MemoryAttrKey& named = static_cast<MemoryAttrKey&>(*key);
@@ -85,11 +70,11 @@ ZFXUnicodeString MemoryZFXISpecAttrAccess::GetString(ZFXISpecAttrKey* key, int) 
     return found == attributes.end() ? ZFXUnicodeString() : found->second;
 }
 
-ZFXDocument* MemoryZFXILinkableObject::GetOwningDocument() {
+ZFXDocument* MemoryInterface<ZFXILinkableObject>::GetOwningDocument() {
     return Object().BeginRequest(MemoryRequest::GetOwningDocument).filled ? Object().document : nullptr;
 }
 
-HRESULT MemoryZFXISamAnalysisModel::ListAnalysisCases(ZFXListValZFXBaseUnknown_var& cases) {
+HRESULT MemoryInterface<ZFXISamAnalysisModel>::ListAnalysisCases(ZFXListValZFXBaseUnknown_var& cases) {
     const MemoryResponse response = Object().BeginRequest(MemoryRequest::ListAnalysisCases);
     if (response.filled)
         for (MemoryObject* child : Object().ExtrasOrNone().children)
@@ -98,19 +83,19 @@ HRESULT MemoryZFXISamAnalysisModel::ListAnalysisCases(ZFXListValZFXBaseUnknown_v
     return response.code;
 }
 
-HRESULT MemoryZFXISamAnalysisSet::ListMembers(ZFXListValZFXISpecObject_var& members, const IID&, int) {
+HRESULT MemoryInterface<ZFXISamAnalysisSet>::ListMembers(ZFXListValZFXISpecObject_var& members, const IID&, int) {
     const MemoryResponse response = Object().BeginRequest(MemoryRequest::ListMembers);
     if (!response.filled)
         return response.code;
     const MemoryObjects& objects = Object().ExtrasOrNone().members;
     members.Reserve(members.Size() + static_cast<int>(objects.size()));
     for (MemoryObject* member : objects)
-        members.Append(Face<ZFXISpecObject>(member));
+        members.Append(InterfaceOf<ZFXISpecObject>(member));
     return response.code;
 }
 
-HRESULT MemoryZFXISamAnalysisScan::FindObjectsOfType(const ZFXUnicodeString& lateType,
-                                                     ZFXListValZFXBaseUnknown_var& found, int) {
+HRESULT MemoryInterface<ZFXISamAnalysisScan>::FindObjectsOfType(const ZFXUnicodeString& lateType,
+                                                                ZFXListValZFXBaseUnknown_var& found, int) {
     const MemoryResponse response = Object().BeginRequest(MemoryRequest::FindObjectsOfType);
     if (!response.filled)
         return response.code;
@@ -128,14 +113,14 @@ HRESULT MemoryZFXISamAnalysisScan::FindObjectsOfType(const ZFXUnicodeString& lat
     return response.code;
 }
 
-HRESULT MemoryZFXISamAnalysisScan::ListChildren(ZFXListValZFXBaseUnknown_var& children, int) {
+HRESULT MemoryInterface<ZFXISamAnalysisScan>::ListChildren(ZFXListValZFXBaseUnknown_var& children, int) {
     const MemoryResponse response = Object().BeginRequest(MemoryRequest::ListChildren);
     if (response.filled)
         AppendAll(Object().ExtrasOrNone().children, children);
     return response.code;
 }
 
-HRESULT MemoryZFXISamAnalysisEntity::GetParentSets(ZFXListValZFXBaseUnknown_var*& sets) {
+HRESULT MemoryInterface<ZFXISamAnalysisEntity>::GetParentSets(ZFXListValZFXBaseUnknown_var*& sets) {
     const MemoryResponse response = Object().BeginRequest(MemoryRequest::GetParentSets);
     if (!response.filled)
         return response.code;
@@ -145,18 +130,18 @@ HRESULT MemoryZFXISamAnalysisEntity::GetParentSets(ZFXListValZFXBaseUnknown_var*
     return response.code;
 }
 
-int MemoryQVRIPropagatingFeature::IsPropagated() {
+int MemoryInterface<QVRIPropagatingFeature>::IsPropagated() {
     return Object().BeginRequest(MemoryRequest::IsPropagated).filled && Object().propagated ? 1 : 0;
 }
 
-HRESULT MemoryZFXISamAnalysisSupport::ListConnectors(ZFXListValZFXBaseUnknown_var& connectors) {
+HRESULT MemoryInterface<ZFXISamAnalysisSupport>::ListConnectors(ZFXListValZFXBaseUnknown_var& connectors) {
     const MemoryResponse response = Object().BeginRequest(MemoryRequest::ListConnectors);
     if (response.filled)
         AppendAll(Object().ExtrasOrNone().connectors, connectors);
     return response.code;
 }
 
-HRESULT MemoryZFXISamAnalysisConnector::GetGroup(ZFXBaseUnknown*& group) {
+HRESULT MemoryInterface<ZFXISamAnalysisConnector>::GetGroup(ZFXBaseUnknown*& group) {
     const MemoryResponse response = Object().BeginRequest(MemoryRequest::GetGroup);
     if (response.filled)
         group = WithReference(Object().ExtrasOrNone().group);
@@ -164,8 +149,8 @@ HRESULT MemoryZFXISamAnalysisConnector::GetGroup(ZFXBaseUnknown*& group) {
 }
 
 HRESULT
-MemoryQVRISamAnalysisConnectionDesign::GetMasterAndSlaveConnectors(ZFXListValZFXBaseUnknown_var& master,
-                                                                   ZFXListValZFXBaseUnknown_var& slave) {
+MemoryInterface<QVRISamAnalysisConnectionDesign>::GetMasterAndSlaveConnectors(ZFXListValZFXBaseUnknown_var& master,
+                                                                              ZFXListValZFXBaseUnknown_var& slave) {
     const MemoryResponse response = Object().BeginRequest(MemoryRequest::GetMasterAndSlaveConnectors);
     if (response.filled) {
         AppendAll(Object().ExtrasOrNone().master, master);
@@ -174,14 +159,14 @@ MemoryQVRISamAnalysisConnectionDesign::GetMasterAndSlaveConnectors(ZFXListValZFX
     return response.code;
 }
 
-HRESULT MemoryZFXISamExplicit::GetExplicitChild(ZFXAnalysisExplicitChild& child, int) {
+HRESULT MemoryInterface<ZFXISamExplicit>::GetExplicitChild(ZFXAnalysisExplicitChild& child, int) {
     const MemoryResponse response = Object().BeginRequest(MemoryRequest::GetExplicitChild);
     if (response.filled)
-        child.View(&Object().Extras().faces.explicitData);
+        child.View(&Object().Extras().explicitData);
     return response.code;
 }
 
-HRESULT MemoryZFXExplicitData::ReadTag(int& tag) {
+HRESULT MemoryInterface<ZFXExplicitData>::ReadTag(int& tag) {
     const MemoryResponse response = Object().BeginRequest(MemoryRequest::GetTag);
     if (!response.filled)
         return response.code;
@@ -192,7 +177,7 @@ HRESULT MemoryZFXExplicitData::ReadTag(int& tag) {
     return response.code;
 }
 
-ZFXUnicodeString MemoryZFXIMaterialFeature::GetMaterialFeatureName() {
+ZFXUnicodeString MemoryInterface<ZFXIMaterialFeature>::GetMaterialFeatureName() {
     return Object().BeginRequest(MemoryRequest::GetMaterialFeatureName).filled ? Object().ExtrasOrNone().materialName
                                                                                : ZFXUnicodeString();
 }
