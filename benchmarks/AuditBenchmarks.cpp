@@ -14,8 +14,8 @@ namespace {
 
 constexpr int kSteps = 50, kSetsInStep = 10, kFeaturesInSet = 200;
 
-/// A document of 100,000 features with legal and unique names, each in the scope of its set, and one amplitude that was
-/// never named.
+/// Writes a document of 100,000 features and one amplitude without a name. The names of the features are legal and
+/// unique. The features are not propagating, so the scope of each name is its set.
 void WriteDocument(const std::filesystem::path& file) {
     std::ofstream out(file);
     out << R"({"propertySet":{"features":[{"type":"QVRTabularAmplitudeLT","id":"new"}]},"cases":[{"name":"Static","steps":[)";
@@ -34,7 +34,8 @@ void WriteDocument(const std::filesystem::path& file) {
     out << "]}]}\n";
 }
 
-double ChildSeconds() {
+/// Returns the CPU time of all child processes that have ended.
+double ChildCpuSeconds() {
     rusage usage{};
     getrusage(RUSAGE_CHILDREN, &usage);
     const auto seconds = [](const timeval& time) {
@@ -43,7 +44,7 @@ double ChildSeconds() {
     return seconds(usage.ru_utime) + seconds(usage.ru_stime);
 }
 
-/// The exit code of qvrnames, run with its output thrown away; -1 when it did not run.
+/// Runs qvrnames, discards its output and returns its exit code. Returns -1 if it did not start or was killed.
 int RunProgram(std::vector<std::string> arguments) {
     arguments.insert(arguments.begin(), QVRNAMES_PROGRAM);
     std::vector<char*> pointers;
@@ -63,13 +64,13 @@ int RunProgram(std::vector<std::string> arguments) {
     return WEXITSTATUS(status);
 }
 
-/// The processor's time of the whole program.
+/// Measures the CPU time of the whole program.
 void TimeProgram(benchmark::State& state, const std::vector<std::string>& arguments) {
     for (auto _ : state) {
-        const double before = ChildSeconds();
+        const double before = ChildCpuSeconds();
         if (RunProgram(arguments) != 0)
-            state.SkipWithError("qvrnames did not end well");
-        state.SetIterationTime(ChildSeconds() - before);
+            state.SkipWithError("qvrnames failed");
+        state.SetIterationTime(ChildCpuSeconds() - before);
     }
 }
 

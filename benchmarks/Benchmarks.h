@@ -6,17 +6,17 @@
 
 class Results;
 
-/// Each registers the benchmarks of the source file of that name.
+/// Each function registers the benchmarks of the source file with its name.
 void RegisterCompareBenchmarks();
 void RegisterValidityBenchmarks();
 void RegisterHandleBenchmarks();
 void RegisterScanBenchmarks();
 void RegisterDocumentBenchmarks();
-void RegisterHandOutBenchmarks();
-void RegisterMetObjectBenchmarks();
+void RegisterIssuedNameBenchmarks();
+void RegisterGenericNameBenchmarks();
 void RegisterBatchBenchmarks();
-/// Writes its document into the folder.
+/// Also writes the document that is audited to `folder`.
 void RegisterAuditBenchmarks(const std::filesystem::path& folder);
 
-/// Counts blocks and bytes of the heap; to be called before anything else fills it.
+/// Measures heap blocks and heap bytes. Call it before the benchmarks allocate memory.
 void MeasureHeap(Results& results);

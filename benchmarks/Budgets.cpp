@@ -11,25 +11,26 @@ namespace {
 enum class Unit { Time, TimePerThousand, TimePerMillion, Blocks, Bytes };
 
 struct Budget {
-    const char* work;
-    const char* ours; ///< the name of a benchmark
-    const char* peer; ///< the name of another; null when ours is judged alone
-    const char* peerWords;
+    const char* subject;
+    const char* benchmark;
+    const char* reference; ///< another benchmark; null for AtMostValue
+    const char* referenceLabel;
     Rule rule;
     double limit;
     Unit unit = Unit::Time;
-    Unit peerUnit = Unit::Time;
+    Unit referenceUnit = Unit::Time;
 };
 
-constexpr Rule kAtMostTimes = Rule::AtMostTimes;
+constexpr Rule kAtMostRatio = Rule::AtMostRatio;
 constexpr Rule kFasterBy = Rule::FasterBy;
-constexpr Rule kAtMost = Rule::AtMost;
+constexpr Rule kAtMostValue = Rule::AtMostValue;
 
 constexpr Budget kBudgets[] = {
 #include "Budgets.def"
 };
 
-double InItsUnit(double value, Unit unit) {
+/// Converts the time of a batch to the time per name. Returns all other values unchanged.
+double PerName(double value, Unit unit) {
     if (unit == Unit::TimePerThousand)
         return value / 1e3;
     return unit == Unit::TimePerMillion ? value / 1e6 : value;
@@ -54,40 +55,43 @@ std::string WithUnit(double value, Unit unit) {
     return Formatted("%.3g ms", value / 1e6);
 }
 
-std::string BudgetWords(const Budget& budget) {
-    if (budget.rule == Rule::AtMost)
+std::string LimitText(const Budget& budget) {
+    if (budget.rule == Rule::AtMostValue)
         return "at most " + WithUnit(budget.limit, budget.unit);
     return Formatted(budget.rule == Rule::FasterBy ? "%g times faster" : "at most %g", budget.limit);
 }
 
-Judgement NotMeasured(const Budget& budget, const std::string& reason) {
-    return {budget.work, "not measured", reason, "", BudgetWords(budget), false};
+BudgetResult NotMeasured(const Budget& budget, const std::string& error) {
+    return {budget.subject, "not measured", error, "", LimitText(budget), false};
 }
 
-Judgement Judge(const Budget& budget, const Results& results) {
-    for (const char* name : {budget.ours, budget.peer})
+BudgetResult Check(const Budget& budget, const Results& results) {
+    for (const char* name : {budget.benchmark, budget.reference})
         if (name != nullptr && !results.Value(name))
-            return NotMeasured(budget, results.Reason(name));
-    const double ours = InItsUnit(*results.Value(budget.ours), budget.unit);
-    if (budget.rule == Rule::AtMost)
-        return {budget.work, WithUnit(ours, budget.unit), "", "", BudgetWords(budget), ours <= budget.limit};
-    const double peer = InItsUnit(*results.Value(budget.peer), budget.peerUnit);
-    const std::string against = std::string(budget.peerWords) + ": " + WithUnit(peer, budget.peerUnit);
+            return NotMeasured(budget, results.Error(name));
+    const double value = PerName(*results.Value(budget.benchmark), budget.unit);
+    const std::string measured = WithUnit(value, budget.unit);
+    if (budget.rule == Rule::AtMostValue)
+        return {budget.subject, measured, "", "", LimitText(budget), value <= budget.limit};
+    const double referenceValue = PerName(*results.Value(budget.reference), budget.referenceUnit);
+    const std::string reference =
+        std::string(budget.referenceLabel) + ": " + WithUnit(referenceValue, budget.referenceUnit);
     const bool isFaster = budget.rule == Rule::FasterBy;
-    const double ratio = isFaster ? peer / ours : ours / peer;
-    const bool isHeld = isFaster ? ratio >= budget.limit : ratio <= budget.limit;
-    return {budget.work, WithUnit(ours, budget.unit), against, Formatted("%.2f", ratio), BudgetWords(budget), isHeld};
+    const double ratio = isFaster ? referenceValue / value : value / referenceValue;
+    const bool isWithinBudget = isFaster ? ratio >= budget.limit : ratio <= budget.limit;
+    return {budget.subject, measured, reference, Formatted("%.2f", ratio), LimitText(budget), isWithinBudget};
 }
 
 } // namespace
 
-std::vector<Judgement> JudgeBudgets(const Results& results) {
-    std::vector<Judgement> judgements;
+std::vector<BudgetResult> CheckBudgets(const Results& results) {
+    std::vector<BudgetResult> budgetResults;
     for (const Budget& budget : kBudgets)
-        judgements.push_back(Judge(budget, results));
-    return judgements;
+        budgetResults.push_back(Check(budget, results));
+    return budgetResults;
 }
 
-bool AreAllHeld(const std::vector<Judgement>& judgements) {
-    return std::all_of(judgements.begin(), judgements.end(), [](const Judgement& row) { return row.isHeld; });
+bool AreAllWithinBudget(const std::vector<BudgetResult>& budgetResults) {
+    return std::all_of(budgetResults.begin(), budgetResults.end(),
+                       [](const BudgetResult& row) { return row.isWithinBudget; });
 }

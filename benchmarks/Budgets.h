@@ -6,22 +6,23 @@
 
 class Results;
 
-/// What a budget says of the measured value.
+/// How a measurement is compared with its limit.
 enum class Rule {
-    AtMostTimes, ///< ours is at most so many times the other
-    FasterBy,    ///< the other is at least so many times ours
-    AtMost,      ///< ours alone, in its own unit
+    AtMostRatio, ///< measurement / reference <= limit
+    FasterBy,    ///< reference / measurement >= limit
+    AtMostValue, ///< measurement <= limit; there is no reference
 };
 
-/// One row of the table, after a run.
-struct Judgement {
-    std::string work;
-    std::string ours;    ///< a time or an amount with its unit
-    std::string against; ///< what it is held against, with its time
+/// One row of the printed table.
+struct BudgetResult {
+    std::string subject;
+    std::string measured;  ///< a value with its unit, or "not measured"
+    std::string reference; ///< name and value of the reference, or the error of a failed benchmark
     std::string ratio;
     std::string budget;
-    bool isHeld;
+    bool isWithinBudget; ///< false also if a value is missing
 };
 
-std::vector<Judgement> JudgeBudgets(const Results& results);
-bool AreAllHeld(const std::vector<Judgement>& judgements);
+/// Compares the measurements with all budgets, in the order of Budgets.def.
+std::vector<BudgetResult> CheckBudgets(const Results& results);
+bool AreAllWithinBudget(const std::vector<BudgetResult>& budgetResults);

@@ -22,7 +22,7 @@ constexpr Series kSeries[] = {
     {"Floor/prefix", "#bcbd22"},
 };
 
-// Decades of the axes, in features and in nanoseconds, and the room of one on the page.
+// First and last decade of the axes (features, nanoseconds), and the size of a decade in pixels.
 constexpr double kFirstSize = 3, kLastSize = 5, kFirstTime = 3, kLastTime = 8, kDecadeX = 220, kDecadeY = 70;
 constexpr double kLeft = 80, kTop = 20, kRight = kLeft + (kLastSize - kFirstSize) * kDecadeX,
                  kBottom = kTop + (kLastTime - kFirstTime) * kDecadeY;
@@ -34,23 +34,23 @@ void Line(std::ostream& out, double x1, double y1, double x2, double y2) {
     out << "<line x1='" << x1 << "' y1='" << y1 << "' x2='" << x2 << "' y2='" << y2 << "' stroke='#ddd'/>\n";
 }
 
-void Text(std::ostream& out, double x, double y, const std::string& words, const char* colour = "#333") {
-    out << "<text x='" << x << "' y='" << y << "' fill='" << colour << "'>" << words << "</text>\n";
+void Text(std::ostream& out, double x, double y, const std::string& text, const char* colour = "#333") {
+    out << "<text x='" << x << "' y='" << y << "' fill='" << colour << "'>" << text << "</text>\n";
 }
 
 void DrawGrid(std::ostream& out) {
     constexpr const char* kTimes[] = {"1 us", "10 us", "100 us", "1 ms", "10 ms", "100 ms"};
     constexpr const char* kSizes[] = {"1,000", "10,000", "100,000"};
     double y = kBottom;
-    for (const char* words : kTimes) {
+    for (const char* label : kTimes) {
         Line(out, kLeft, y, kRight, y);
-        Text(out, 15, y + 4, words);
+        Text(out, 15, y + 4, label);
         y -= kDecadeY;
     }
     double x = kLeft;
-    for (const char* words : kSizes) {
+    for (const char* label : kSizes) {
         Line(out, x, kTop, x, kBottom);
-        Text(out, x - 20, kBottom + 20, words);
+        Text(out, x - 20, kBottom + 20, label);
         x += kDecadeX;
     }
     Text(out, kLeft + kDecadeX - 50, kBottom + 40, "features in the scope");
@@ -59,7 +59,7 @@ void DrawGrid(std::ostream& out) {
 void DrawSeries(std::ostream& out, const Series& series, const Results& results) {
     out << "<polyline fill='none' stroke-width='2' stroke='" << series.colour << "' points='";
     for (const int size : Scopes::kSizes)
-        if (const auto time = results.Value(Sized(series.benchmark, size)))
+        if (const auto time = results.Value(BenchmarkName(series.benchmark, size)))
             out << X(size) << ',' << Y(*time) << ' ';
     out << "'/>\n";
 }

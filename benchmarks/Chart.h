@@ -4,5 +4,5 @@
 
 class Results;
 
-/// The cost of the scans against the size of their scope, both axes logarithmic, as an SVG.
+/// Writes an SVG chart of the time of each scan over the size of its scope. Both axes are logarithmic.
 void WriteChart(const std::filesystem::path& file, const Results& results);

@@ -20,7 +20,7 @@ Pair DifferingInCase(const char* text) {
     return pair;
 }
 
-/// 72 units, the longest name that is legal.
+/// 72 units, the maximum length of a name.
 constexpr const char* kLongName = "Pressure on the upper flange of the pump bracket while it is tightened-7";
 constexpr const char* kShortName = "Pressure-pin";
 
@@ -48,7 +48,7 @@ void CompareBytes(benchmark::State& state, const Pair& pair) {
     std::size_t bytes = pair.left.Units().size() * sizeof(char16_t);
     for (auto _ : state) {
         benchmark::DoNotOptimize(left);
-        benchmark::DoNotOptimize(bytes); // else the call is no call
+        benchmark::DoNotOptimize(bytes); // with a known length the compiler would replace the call
         benchmark::DoNotOptimize(std::memcmp(left, right, bytes));
     }
 }
@@ -57,7 +57,7 @@ void CallVirtually(benchmark::State& state) {
     const VirtualCall* object = &VirtualCall::Instance();
     for (auto _ : state) {
         benchmark::DoNotOptimize(object);
-        benchmark::DoNotOptimize(object->Answer(&state, object));
+        benchmark::DoNotOptimize(object->Call(&state, object));
     }
 }
 

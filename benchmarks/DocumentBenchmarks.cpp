@@ -9,14 +9,14 @@ namespace {
 
 constexpr int kSteps = 50;
 
-/// One feature and what holds the scope of its name.
-struct Place {
+/// A feature, and the case that contains it. The case is empty if the scope is a set.
+struct FeatureInScope {
     ZFXISpecObject_var feature;
     ZFXISamAnalysisCase_var analysisCase;
 };
 
-/// A case of 50 steps whose load sets hold n features in all.
-Place MakePropagating(int n) {
+/// Returns a feature in a case of 50 steps. The load sets of the steps contain n other features in total.
+FeatureInScope MakePropagating(int n) {
     MemoryFeature analysisCase = Scopes::NewDocument().Case("Static");
     MemoryFeature first;
     for (int s = 1; s <= kSteps; ++s) {
@@ -30,36 +30,39 @@ Place MakePropagating(int n) {
     return {first, analysisCase};
 }
 
-/// A set of n features whose alias is guarded, and one more.
-Place MakeGuarded(int n) {
+/// Returns a feature in a set of n other features. The aliases of all are guarded by the extension.
+FeatureInScope MakeGuarded(int n) {
     MemoryFeature set = Scopes::NewDocument().Model().Set("BenchmarkSet");
-    const char* lateType = Scopes::LateTypeOf(Scopes::AliasFrom::Extension);
+    const char* lateType = Scopes::LateTypeOf(Scopes::AliasSource::Extension);
     Scopes::Fill(set, lateType, "Pressure-", n);
     return {set.Feature(lateType, "Newcomer"), {}};
 }
 
-const Place& Kept(Place (*make)(int), int n) {
-    static std::map<std::pair<Place (*)(int), int>, Place>& places = // never destroyed, as the model is not
-        *new std::map<std::pair<Place (*)(int), int>, Place>;
+using Maker = FeatureInScope (*)(int n);
+
+/// Returns make(n), from a cache after the first call.
+const FeatureInScope& Cached(Maker make, int n) {
+    // Never destroyed, because the model is never destroyed.
+    static auto& cache = *new std::map<std::pair<Maker, int>, FeatureInScope>;
     const auto key = std::pair(make, n);
-    const auto found = places.find(key);
-    return found != places.end() ? found->second : places.emplace(key, make(n)).first->second;
+    const auto found = cache.find(key);
+    return found != cache.end() ? found->second : cache.emplace(key, make(n)).first->second;
 }
 
 void ProposeInSteps(benchmark::State& state, int n) {
-    Place place = Kept(MakePropagating, n);
+    FeatureInScope scoped = Cached(MakePropagating, n);
     const ZFXUnicodeString expected = Scopes::NumberedName("Pressure-", n + 1);
     for (auto _ : state) {
         ZFXUnicodeString name("Pressure-");
-        QVRNameUtil::GetUniqueName(name, place.feature, place.analysisCase);
+        QVRNameUtil::GetUniqueName(name, scoped.feature, scoped.analysisCase);
         if (name.Compare(expected) != 2)
             state.SkipWithError("the proposal is wrong");
     }
 }
 
 void SetAlias(benchmark::State& state, int n) {
-    const Place& place = Kept(MakeGuarded, n);
-    const ZFXIAlias_var alias(place.feature);
+    const FeatureInScope& scoped = Cached(MakeGuarded, n);
+    const ZFXIAlias_var alias(scoped.feature);
     const ZFXUnicodeString name = Scopes::NumberedName("Pressure-", n + 1);
     for (auto _ : state)
         alias->SetAlias(name);
@@ -68,15 +71,15 @@ void SetAlias(benchmark::State& state, int n) {
 }
 
 void CheckName(benchmark::State& state, int n) {
-    Place place = Kept(MakeGuarded, n);
+    FeatureInScope scoped = Cached(MakeGuarded, n);
     const ZFXUnicodeString name = Scopes::NumberedName("Pressure-", n + 1);
     for (auto _ : state)
-        if (Failed(QVRNameUtil::CheckName(place.feature, name, 1)))
-            state.SkipWithError("the name was refused");
+        if (Failed(QVRNameUtil::CheckName(scoped.feature, name, 1)))
+            state.SkipWithError("the name was rejected");
 }
 
 void RegisterSized(const char* name, void (*function)(benchmark::State&, int), int n) {
-    benchmark::RegisterBenchmark(Sized(name, n).c_str(), [=](benchmark::State& state) { function(state, n); });
+    benchmark::RegisterBenchmark(BenchmarkName(name, n).c_str(), [=](benchmark::State& state) { function(state, n); });
 }
 
 } // namespace

@@ -4,8 +4,8 @@
 
 namespace {
 
-/// A feature with the platform's own alias; the model keeps it.
-ZFXISpecObject* Feature() { return Scopes::Newcomer(Scopes::AliasFrom::Platform).Get(); }
+/// Returns a feature whose alias belongs to the platform. The model owns it.
+ZFXISpecObject* Feature() { return Scopes::UnlistedFeature(Scopes::AliasSource::Platform).Get(); }
 
 void Cast(benchmark::State& state) {
     ZFXISpecObject* feature = Feature();

@@ -21,7 +21,7 @@ long bytes = 0;
 
 long SizeOf(void* memory) { return static_cast<long>(malloc_usable_size(memory) + sizeof(std::size_t)); }
 
-void* Taken(void* memory) {
+void* CountAllocated(void* memory) {
     if (isCounting && memory != nullptr) {
         ++blocks;
         bytes += SizeOf(memory);
@@ -29,7 +29,7 @@ void* Taken(void* memory) {
     return memory;
 }
 
-void GivenBack(void* memory) {
+void CountFreed(void* memory) {
     if (isCounting && memory != nullptr)
         bytes -= SizeOf(memory);
 }
@@ -37,14 +37,16 @@ void GivenBack(void* memory) {
 } // namespace
 
 extern "C" {
-EXPORTED void* malloc(std::size_t size) noexcept { return Taken(__libc_malloc(size)); }
-EXPORTED void* calloc(std::size_t count, std::size_t size) noexcept { return Taken(__libc_calloc(count, size)); }
+EXPORTED void* malloc(std::size_t size) noexcept { return CountAllocated(__libc_malloc(size)); }
+EXPORTED void* calloc(std::size_t count, std::size_t size) noexcept {
+    return CountAllocated(__libc_calloc(count, size));
+}
 EXPORTED void* realloc(void* memory, std::size_t size) noexcept {
-    GivenBack(memory);
-    return Taken(__libc_realloc(memory, size));
+    CountFreed(memory);
+    return CountAllocated(__libc_realloc(memory, size));
 }
 EXPORTED void* memalign(std::size_t alignment, std::size_t size) noexcept {
-    return Taken(__libc_memalign(alignment, size));
+    return CountAllocated(__libc_memalign(alignment, size));
 }
 EXPORTED void* aligned_alloc(std::size_t alignment, std::size_t size) noexcept { return memalign(alignment, size); }
 EXPORTED int posix_memalign(void** memory, std::size_t alignment, std::size_t size) noexcept {
@@ -52,7 +54,7 @@ EXPORTED int posix_memalign(void** memory, std::size_t alignment, std::size_t si
     return *memory == nullptr ? ENOMEM : 0;
 }
 EXPORTED void free(void* memory) noexcept {
-    GivenBack(memory);
+    CountFreed(memory);
     __libc_free(memory);
 }
 }

@@ -2,8 +2,11 @@
 
 #include <cstddef>
 
-/// Counts what this program and its libraries take from the heap for as long as it lives; one at a time, on a program
-/// of one thread. It stands in for malloc and its kin, which the allocator of the object model stands on too.
+/// Counts the heap allocations of this program and its libraries during its lifetime. Only one counter may exist at a
+/// time, and the program must have one thread.
+///
+/// The source file replaces malloc, free and the related functions of the C library. The allocator of the object model
+/// calls them too.
 class HeapCounter {
 public:
     HeapCounter() noexcept;
@@ -11,8 +14,8 @@ public:
     HeapCounter(const HeapCounter&) = delete;
     HeapCounter& operator=(const HeapCounter&) = delete;
 
-    /// Blocks taken since it began, those given back included.
+    /// Returns the number of blocks allocated since the constructor, including those freed again.
     static long Blocks() noexcept;
-    /// Usable bytes, with the word in front of each block, taken since it began and not given back.
+    /// Returns the bytes allocated since the constructor and not freed: the usable size of each block and its header.
     static long Bytes() noexcept;
 };

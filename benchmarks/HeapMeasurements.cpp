@@ -6,15 +6,15 @@
 
 namespace {
 
-using Scopes::AliasFrom;
+using Scopes::AliasSource;
 
 constexpr int kNames = 1000;
-/// 27 units, and four digits behind it.
+/// 27 units; a number of four digits follows.
 constexpr const char* kBase = "Pressure on the upper rim n";
 constexpr int kFirstNumber = 1000;
 
-/// A scope of twice kNames names of 31 units.
-ZFXListValZFXBaseUnknown_var Scope(MemoryFeature set, AliasFrom from) {
+/// Fills the set with 2 * kNames features, whose names have 31 units, and returns them.
+ZFXListValZFXBaseUnknown_var Scope(MemoryFeature set, AliasSource from) {
     ZFXListValZFXBaseUnknown_var scope;
     for (int i = 0; i < 2 * kNames; ++i)
         scope.Append(ZFXBaseUnknown_var(
@@ -36,8 +36,9 @@ ZFXListValZFXBaseUnknown_var First(const ZFXListValZFXBaseUnknown_var& scope, in
     return first;
 }
 
-/// Blocks that each further name costs: those of a scope, less those of its first half. A scope of one name comes
-/// first: what a process or a thread takes once is no part of it.
+/// Returns the number of heap blocks for each additional name: the difference between a scope and its first half,
+/// divided by the names of a half. Runs the operation once before, on one name, so that blocks that a process or a
+/// thread allocates once are not counted.
 template <class Operation>
 double BlocksPerName(const ZFXListValZFXBaseUnknown_var& scope, Operation operation) {
     const ZFXListValZFXBaseUnknown_var half = First(scope, kNames);
@@ -47,16 +48,16 @@ double BlocksPerName(const ZFXListValZFXBaseUnknown_var& scope, Operation operat
     return static_cast<double>(ofAll - ofHalf) / kNames;
 }
 
-void MeasureBlocks(Results& results, MemoryModel& model, AliasFrom from) {
+void MeasureBlocks(Results& results, MemoryModel& model, AliasSource from) {
     MemoryFeature root = model.NewDocument().Model();
     const ZFXListValZFXBaseUnknown_var scope = Scope(root.Set("BenchmarkSet"), from);
     const ZFXISpecObject_var feature = root.Set("BenchmarkSet").Feature(Scopes::LateTypeOf(from), "Newcomer");
-    const std::string word = Scopes::WordOf(from);
+    const std::string label = Scopes::LabelOf(from);
     const ZFXUnicodeString name = Scopes::NumberedName(kBase, kFirstNumber + 2 * kNames);
-    results.Put("Blocks/IsNameUniqueInSet/" + word, BlocksPerName(scope, [&](const auto& names) {
+    results.Put("Blocks/IsNameUniqueInSet/" + label, BlocksPerName(scope, [&](const auto& names) {
                     static_cast<void>(QVRNameUtil::IsNameUniqueInSet(feature, names, name));
                 }));
-    results.Put("Blocks/GetNextUniqueName/" + word, BlocksPerName(scope, [](const auto& names) {
+    results.Put("Blocks/GetNextUniqueName/" + label, BlocksPerName(scope, [](const auto& names) {
                     ZFXUnicodeString proposal(kBase);
                     static_cast<void>(QVRNameUtil::GetNextUniqueName(proposal, names));
                 }));
@@ -73,8 +74,8 @@ void MeasureMemory(Results& results, MemoryModel& model) {
 } // namespace
 
 void MeasureHeap(Results& results) {
-    MemoryModel model; // gone before that of the scopes is made
-    for (const AliasFrom from : {AliasFrom::Platform, AliasFrom::Extension})
+    MemoryModel model; // destroyed before Scopes::Model() makes its model: only one may exist
+    for (const AliasSource from : {AliasSource::Platform, AliasSource::Extension})
         MeasureBlocks(results, model, from);
     MeasureMemory(results, model);
 }

@@ -6,23 +6,23 @@
 #include <optional>
 #include <string>
 
-/// What one run measured, by the names of the benchmarks: medians of the repetitions in nanoseconds for one
-/// iteration, and what was counted, in its own unit.
+/// The measurements of one run by benchmark name: medians over the repetitions, in nanoseconds per iteration, and
+/// counts of blocks or bytes.
 class Results {
 public:
     void Put(const std::string& name, double value) { m_values[name] = value; }
-    void PutReason(const std::string& name, const std::string& reason) { m_reasons[name] = reason; }
+    void PutError(const std::string& name, const std::string& error) { m_errors[name] = error; }
 
     std::optional<double> Value(const std::string& name) const;
-    /// Why there is no value; empty when that is not known.
-    std::string Reason(const std::string& name) const;
+    /// Returns the error of the benchmark, or an empty string if it reported none.
+    std::string Error(const std::string& name) const;
 
 private:
     std::map<std::string, double> m_values;
-    std::map<std::string, std::string> m_reasons;
+    std::map<std::string, std::string> m_errors;
 };
 
-/// Collects the medians while the benchmarks run, and prints none of them.
+/// Collects the medians while the benchmarks run. Prints nothing.
 class ResultCollector : public benchmark::BenchmarkReporter {
 public:
     explicit ResultCollector(Results& results) : m_results(results) {}
@@ -33,5 +33,5 @@ private:
     Results& m_results;
 };
 
-/// "IsNameUniqueInSet/platform" and 1000 give "IsNameUniqueInSet/platform/1000".
-inline std::string Sized(const std::string& name, int size) { return name + "/" + std::to_string(size); }
+/// Returns a benchmark name such as "IsNameUniqueInSet/platform/1000".
+inline std::string BenchmarkName(const std::string& name, int size) { return name + "/" + std::to_string(size); }

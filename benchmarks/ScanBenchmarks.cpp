@@ -1,5 +1,5 @@
 #include "Benchmarks.h"
-#include "NamedThing.h"
+#include "NamedObject.h"
 #include "QVRNameUtil.h"
 #include "Results.h"
 #include "Scopes.h"
@@ -11,44 +11,45 @@
 
 namespace {
 
-using Scopes::AliasFrom;
+using Scopes::AliasSource;
 
 constexpr const char* kBase = "Pressure-";
 
-/// Free, and as long as nine in ten names of the scope: a name of another length is told apart by its length alone.
-ZFXUnicodeString FreeName(int n) {
+/// Returns an unused name that is as long as nine in ten names of the scope. A shorter or longer name would be cheaper
+/// to compare.
+ZFXUnicodeString UnusedName(int n) {
     const std::size_t digits = std::to_string(n - 1).size();
     return ZFXUnicodeString(kBase) + ZFXUnicodeString('0', digits);
 }
 
-/// As large as a feature of the model: a scope that does not fit the caches costs the floor the same way.
-class OneNamed final : public NamedThing {
+/// As large as a feature of the model, so that a large scope causes as many cache misses in the reference loops.
+class FeatureSizedObject final : public NamedObject {
 public:
-    explicit OneNamed(ZFXUnicodeString name) : m_name(std::move(name)) {}
+    explicit FeatureSizedObject(ZFXUnicodeString name) : m_name(std::move(name)) {}
     const ZFXUnicodeString& Name() const noexcept override { return m_name; }
 
 private:
     ZFXUnicodeString m_name;
-    std::array<std::byte, 336> m_rest{};
+    std::array<std::byte, 336> m_padding{};
 };
 
-NamedThings Things(int n) {
-    NamedThings things;
+NamedObjects MakeObjects(int n) {
+    NamedObjects objects;
     for (int i = 1; i <= n; ++i)
-        things.push_back(std::make_unique<OneNamed>(Scopes::NumberedName(kBase, i)));
-    return things;
+        objects.push_back(std::make_unique<FeatureSizedObject>(Scopes::NumberedName(kBase, i)));
+    return objects;
 }
 
-void CheckUnique(benchmark::State& state, AliasFrom from, int n) {
+void CheckUnique(benchmark::State& state, AliasSource from, int n) {
     const ZFXListValZFXBaseUnknown_var scope = Scopes::FirstFeatures(from, n);
-    const ZFXISpecObject_var feature = Scopes::Newcomer(from);
-    const ZFXUnicodeString name = FreeName(n);
+    const ZFXISpecObject_var feature = Scopes::UnlistedFeature(from);
+    const ZFXUnicodeString name = UnusedName(n);
     for (auto _ : state)
         if (Failed(QVRNameUtil::IsNameUniqueInSet(feature, scope, name)))
             state.SkipWithError("the name clashes");
 }
 
-void Propose(benchmark::State& state, AliasFrom from, int n) {
+void Propose(benchmark::State& state, AliasSource from, int n) {
     const ZFXListValZFXBaseUnknown_var scope = Scopes::FirstFeatures(from, n);
     const ZFXUnicodeString expected = Scopes::NumberedName(kBase, n + 1);
     ZFXUnicodeString name;
@@ -60,26 +61,28 @@ void Propose(benchmark::State& state, AliasFrom from, int n) {
     }
 }
 
+/// The reference for IsNameUniqueInSet: one virtual call and one Compare per object.
 void CompareFloor(benchmark::State& state, int n) {
-    const NamedThings things = Things(n);
-    const ZFXUnicodeString name = FreeName(n);
+    const NamedObjects objects = MakeObjects(n);
+    const ZFXUnicodeString name = UnusedName(n);
     for (auto _ : state) {
         int clashes = 0;
-        for (const auto& thing : things)
-            clashes += thing->Name().Compare(name) != 0 ? 1 : 0;
+        for (const auto& object : objects)
+            clashes += object->Name().Compare(name) != 0 ? 1 : 0;
         benchmark::DoNotOptimize(clashes);
     }
 }
 
+/// The reference for GetNextUniqueName: one virtual call and one test of the prefix per object.
 void PrefixFloor(benchmark::State& state, int n) {
-    const NamedThings things = Things(n);
+    const NamedObjects objects = MakeObjects(n);
     const ZFXUnicodeString text(kBase);
     std::u16string_view base = text.Units();
     for (auto _ : state) {
         benchmark::DoNotOptimize(base);
         int found = 0;
-        for (const auto& thing : things) {
-            const std::u16string_view name = thing->Name().Units();
+        for (const auto& object : objects) {
+            const std::u16string_view name = object->Name().Units();
             found += name.size() >= base.size() && std::memcmp(name.data(), base.data(), base.size() * 2) == 0 ? 1 : 0;
         }
         benchmark::DoNotOptimize(found);
@@ -90,16 +93,16 @@ void PrefixFloor(benchmark::State& state, int n) {
 
 void RegisterScanBenchmarks() {
     for (const int n : Scopes::kSizes) {
-        for (const AliasFrom from : {AliasFrom::Platform, AliasFrom::Extension}) {
-            const std::string word = Scopes::WordOf(from);
-            benchmark::RegisterBenchmark(Sized("IsNameUniqueInSet/" + word, n).c_str(),
+        for (const AliasSource from : {AliasSource::Platform, AliasSource::Extension}) {
+            const std::string label = Scopes::LabelOf(from);
+            benchmark::RegisterBenchmark(BenchmarkName("IsNameUniqueInSet/" + label, n).c_str(),
                                          [=](benchmark::State& state) { CheckUnique(state, from, n); });
-            benchmark::RegisterBenchmark(Sized("GetNextUniqueName/" + word, n).c_str(),
+            benchmark::RegisterBenchmark(BenchmarkName("GetNextUniqueName/" + label, n).c_str(),
                                          [=](benchmark::State& state) { Propose(state, from, n); });
         }
-        benchmark::RegisterBenchmark(Sized("Floor/compare", n).c_str(),
+        benchmark::RegisterBenchmark(BenchmarkName("Floor/compare", n).c_str(),
                                      [=](benchmark::State& state) { CompareFloor(state, n); });
-        benchmark::RegisterBenchmark(Sized("Floor/prefix", n).c_str(),
+        benchmark::RegisterBenchmark(BenchmarkName("Floor/prefix", n).c_str(),
                                      [=](benchmark::State& state) { PrefixFloor(state, n); });
     }
 }

@@ -6,38 +6,39 @@ namespace Scopes {
 
 namespace {
 
-struct Stock {
-    explicit Stock(AliasFrom from) {
+/// A set of kLargest features, and one feature in another set.
+struct FeaturePool {
+    explicit FeaturePool(AliasSource from) {
         MemoryFeature model = NewDocument().Model();
         MemoryFeature set = model.Set("BenchmarkSet");
         for (int i = 1; i <= kLargest; ++i)
             features.Append(ZFXBaseUnknown_var(set.Feature(LateTypeOf(from), NumberedName("Pressure-", i)).Object()));
-        newcomer = model.Set("BenchmarkSet").Feature(LateTypeOf(from), "Newcomer");
+        unlisted = model.Set("BenchmarkSet").Feature(LateTypeOf(from), "Newcomer");
     }
 
     ZFXListValZFXBaseUnknown_var features;
-    MemoryFeature newcomer;
+    MemoryFeature unlisted;
 };
 
-const Stock& StockOf(AliasFrom from) {
-    // Never destroyed, as the model is not.
-    static std::array<const Stock*, 2> stocks{};
-    const Stock*& stock = stocks[from == AliasFrom::Platform ? 0 : 1];
-    if (stock == nullptr)
-        stock = new Stock(from);
-    return *stock;
+const FeaturePool& PoolOf(AliasSource from) {
+    // Never destroyed, because the model is never destroyed.
+    static std::array<const FeaturePool*, 2> pools{};
+    const FeaturePool*& pool = pools[from == AliasSource::Platform ? 0 : 1];
+    if (pool == nullptr)
+        pool = new FeaturePool(from);
+    return *pool;
 }
 
 } // namespace
 
-const char* LateTypeOf(AliasFrom from) {
-    return from == AliasFrom::Platform ? "QVRPressure" : "QVRInteractionPropertyLT";
+const char* LateTypeOf(AliasSource from) {
+    return from == AliasSource::Platform ? "QVRPressure" : "QVRInteractionPropertyLT";
 }
 
-const char* WordOf(AliasFrom from) { return from == AliasFrom::Platform ? "platform" : "extension"; }
+const char* LabelOf(AliasSource from) { return from == AliasSource::Platform ? "platform" : "extension"; }
 
 MemoryModel& Model() {
-    // Never destroyed: the singleton of the naming module may hold features until the process ends.
+    // Never destroyed: the singleton of the library may keep references to features until the process ends.
     static MemoryModel* const model = new MemoryModel;
     return *model;
 }
@@ -55,8 +56,8 @@ void Fill(MemoryFeature set, const char* lateType, const ZFXUnicodeString& base,
         set.Feature(lateType, NumberedName(base, i));
 }
 
-ZFXListValZFXBaseUnknown_var FirstFeatures(AliasFrom from, int n) {
-    const ZFXListValZFXBaseUnknown_var& all = StockOf(from).features;
+ZFXListValZFXBaseUnknown_var FirstFeatures(AliasSource from, int n) {
+    const ZFXListValZFXBaseUnknown_var& all = PoolOf(from).features;
     ZFXListValZFXBaseUnknown_var first;
     first.Reserve(n);
     for (int i = 1; i <= n; ++i)
@@ -64,6 +65,6 @@ ZFXListValZFXBaseUnknown_var FirstFeatures(AliasFrom from, int n) {
     return first;
 }
 
-ZFXISpecObject_var Newcomer(AliasFrom from) { return StockOf(from).newcomer; }
+ZFXISpecObject_var UnlistedFeature(AliasSource from) { return PoolOf(from).unlisted; }
 
 } // namespace Scopes

@@ -2,31 +2,30 @@
 
 #include "memory-model/MemoryModel.h"
 
-/// The documents that the benchmarks read: made when first asked for, kept for the whole run.
+/// Documents that several benchmarks share. Each is built at its first use and kept until the process ends.
 namespace Scopes {
 
-/// Whose alias a feature has: the document's own, or that of the naming module's extension.
-enum class AliasFrom { Platform, Extension };
+/// What implements the alias of a feature: the platform, or the extension of the library.
+enum class AliasSource { Platform, Extension };
 
 inline constexpr int kLargest = 100000;
-/// The sizes that scans are measured at.
+/// The numbers of features with which scans are measured.
 inline constexpr int kSizes[] = {1000, 2000, 10000, 50000, kLargest};
 
-const char* LateTypeOf(AliasFrom from);
-const char* WordOf(AliasFrom from);
+const char* LateTypeOf(AliasSource from);
+const char* LabelOf(AliasSource from);
 
-/// The one model.
 MemoryModel& Model();
-/// An empty document of its own.
+/// Returns a new, empty document of the model.
 MemoryDocument NewDocument();
-/// Appends features named base1, base2 and so on to a set.
+/// Appends `count` features to a set: the base followed by 1, 2 and so on.
 void Fill(MemoryFeature set, const char* lateType, const ZFXUnicodeString& base, int count);
-/// "Pressure-" and the number.
+/// Returns the base followed by the number in decimal digits.
 ZFXUnicodeString NumberedName(const ZFXUnicodeString& base, int number);
 
-/// The first n features, in the order in which they were made, called "Pressure-1" and so on.
-ZFXListValZFXBaseUnknown_var FirstFeatures(AliasFrom from, int n);
-/// A feature that none of the lists holds.
-ZFXISpecObject_var Newcomer(AliasFrom from);
+/// Returns n features with the names "Pressure-1" and so on, in this order.
+ZFXListValZFXBaseUnknown_var FirstFeatures(AliasSource from, int n);
+/// Returns a feature that FirstFeatures never returns.
+ZFXISpecObject_var UnlistedFeature(AliasSource from);
 
 } // namespace Scopes

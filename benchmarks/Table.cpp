@@ -9,15 +9,15 @@ namespace {
 
 using Cells = std::array<std::string, 6>;
 
-Cells CellsOf(const Judgement& row) {
-    return {row.work, row.ours, row.against, row.ratio, row.budget, row.isHeld ? "held" : "BROKEN"};
+Cells CellsOf(const BudgetResult& row) {
+    return {row.subject, row.measured, row.reference, row.ratio, row.budget, row.isWithinBudget ? "ok" : "FAILED"};
 }
 
 } // namespace
 
-void PrintTable(std::ostream& out, const std::vector<Judgement>& judgements) {
-    std::vector<Cells> rows{{"work", "ours", "against", "ratio", "budget", ""}};
-    for (const Judgement& row : judgements)
+void PrintTable(std::ostream& out, const std::vector<BudgetResult>& budgetResults) {
+    std::vector<Cells> rows{{"subject", "measured", "compared with", "ratio", "budget", "result"}};
+    for (const BudgetResult& row : budgetResults)
         rows.push_back(CellsOf(row));
     std::array<std::size_t, 6> widths{};
     for (const Cells& cells : rows)
@@ -33,6 +33,7 @@ void PrintTable(std::ostream& out, const std::vector<Judgement>& judgements) {
             out << "|\n";
         }
     }
-    const auto held = std::count_if(judgements.begin(), judgements.end(), [](const auto& row) { return row.isHeld; });
-    out << '\n' << held << " of " << judgements.size() << " budgets held\n";
+    const auto within =
+        std::count_if(budgetResults.begin(), budgetResults.end(), [](const auto& row) { return row.isWithinBudget; });
+    out << '\n' << within << " of " << budgetResults.size() << " results are within their budget\n";
 }

@@ -4,5 +4,5 @@
 
 #include <iosfwd>
 
-/// One row a budget, and a line that sums them up.
-void PrintTable(std::ostream& out, const std::vector<Judgement>& judgements);
+/// Prints one row for each budget, and a line with the number of results within their budget.
+void PrintTable(std::ostream& out, const std::vector<BudgetResult>& budgetResults);

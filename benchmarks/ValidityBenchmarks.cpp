@@ -6,7 +6,7 @@
 
 namespace {
 
-/// Names of 8, 16 and so on to 72 units, all legal.
+/// Returns legal names of 8, 16, ..., 72 units.
 std::vector<ZFXUnicodeString> LegalNames() {
     const ZFXUnicodeString longest("Pressure on the upper flange of the pump bracket while it is tightened-7");
     std::vector<ZFXUnicodeString> names;
@@ -22,7 +22,7 @@ std::array<bool, 256> IllegalUnits() {
     return isIllegal;
 }
 
-/// The least that a judge of each unit can do. Not inlined: what it is held against is a call too.
+/// The reference: one table look-up per unit. Not inlined, because IsNameValid is a call too.
 __attribute__((noinline)) bool HasIllegalUnit(std::u16string_view units, const std::array<bool, 256>& isIllegal) {
     for (const char16_t unit : units)
         if (unit < isIllegal.size() && isIllegal[unit])

@@ -1,10 +1,11 @@
 #pragma once
 
-/// A call that can do no less: virtual, and its object made where the caller cannot see.
+/// An empty virtual function. The object is created in another source file, so that the compiler cannot replace the
+/// call by a direct one.
 class VirtualCall {
 public:
     virtual ~VirtualCall();
-    virtual int Answer(const void* left, const void* right) const noexcept;
+    virtual int Call(const void* left, const void* right) const noexcept;
 
     static const VirtualCall& Instance() noexcept;
 };

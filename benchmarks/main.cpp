@@ -13,7 +13,7 @@ namespace {
 
 struct Options {
     std::filesystem::path folder = ".";
-    std::vector<std::string> arguments; ///< of the benchmark library
+    std::vector<std::string> arguments; ///< for the benchmark library
 };
 
 Options ReadOptions(int argc, char** argv) {
@@ -36,7 +36,7 @@ Options ReadOptions(int argc, char** argv) {
     return options;
 }
 
-/// False when an argument is unknown.
+/// Returns false if an argument is unknown.
 bool InitializeLibrary(Options& options) {
     std::vector<char*> pointers;
     for (std::string& argument : options.arguments)
@@ -52,30 +52,34 @@ void RegisterAll(const std::filesystem::path& folder) {
     RegisterHandleBenchmarks();
     RegisterScanBenchmarks();
     RegisterDocumentBenchmarks();
-    RegisterHandOutBenchmarks();
-    RegisterMetObjectBenchmarks();
+    RegisterIssuedNameBenchmarks();
+    RegisterGenericNameBenchmarks();
     RegisterBatchBenchmarks();
     RegisterAuditBenchmarks(folder);
 }
 
 } // namespace
 
-/// usage: qvr-bench [--out FOLDER] [options of the benchmark library]
-/// Ends with 0 when every budget is held, with 1 when one is broken or could not be measured, with 2 for bad usage.
+/// Usage: qvr-bench [--out FOLDER] [options of the benchmark library]
+/// Exit codes:
+/// - 0: all results are within their budget
+/// - 1: a result exceeds its budget or could not be measured
+/// - 2: an argument is unknown
 int main(int argc, char** argv) {
     Options options = ReadOptions(argc, argv);
     if (!InitializeLibrary(options))
         return 2;
     Results results;
     MeasureHeap(results);
-    // What is given back is kept: fetching pages anew is the system's work, and depends on what ran before.
+    // The allocator keeps freed memory. Otherwise the times would include the system's work to provide new pages, which
+    // depends on the benchmarks that ran before.
     mallopt(M_MMAP_THRESHOLD, 1 << 30);
     mallopt(M_TRIM_THRESHOLD, 1 << 30);
     RegisterAll(options.folder);
     ResultCollector collector(results);
     benchmark::RunSpecifiedBenchmarks(&collector);
-    const std::vector<Judgement> judgements = JudgeBudgets(results);
-    PrintTable(std::cout, judgements);
+    const std::vector<BudgetResult> budgetResults = CheckBudgets(results);
+    PrintTable(std::cout, budgetResults);
     WriteChart(options.folder / "qvr-bench.svg", results);
-    return AreAllHeld(judgements) ? 0 : 1;
+    return AreAllWithinBudget(budgetResults) ? 0 : 1;
 }
