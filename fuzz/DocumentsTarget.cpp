@@ -1,11 +1,18 @@
-// Documents of any shape, and any requests on them, some of which the platform does not answer as it should. What must
-// hold whatever happens: no reference is left behind but those that the caches keep, a refused renaming changes
-// nothing, a name once given stays. And where the platform did answer: what is stored passes its check, what passes a
-// check is free, and so is what is proposed.
+// Builds random documents and calls random operations on them, with injected faults of the platform.
+//
+// Checked always:
+// - No reference is leaked; only the caches of the singleton keep references.
+// - A rename stores the new name or keeps the old one, unless the old one could not be read.
+// - A feature keeps its first English name.
+//
+// Checked if no fault was injected:
+// - A name that the guarded alias stores passes its check.
+// - In a regular document, for which the target can compute all scopes, a name that passes a check is unused in its
+//   scope, and so is a proposed name.
 
+#include "Expectations.h"
 #include "FuzzInput.h"
-#include "Operations.h"
-#include "PlainRules.h"
+#include "ReferenceRules.h"
 
 #include "QVRGenI18NUtils.h"
 #include "QVRGenInstanceName.h"
@@ -21,58 +28,60 @@
 
 namespace {
 
-using Plain::Text;
+using Reference::Text;
 using Util = QVRNameUtil;
 
-enum class Role { Step, Load, Property, Job, MeshPart, Material, Bolt, Other, Nobody };
+enum class Role { Step, Load, Property, Job, MeshPart, Material, Bolt, Other, None };
 
-struct Thing {
+/// A feature of the document, with what the target needs to compute the scope of its name.
+struct Entry {
     MemoryFeature feature;
     Role role;
-    int place = 0;          // of its case, from 1
-    MemoryFeature set = {}; // that holds it
-    bool guarded = false;   // renamed through the module's alias
-    bool inherited = false; // counts as propagated
+    int caseNumber = 0;        ///< from 1; 0 outside the cases
+    MemoryFeature set = {};    ///< the set that contains the feature
+    bool isGuarded = false;    ///< whether the alias extension guards its name
+    bool isPropagated = false; ///< whether GetObjectsInStep skips it
 };
-using Things = std::vector<Thing>;
+using Entries = std::vector<Entry>;
 
-struct Type {
+struct FeatureType {
     const char* name;
-    bool guarded;
+    bool isGuarded;
 };
-constexpr Type kStepTypes[] = {
+constexpr FeatureType kStepTypes[] = {
     {"QVRGeneralStaticStepLT", true}, {"QVRStaticLPStepLT", true}, {"QVRInitializationStepLT", false}};
-constexpr Type kLoadTypes[] = {
+constexpr FeatureType kLoadTypes[] = {
     {"QVRPressure", false}, {"QVRInitialTemperatureLT", false}, {"QVRInteractionLT", true}, {"SAMLoad", false}};
-constexpr Type kPropertyTypes[] = {
+constexpr FeatureType kPropertyTypes[] = {
     {"QVRShellSectionEnhLT", true}, {"QVRTabularAmplitudeLT", true}, {"SAMThickness", false}, {"QVRLayupLT", true}};
 constexpr const char* kSetTypes[] = {"QVRLoadContainerLT", "QVRBCContainerLT"};
 constexpr const char* kBases[] = {"p-", "Job-", "JOB-", "", "OrphanMesh-", "a:b", "_ ", "1"};
 
-constexpr int kRequests = static_cast<int>(MemoryRequest::GetCurrentAnalysisCaseSP) + 1;
-constexpr MemoryResponse kAnswers[] = {{E_UNEXPECTED, false}, {E_UNEXPECTED, true}, {S_OK, false}, {3, true}};
+constexpr int kRequestCount = static_cast<int>(MemoryRequest::GetCurrentAnalysisCaseSP) + 1;
+constexpr MemoryResponse kResponses[] = {{E_UNEXPECTED, false}, {E_UNEXPECTED, true}, {S_OK, false}, {3, true}};
 
-class Story {
+/// One random document, and the operations on it.
+class Scenario {
 public:
-    explicit Story(FuzzInput& input) {
-        const std::string grown = GrownFrom(input.Below(256) * 256 + input.Below(256));
-        FuzzInput shape(reinterpret_cast<const std::uint8_t*>(grown.data()), grown.size());
+    explicit Scenario(FuzzInput& input) {
+        const std::string expanded = Expand(input.Below(256) * 256 + input.Below(256));
+        FuzzInput shape(reinterpret_cast<const std::uint8_t*>(expanded.data()), expanded.size());
         m_input = &shape;
         Build();
         m_input = &input;
     }
-    Story(const Story&) = delete;
-    Story& operator=(const Story&) = delete;
-    ~Story() { m_utils->ResetAllLists(); }
+    Scenario(const Scenario&) = delete;
+    Scenario& operator=(const Scenario&) = delete;
+    ~Scenario() { m_utils->ResetAllLists(); }
     void Step() {
         if (m_input->Below(3) == 0)
-            m_model.FailNth(static_cast<MemoryRequest>(m_input->Below(kRequests)), 1 + m_input->Below(40),
-                            OneOf(kAnswers));
-        (this->*OneOf(kRequestsOfAll))();
+            m_model.FailNth(static_cast<MemoryRequest>(m_input->Below(kRequestCount)), 1 + m_input->Below(40),
+                            OneOf(kResponses));
+        (this->*OneOf(kOperations))();
         m_model.ClearFaults();
         CountOperations(1);
-        ExpectSame(m_model.References(), static_cast<long>(m_names.size() + m_materials.size()),
-                   "references, beside those of the caches");
+        ExpectEqual(m_model.References(), static_cast<long>(m_names.size() + m_materials.size()),
+                    "references, except those of the caches");
     }
 
 private:
@@ -81,74 +90,75 @@ private:
         return elements[m_input->Below(static_cast<int>(n))];
     }
 
-    /// Names that are close to each other, and any others.
+    /// Returns mostly one of a few similar names, sometimes any text.
     ZFXUnicodeString Name() {
         const int kind = m_input->Below(16);
         if (kind == 0)
             return Wide(m_input->Text());
         ZFXUnicodeString name = Base();
         if (kind > 1)
-            name.Append(Wide(Plain::Decimal(kind > 10 ? m_input->Number() : kind - 1)));
+            name.Append(Wide(Reference::ToDecimal(kind > 10 ? m_input->Number() : kind - 1)));
         return name;
     }
-    /// Mostly the same one, so that names meet.
+    /// Returns "P-" in half of the calls, so that names clash often.
     ZFXUnicodeString Base() { return m_input->Flag() ? "P-" : OneOf(kBases); }
 
-    Thing& Keep(MemoryFeature parent, const Type& type, Role role, int place) {
-        m_things.push_back({parent.Feature(type.name, Name()), role, place, parent, type.guarded});
-        return m_things.back();
+    Entry& AddFeature(MemoryFeature parent, const FeatureType& type, Role role, int caseNumber) {
+        m_entries.push_back({parent.Feature(type.name, Name()), role, caseNumber, parent, type.isGuarded});
+        return m_entries.back();
     }
 
-    /// The bytes of an input are for the requests: two of them stand for the whole document.
-    static std::string GrownFrom(int seed) {
+    /// Returns the pseudo-random bytes from which the document is built. Two bytes of the input are the seed, so that
+    /// the other bytes select operations.
+    static std::string Expand(int seed) {
         std::minstd_rand random(static_cast<unsigned>(seed) + 1);
-        std::string grown(512, '\0');
-        for (char& byte : grown)
+        std::string expanded(512, '\0');
+        for (char& byte : expanded)
             byte = static_cast<char>(random() >> 8U);
-        return grown;
+        return expanded;
     }
 
     void Build() {
         const int cases = 1 + m_input->Below(3);
-        for (int place = 1; place <= cases; ++place)
-            BuildCase(place);
+        for (int caseNumber = 1; caseNumber <= cases; ++caseNumber)
+            BuildCase(caseNumber);
         for (int left = m_input->Below(5); left > 0; --left) {
-            const Type& type = OneOf(kPropertyTypes);
-            Keep(m_document.PropertySet(), type, Role::Property, 0);
+            const FeatureType& type = OneOf(kPropertyTypes);
+            AddFeature(m_document.PropertySet(), type, Role::Property, 0);
         }
         for (int left = m_input->Below(4); left > 0; --left)
-            m_things.push_back({m_document.MeshPart(Name(), m_input->Number()), Role::MeshPart});
+            m_entries.push_back({m_document.MeshPart(Name(), m_input->Number()), Role::MeshPart});
         for (int left = m_input->Below(4); left > 0; --left)
-            m_things.push_back(
+            m_entries.push_back(
                 {m_root.Add(MemoryKind::Material, "QVRMaterialLT", Name()).MaterialName(Name()), Role::Material});
         MemoryFeature father = m_root.Feature("Connection", "Father").With(IID_ZFXISamAnalysisScan);
         for (int left = m_input->Below(4); left > 0; --left)
-            Keep(father, {"SAMBoltTightening", false}, Role::Bolt, 0);
+            AddFeature(father, {"SAMBoltTightening", false}, Role::Bolt, 0);
         BuildConnection();
         for (int left = m_input->Flag() ? m_input->Below(4) : 0; left > 0; --left)
-            MakeStrange();
+            MakeIrregular();
     }
 
-    void BuildCase(int place) {
+    void BuildCase(int caseNumber) {
         MemoryFeature analysisCase = m_document.Case(Name());
         m_cases.push_back(analysisCase);
         for (int steps = m_input->Below(4); steps > 0; --steps) {
-            const Type& stepType = OneOf(kStepTypes);
+            const FeatureType& stepType = OneOf(kStepTypes);
             MemoryFeature step = analysisCase.Step(stepType.name, Name());
-            m_things.push_back({step, Role::Step, place, {}, stepType.guarded});
+            m_entries.push_back({step, Role::Step, caseNumber, {}, stepType.isGuarded});
             for (int sets = m_input->Below(3); sets > 0; --sets) {
                 MemoryFeature set = step.Set(OneOf(kSetTypes));
                 for (int loads = m_input->Below(4); loads > 0; --loads) {
-                    const Type& type = OneOf(kLoadTypes);
-                    Thing& load = Keep(set, type, Role::Load, place);
+                    const FeatureType& type = OneOf(kLoadTypes);
+                    Entry& load = AddFeature(set, type, Role::Load, caseNumber);
                     const bool propagated = m_input->Flag();
                     load.feature.Propagated(propagated);
-                    load.inherited = propagated && type.name != kLoadTypes[1].name;
+                    load.isPropagated = propagated && type.name != kLoadTypes[1].name;
                 }
             }
         }
         for (int jobs = m_input->Below(3); jobs > 0; --jobs)
-            m_things.push_back({analysisCase.Job(Name()), Role::Job, place, {}, true});
+            m_entries.push_back({analysisCase.Job(Name()), Role::Job, caseNumber, {}, true});
     }
 
     void BuildConnection() {
@@ -156,16 +166,16 @@ private:
         MemoryFeature connector = m_root.Add(MemoryKind::Connector, "C", "c").SetGroup(group);
         m_support = m_root.Add(MemoryKind::Support, "S", "s").AddConnector(connector);
         m_design = m_root.Add(MemoryKind::ConnectionDesign, "D", "d").AddMaster(connector).AddSlave(connector);
-        m_things.push_back({m_support, Role::Other});
+        m_entries.push_back({m_support, Role::Other});
     }
 
-    /// From here on nobody can say beforehand who is in whose scope.
-    void MakeStrange() {
+    /// Changes the document so that the target cannot compute scopes any more.
+    void MakeIrregular() {
         static constexpr IID kInterfaces[] = {
             IID_ZFXISpecObject,        IID_ZFXIAlias,          IID_ZFXISpecAttrAccess, IID_ZFXILinkableObject,
             IID_ZFXISamAnalysisScan,   IID_ZFXISamAnalysisSet, IID_QVRIStep,           IID_ZFXISamAnalysisEntity,
             IID_QVRIPropagatingFeature};
-        m_strange = true;
+        m_isIrregular = true;
         MemoryFeature one = Any().feature;
         MemoryFeature other = Any().feature;
         switch (m_input->Below(8)) {
@@ -196,92 +206,96 @@ private:
         }
     }
 
-    Thing& Any() { return m_things[static_cast<std::size_t>(m_input->Below(256)) % m_things.size()]; }
+    Entry& Any() { return m_entries[static_cast<std::size_t>(m_input->Below(256)) % m_entries.size()]; }
     MemoryFeature AnyCase() { return m_cases[static_cast<std::size_t>(m_input->Below(3)) % m_cases.size()]; }
 
-    bool WasTold() const { return *m_model.LastFault() != '\0'; }
-    /// Whether every request was answered on a document without surprises.
-    bool IsPlain() const { return !m_strange && !WasTold(); }
+    bool HadFault() const { return *m_model.LastFault() != '\0'; }
+    /// Returns true if the expected scopes are known and no fault was injected.
+    bool IsRegular() const { return !m_isIrregular && !HadFault(); }
 
-    // ---- Scopes, as the document was built ----
+    // ---- Scopes, computed from the entries ----
 
     template <class Test>
-    std::vector<MemoryFeature> Those(Test test) const {
-        std::vector<MemoryFeature> those;
-        for (const Thing& thing : m_things)
-            if (test(thing))
-                those.push_back(thing.feature);
-        return those;
+    std::vector<MemoryFeature> Features(Test test) const {
+        std::vector<MemoryFeature> features;
+        for (const Entry& entry : m_entries)
+            if (test(entry))
+                features.push_back(entry.feature);
+        return features;
     }
     std::vector<MemoryFeature> OfRole(Role role) const {
-        return Those([&](const Thing& other) { return other.role == role; });
+        return Features([&](const Entry& other) { return other.role == role; });
     }
-    /// Features of the kind in the sets of one type in the steps of a case.
-    std::vector<MemoryFeature> LoadsBeside(const Thing& load, int place) const {
-        return Those([&](const Thing& other) {
-            return other.role == Role::Load && other.place == place && other.set.LateType() == load.set.LateType() &&
-                   !other.inherited && !(other.feature == load.feature);
+    /// Returns the other loads that are numbered or compared with `load`: those in sets of the type of its set, in the
+    /// steps of a case.
+    std::vector<MemoryFeature> OtherLoads(const Entry& load, int caseNumber) const {
+        return Features([&](const Entry& other) {
+            return other.role == Role::Load && other.caseNumber == caseNumber &&
+                   other.set.LateType() == load.set.LateType() && !other.isPropagated &&
+                   !(other.feature == load.feature);
         });
     }
-    std::vector<MemoryFeature> StepsOf(int place) const {
-        return Those([&](const Thing& other) { return other.role == Role::Step && other.place == place; });
+    std::vector<MemoryFeature> StepsOfCase(int caseNumber) const {
+        return Features([&](const Entry& other) { return other.role == Role::Step && other.caseNumber == caseNumber; });
     }
-    std::vector<MemoryFeature> CheckedAgainst(const Thing& thing) const {
-        switch (thing.role) {
+    std::vector<MemoryFeature> ScopeOf(const Entry& entry) const {
+        switch (entry.role) {
         case Role::Step:
-            return StepsOf(thing.place);
+            return StepsOfCase(entry.caseNumber);
         case Role::Load:
-            return LoadsBeside(thing, thing.place);
+            return OtherLoads(entry, entry.caseNumber);
         case Role::Job:
-            return Those([&](const Thing& other) { return other.role == Role::Job && other.place == thing.place; });
+            return Features(
+                [&](const Entry& other) { return other.role == Role::Job && other.caseNumber == entry.caseNumber; });
         case Role::Property:
         case Role::MeshPart:
-            return OfRole(thing.role);
+            return OfRole(entry.role);
         default:
             return {};
         }
     }
 
-    /// A proposal goes one further than its scope, so that it is free there.
+    /// Checks that a proposal has the next number of its scope, and thus is unused there.
     static void ExpectNext(const ZFXUnicodeString& name, const ZFXUnicodeString& base,
                            const std::vector<MemoryFeature>& scope, bool ignoreCase = false) {
         std::vector<Text> names;
         for (const MemoryFeature& other : scope)
             names.emplace_back(other.StoredAlias().Units());
-        ExpectSame(name, Plain::NextName(base.Units(), names, ignoreCase),
-                   "a proposal goes one further than its scope");
+        ExpectEqual(name, Reference::NextName(base.Units(), names, ignoreCase),
+                    "a proposal has the next number of its scope");
     }
 
-    // ---- Requests ----
+    // ---- Operations ----
 
     void Propose() {
-        const Thing thing = Any();
+        const Entry entry = Any();
         const int given = m_input->Below(4);
-        const auto place = given == 0 ? 1 : 1 + (static_cast<std::size_t>(given) - 1) % m_cases.size();
-        ZFXISpecObject_var feature(thing.feature);
-        ZFXISamAnalysisCase_var analysisCase(given == 0 ? MemoryFeature() : m_cases[place - 1]);
+        const auto caseNumber = given == 0 ? 1 : 1 + (static_cast<std::size_t>(given) - 1) % m_cases.size();
+        ZFXISpecObject_var feature(entry.feature);
+        ZFXISamAnalysisCase_var analysisCase(given == 0 ? MemoryFeature() : m_cases[caseNumber - 1]);
         const ZFXUnicodeString base = m_input->Below(4) == 0 ? Name() : Base();
         ZFXUnicodeString name = base;
         Util::GetUniqueName(name, feature, analysisCase);
         ExpectNumbered(name, base);
-        if (!IsPlain() || name == base)
+        if (!IsRegular() || name == base)
             return;
         std::vector<MemoryFeature> scope = OfRole(Role::Property);
-        if (thing.role == Role::Step) {
-            scope = StepsOf(static_cast<int>(place));
+        if (entry.role == Role::Step) {
+            scope = StepsOfCase(static_cast<int>(caseNumber));
             if (!scope.empty())
-                scope.erase(scope.begin()); // the first one takes no part
-        } else if (thing.role != Role::Property) {
-            scope = LoadsBeside(thing, static_cast<int>(place));
+                scope.erase(scope.begin()); // the first step is not numbered
+        } else if (entry.role != Role::Property) {
+            scope = OtherLoads(entry, static_cast<int>(caseNumber));
         }
         ExpectNext(name, base, scope);
     }
 
     static void ExpectNumbered(const ZFXUnicodeString& name, const ZFXUnicodeString& base) {
         const Text units(name.Units());
-        ExpectThat(Plain::BeginsWith(units, base.Units()), "a proposal begins with its base");
+        ExpectTrue(Reference::BeginsWith(units, base.Units()), "a proposal begins with its base");
         for (const char16_t unit : units.substr(base.Units().size()))
-            ExpectThat((unit >= u'0' && unit <= u'9') || unit == u'-', "behind the base of a proposal stands a number");
+            ExpectTrue((unit >= u'0' && unit <= u'9') || unit == u'-',
+                       "the base of a proposal is followed by a number");
     }
 
     void ProposeInSet() {
@@ -292,11 +306,11 @@ private:
         ZFXUnicodeString name = base;
         const HRESULT code = Util::GetNextUniqueName(name, set);
         ExpectNumbered(name, base);
-        ExpectThat(!Failed(code) || name == base, "without members there is no proposal");
-        if (!IsPlain() || set == nullptr)
+        ExpectTrue(!Failed(code) || name == base, "without members there is no proposal");
+        if (!IsRegular() || set == nullptr)
             return;
-        const auto members = Those([&](const Thing& thing) {
-            return thing.set == from || (thing.role == Role::MeshPart && from == m_document.MeshManager());
+        const auto members = Features([&](const Entry& entry) {
+            return entry.set == from || (entry.role == Role::MeshPart && from == m_document.MeshManager());
         });
         ExpectNext(name, base, members);
     }
@@ -312,33 +326,33 @@ private:
         const ZFXUnicodeString before = base;
         ZFXListValZFXUnicodeString names;
         const int count = m_input->Below(5);
-        ExpectThat(Failed(Util::GetNextUniqueNames(base, scope, count, names)) == (count < 1), "GetNextUniqueNames");
-        ExpectSame(names.Size(), std::max(count, 0), "as many proposals as were asked for");
-        ExpectThat(base == before, "the base stays");
+        ExpectTrue(Failed(Util::GetNextUniqueNames(base, scope, count, names)) == (count < 1), "GetNextUniqueNames");
+        ExpectEqual(names.Size(), std::max(count, 0), "the number of proposals is the requested one");
+        ExpectTrue(base == before, "the base is unchanged");
         std::set<Text> distinct;
         for (const ZFXUnicodeString& name : names) {
-            ExpectThat(distinct.emplace(name.Units()).second, "proposals differ");
-            if (IsPlain() && distinct.size() == 1)
+            ExpectTrue(distinct.emplace(name.Units()).second, "proposals differ");
+            if (IsRegular() && distinct.size() == 1)
                 ExpectNext(name, base, listed);
         }
     }
 
-    void ProposeAJob() {
+    void ProposeJob() {
         ZFXUnicodeString name = Name();
-        ExpectSame(Util::GetUniqueNameForJob(name), S_OK, "GetUniqueNameForJob");
+        ExpectEqual(Util::GetUniqueNameForJob(name), S_OK, "GetUniqueNameForJob");
         ExpectNumbered(name, "Job-");
-        if (IsPlain())
+        if (IsRegular())
             ExpectNext(name, "Job-", OfRole(Role::Job), true);
     }
 
-    void ProposeAMeshPart() {
+    void ProposeMeshPart() {
         ZFXISpecObject_var part(Any().feature);
         const ZFXUnicodeString base = m_input->Below(4) == 0 ? Name() : Base();
         ZFXUnicodeString name = base;
         const HRESULT code = Util::GetUniqueNameForMeshPart(part, name);
         ExpectNumbered(name, base);
-        ExpectThat(!Failed(code) || name == base, "a refusal leaves the base");
-        if (IsPlain() && !Failed(code))
+        ExpectTrue(!Failed(code) || name == base, "a failure leaves the base");
+        if (IsRegular() && !Failed(code))
             ExpectNext(name, base, OfRole(Role::MeshPart));
     }
 
@@ -351,40 +365,43 @@ private:
     }
 
     void Rename() {
-        Thing thing = Any();
-        const ZFXUnicodeString before = thing.feature.StoredAlias();
+        Entry entry = Any();
+        const ZFXUnicodeString before = entry.feature.StoredAlias();
         const ZFXUnicodeString wanted = Name();
-        const ZFXIAlias_var alias(thing.feature);
+        const ZFXIAlias_var alias(entry.feature);
         if (alias != nullptr)
             alias->SetAlias(wanted);
-        const bool plain = IsPlain();
-        const bool told = WasTold();
+        const bool isRegular = IsRegular();
+        const bool hadFault = HadFault();
         m_model.ClearFaults();
-        const ZFXUnicodeString stored = thing.feature.StoredAlias();
-        if (!thing.guarded) {
-            ExpectThat(stored == wanted || ((told || m_strange) && stored == before), "the platform's alias stores");
+        const ZFXUnicodeString stored = entry.feature.StoredAlias();
+        if (!entry.isGuarded) {
+            ExpectTrue(stored == wanted || ((hadFault || m_isIrregular) && stored == before),
+                       "the platform's alias stores the name");
             return;
         }
-        const ZFXUnicodeString candidate = Wide(Plain::Trimmed(Text(wanted.Units())));
-        const bool unread = told && stored.IsNull() != 0; // a failed read of the former alias gives an empty one
-        ExpectThat(stored == before || stored == candidate || unread,
-                   "a renaming stores the new name or leaves the old one");
-        if (plain) { // judged as the guard judges: under the new name
-            thing.feature.Alias(candidate);
-            const HRESULT code = CheckOf(thing.feature, candidate);
-            thing.feature.Alias(stored);
-            ExpectSame(stored, (Failed(code) ? before : candidate).Units(), "the guard does what its check says");
-        } else if (!told && stored != before) {
-            ExpectThat(!Failed(CheckOf(thing.feature, stored)), "what was stored passes its check");
+        const ZFXUnicodeString candidate = Wide(Reference::Trimmed(Text(wanted.Units())));
+        const bool readFailed =
+            hadFault && stored.IsNull() != 0; // a failed read of the former alias returns an empty text
+        ExpectTrue(stored == before || stored == candidate || readFailed,
+                   "a rename stores the new name or keeps the old one");
+        if (isRegular) { // like the guarded alias, check while the new name is stored
+            entry.feature.Alias(candidate);
+            const HRESULT code = CheckOf(entry.feature, candidate);
+            entry.feature.Alias(stored);
+            ExpectEqual(stored, (Failed(code) ? before : candidate).Units(),
+                        "the guarded alias stores a name exactly if its check passes");
+        } else if (!hadFault && stored != before) {
+            ExpectTrue(!Failed(CheckOf(entry.feature, stored)), "a stored name passes its check");
         }
     }
 
     void Check() {
-        const Thing thing = Any();
-        ZFXISpecObject_var feature(thing.feature);
-        const ZFXUnicodeString own = thing.feature.StoredAlias();
+        const Entry entry = Any();
+        ZFXISpecObject_var feature(entry.feature);
+        const ZFXUnicodeString own = entry.feature.StoredAlias();
         ZFXUnicodeString name = Name();
-        std::vector<MemoryFeature> scope = CheckedAgainst(thing);
+        std::vector<MemoryFeature> scope = ScopeOf(entry);
         HRESULT code = S_OK;
         switch (m_input->Below(6)) {
         case 0:
@@ -399,7 +416,7 @@ private:
             break;
         case 3:
             code = Util::IsNameUniqueAcrossCases(feature, name);
-            scope = thing.role == Role::Job ? OfRole(Role::Job) : std::vector<MemoryFeature>();
+            scope = entry.role == Role::Job ? OfRole(Role::Job) : std::vector<MemoryFeature>();
             break;
         case 4:
             code = Util::IsUniqueNameForJob(feature, name);
@@ -407,38 +424,38 @@ private:
             break;
         default:
             code = Util::GetMorvelObjectName(feature, name);
-            scope = OfRole(thing.role == Role::Bolt ? Role::Bolt : Role::Nobody);
+            scope = OfRole(entry.role == Role::Bolt ? Role::Bolt : Role::None);
             break;
         }
-        ExpectThat(thing.feature.StoredAlias() == own, "a check changes nothing");
-        if (!Failed(code) && IsPlain())
-            ExpectNoClash(thing, name.IsNull() != 0 ? own : name, scope);
+        ExpectTrue(entry.feature.StoredAlias() == own, "a check changes nothing");
+        if (!Failed(code) && IsRegular())
+            ExpectNoClash(entry, name.IsNull() != 0 ? own : name, scope);
     }
 
-    static void ExpectNoClash(const Thing& thing, const ZFXUnicodeString& name,
+    static void ExpectNoClash(const Entry& entry, const ZFXUnicodeString& name,
                               const std::vector<MemoryFeature>& scope) {
         for (const MemoryFeature& other : scope)
-            ExpectThat(other == thing.feature || name.IsNull() != 0 || name.Compare(other.StoredAlias()) == 0,
-                       "what passes a check is free");
+            ExpectTrue(other == entry.feature || name.IsNull() != 0 || name.Compare(other.StoredAlias()) == 0,
+                       "a name that passes a check is unused");
     }
 
-    void NameInEnglish() {
-        const Thing thing = Any();
-        ZFXISpecObject_var feature(thing.feature);
+    void NameFeature() {
+        const Entry entry = Any();
+        ZFXISpecObject_var feature(entry.feature);
         ZFXUnicodeString name("before");
         const bool generic = m_input->Below(3) != 0;
         const HRESULT code =
             generic ? m_utils->GetGenericEnglishFeatureName(feature, name) : m_utils->GetFeatureName(feature, name);
         if (Failed(code)) {
-            ExpectThat(name == "before", "a failure leaves the name");
+            ExpectTrue(name == "before", "a failure leaves the name");
             return;
         }
-        const auto [known, isNew] = m_names.try_emplace(thing.feature.Object(), name.Units());
-        ExpectSame(name, known->second, "a name once given stays");
-        m_onlyGeneric = m_onlyGeneric && generic && !WasTold();
+        const auto [known, isNew] = m_names.try_emplace(entry.feature.Object(), name.Units());
+        ExpectEqual(name, known->second, "a feature keeps its first name");
+        m_onlyGeneric = m_onlyGeneric && generic && !HadFault();
         if (isNew && m_onlyGeneric)
             for (const auto& [object, other] : m_names)
-                ExpectThat(object == thing.feature.Object() || name.Units() != other,
+                ExpectTrue(object == entry.feature.Object() || name.Units() != other,
                            "different features, different names");
     }
 
@@ -452,49 +469,49 @@ private:
         const bool known = m_materials.contains(material.Object());
         if (!Failed(code))
             m_materials.insert(material.Object());
-        ExpectThat(!Failed(code) || known || name == "before", "a failure leaves the name");
+        ExpectTrue(!Failed(code) || known || name == "before", "a failure leaves the name");
     }
 
-    void NameForTheDeck() {
-        const Thing thing = Any();
-        ZFXISpecObject_var feature(thing.feature);
+    void NameForDeck() {
+        const Entry entry = Any();
+        ZFXISpecObject_var feature(entry.feature);
         ZFXUnicodeString first("first");
         ZFXUnicodeString second("second");
         if (m_input->Flag()) {
             if (feature != nullptr && Failed(Util::GenerateUniqueName(*feature.Get(), first)))
-                ExpectThat(first == "first", "a failure leaves the name");
+                ExpectTrue(first == "first", "a failure leaves the name");
             if (Failed(m_utils->GetGenericEnglishName(feature, second)))
-                ExpectThat(second == "second", "a refusal leaves the name");
+                ExpectTrue(second == "second", "a failure leaves the name");
             return;
         }
-        const ZFXIMSHMeshPart_var part(thing.feature);
+        const ZFXIMSHMeshPart_var part(entry.feature);
         const HRESULT code = QVRGenInstanceName::GetUniqueLegalInstanceName(part, first, second);
         if (Failed(code))
-            ExpectThat(first == "first" && second == "second", "a failure leaves both names");
+            ExpectTrue(first == "first" && second == "second", "a failure leaves both names");
         else
-            ExpectThat(first.Units().size() <= 72 ||
-                           Plain::BeginsWith(thing.feature.StoredAlias().Units(), u"OrphanMesh-"),
+            ExpectTrue(first.Units().size() <= 72 ||
+                           Reference::BeginsWith(entry.feature.StoredAlias().Units(), u"OrphanMesh-"),
                        "a deck name is not longer than 72 units");
     }
 
-    void AskAround() {
+    void RequestOtherNames() {
         ZFXISpecObject_var feature(Any().feature);
         ZFXUnicodeString name = Name();
         const ZFXUnicodeString before = name;
         switch (m_input->Below(4)) {
         case 0:
-            ExpectThat(!Failed(Util::GetObjectName(feature, name)) || name == before || name.IsNull() != 0,
+            ExpectTrue(!Failed(Util::GetObjectName(feature, name)) || name == before || name.IsNull() != 0,
                        "GetObjectName");
             break;
         case 1:
             static_cast<void>(Util::GetParentStepName(feature, name));
             break;
         case 2:
-            ExpectThat(!Failed(Util::CreateBaseName(feature, name)) || name == before, "CreateBaseName");
+            ExpectTrue(!Failed(Util::CreateBaseName(feature, name)) || name == before, "CreateBaseName");
             break;
         default:
             if (Failed(Util::GetSupportGroupName(feature, name)))
-                ExpectThat(feature == nullptr || name.IsNull() != 0, "GetSupportGroupName");
+                ExpectTrue(feature == nullptr || name.IsNull() != 0, "GetSupportGroupName");
             break;
         }
     }
@@ -503,30 +520,30 @@ private:
         QVRISamAnalysisConnectionDesign_var design(m_design);
         ZFXUnicodeString master("m");
         ZFXUnicodeString slave("s");
-        const bool there = design != nullptr;
-        ExpectThat(Failed(Util::GetGrpNameofMasterAndSlave(design, master, slave)) != there,
+        const bool hasDesign = design != nullptr;
+        ExpectTrue(Failed(Util::GetGrpNameofMasterAndSlave(design, master, slave)) != hasDesign,
                    "GetGrpNameofMasterAndSlave");
-        if (IsPlain() && there)
-            ExpectThat(master == slave, "one connector, one group");
+        if (IsRegular() && hasDesign)
+            ExpectTrue(master == slave, "one connector, one group");
     }
 
-    void Forget() {
+    void ResetCaches() {
         m_utils->ResetAllLists();
         m_names.clear();
         m_materials.clear();
         m_onlyGeneric = true;
     }
 
-    /// Somebody else stores a name without asking.
-    void StoreUnasked() { Any().feature.Alias(Name()); }
+    /// Stores a name without a check, as other code of a host may do.
+    void BypassGuard() { Any().feature.Alias(Name()); }
 
-    static constexpr void (Story::*kRequestsOfAll[])() = {
-        &Story::Propose,        &Story::Propose,        &Story::ProposeInSet,
-        &Story::ProposeSeveral, &Story::ProposeAJob,    &Story::ProposeAMeshPart,
-        &Story::Rename,         &Story::Rename,         &Story::Check,
-        &Story::Check,          &Story::NameInEnglish,  &Story::NameInEnglish,
-        &Story::NameMaterial,   &Story::NameForTheDeck, &Story::AskAround,
-        &Story::NameGroups,     &Story::Forget,         &Story::StoreUnasked};
+    static constexpr void (Scenario::*kOperations[])() = {
+        &Scenario::Propose,        &Scenario::Propose,     &Scenario::ProposeInSet,
+        &Scenario::ProposeSeveral, &Scenario::ProposeJob,  &Scenario::ProposeMeshPart,
+        &Scenario::Rename,         &Scenario::Rename,      &Scenario::Check,
+        &Scenario::Check,          &Scenario::NameFeature, &Scenario::NameFeature,
+        &Scenario::NameMaterial,   &Scenario::NameForDeck, &Scenario::RequestOtherNames,
+        &Scenario::NameGroups,     &Scenario::ResetCaches, &Scenario::BypassGuard};
 
     FuzzInput* m_input = nullptr;
     QVRGenI18NUtils* m_utils = QVRGenI18NUtils::Instance();
@@ -536,12 +553,12 @@ private:
     MemoryFeature m_support;
     MemoryFeature m_design;
     std::vector<MemoryFeature> m_cases;
-    Things m_things;
-    bool m_strange = false;
-    /// What the caches keep: features with their names, and materials.
+    Entries m_entries;
+    bool m_isIrregular = false;
+    /// Expected content of the caches: features with their names, and materials.
     std::map<const ZFXBaseUnknown*, Text> m_names;
     std::set<const ZFXBaseUnknown*> m_materials;
-    bool m_onlyGeneric = true; // since Forget, each name was a generic one and every request answered
+    bool m_onlyGeneric = true; ///< only generic names were requested since ResetCaches, without a fault
 };
 
 } // namespace
@@ -549,11 +566,11 @@ private:
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t count) {
     FuzzInput input(bytes, count);
     {
-        Story story(input);
-        while (!input.IsSpent())
-            story.Step();
+        Scenario scenario(input);
+        while (!input.IsEmpty())
+            scenario.Step();
     }
-    ExpectSame(MemoryModel::LiveObjects(), 0, "an object outlived its document");
-    ForgetErrors();
+    ExpectEqual(MemoryModel::LiveObjects(), 0, "an object outlived its document");
+    OverwriteRegisteredErrors();
     return 0;
 }

@@ -24,7 +24,7 @@ constexpr int kEdges[] = {0,
                           std::numeric_limits<int>::max() - 1,
                           std::numeric_limits<int>::min()};
 
-/// White space, Latin-1 and beyond it, letters with an odd case, whole and half surrogate pairs.
+/// White space, characters in and above Latin-1, letters with special case mappings, surrogates.
 constexpr char16_t kUnits[] = {0x0085, 0x00A0, 0x00E9, 0x00C9, 0x00DF, 0x00FF, 0x0100, 0x0130, 0x0131, 0x017F,
                                0x03A3, 0x03C2, 0x03C3, 0x1E9E, 0x2003, 0x2028, 0x212A, 0x3000, 0xD7FF, 0xD800,
                                0xD801, 0xDBFF, 0xDC00, 0xDC28, 0xDC37, 0xDFFF, 0xE000, 0xFEFF, 0xFFFD, 0xFFFF};
@@ -49,7 +49,7 @@ int FuzzInput::Number() noexcept {
 
 std::u16string FuzzInput::Text() {
     std::u16string text;
-    for (int left = static_cast<unsigned char>(Byte() - ' ') % 96; left > 0 && !IsSpent(); --left) {
+    for (int left = static_cast<unsigned char>(Byte() - ' ') % 96; left > 0 && !IsEmpty(); --left) {
         const unsigned char byte = Byte();
         if (byte < 0x80)
             text += static_cast<char16_t>(byte);
@@ -61,7 +61,7 @@ std::u16string FuzzInput::Text() {
     return text;
 }
 
-std::string FuzzInput::Narrow() {
+std::string FuzzInput::Bytes() {
     const auto wanted = static_cast<std::size_t>(static_cast<unsigned char>(Byte() - ' ') % 96);
     const std::string_view taken = m_bytes.substr(0, std::min(wanted, m_bytes.size()));
     m_bytes.remove_prefix(taken.size());

@@ -5,23 +5,23 @@
 #include <string>
 #include <string_view>
 
-/// The bytes of one input, taken from the front as what a target needs. When they are spent everything is zero or
-/// empty. Printable characters stand for themselves, so that an input can be written and read by people.
+/// Decodes the bytes of one fuzz input, from front to back, into numbers and texts. At the end of the input, numbers
+/// are 0 and texts are empty. ASCII characters of a text encode themselves, so that inputs can be written by hand.
 class FuzzInput {
 public:
     FuzzInput(const std::uint8_t* bytes, std::size_t count) : m_bytes(reinterpret_cast<const char*>(bytes), count) {}
 
-    bool IsSpent() const noexcept { return m_bytes.empty(); }
-    /// A number below n, which is at most 256, from one byte: '0' gives 0.
+    bool IsEmpty() const noexcept { return m_bytes.empty(); }
+    /// Reads one byte and returns a number from 0 to n - 1. n is at most 256; the byte '0' returns 0.
     int Below(int n) noexcept { return static_cast<unsigned char>(Byte() - '0') % n; }
     bool Flag() noexcept { return Below(2) != 0; }
-    /// A number that is small, or one of those at which something may turn over.
+    /// Reads a number: a small one, or a boundary value such as 72 or the largest int.
     int Number() noexcept;
-    /// A text of names: ASCII mostly, with units and phrases about which some rule has an opinion. One byte tells how
-    /// many more make it: ' ' none, '!' one ...
+    /// Reads a text: ASCII characters, and units and phrases that a rule treats specially. The first byte is the number
+    /// of bytes that follow: ' ' means 0, '!' means 1, and so on up to 95.
     std::u16string Text();
-    /// The same number of bytes as they are.
-    std::string Narrow();
+    /// Reads bytes as they are. Their number is encoded as for Text.
+    std::string Bytes();
 
 private:
     unsigned char Byte() noexcept {

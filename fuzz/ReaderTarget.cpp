@@ -1,7 +1,8 @@
-// Any bytes are either a document, whose names can be checked without leaving references behind, or one clear error.
+// Parses any bytes as a document. Either the names of the document can be checked without a leaked reference, or the
+// reader reports one error of one line.
 
 #include "ExitCode.h"
-#include "Operations.h"
+#include "Expectations.h"
 #include "QVRGenI18NUtils.h"
 #include "QVRNameUtil.h"
 #include "document/LoadedDocument.h"
@@ -10,14 +11,14 @@ namespace {
 
 /// Checks that an error is one line with a message.
 void ExpectClear(const std::string& message) {
-    ExpectThat(message.size() > 10, "an error has a message");
-    ExpectThat(message.find('\n') == std::string::npos, "an error is one line");
+    ExpectTrue(message.size() > 10, "an error has a message");
+    ExpectTrue(message.find('\n') == std::string::npos, "an error is one line");
 }
 
 void CheckAll(LoadedDocument& loaded) {
     for (std::size_t i = 0; i < loaded.entries.size(); ++i) {
         const DocumentEntry& entry = loaded.entries[i];
-        ExpectThat(i == 0 || entry.parent < i, "a parent comes before the objects below it");
+        ExpectTrue(i == 0 || entry.parent < i, "a parent is listed before its children");
         ZFXISpecObject_var feature(entry.feature);
         ZFXUnicodeString name;
         QVRNameUtil::CheckName(feature, name, 1);
@@ -25,7 +26,7 @@ void CheckAll(LoadedDocument& loaded) {
         CountOperations(2);
     }
     QVRGenI18NUtils::Instance()->ResetAllLists();
-    ExpectSame(loaded.model.References(), 0, "a reference was not released");
+    ExpectEqual(loaded.model.References(), 0, "a reference was not released");
 }
 
 } // namespace
@@ -38,6 +39,6 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t cou
     } catch (const BadInput& refused) {
         ExpectClear(refused.what());
     }
-    ForgetErrors();
+    OverwriteRegisteredErrors();
     return 0;
 }

@@ -1,9 +1,9 @@
-// Strings and lists against those of the standard library, through any sequence of operations. An argument is often
-// the object itself.
+// Calls random sequences of operations on strings and lists, and compares the results with the reference implementation
+// and the standard library. An argument is often the object itself.
 
+#include "Expectations.h"
 #include "FuzzInput.h"
-#include "Operations.h"
-#include "PlainText.h"
+#include "ReferenceText.h"
 
 #include "collections/ZFXRawCollint.h"
 #include "object-model/ZFXHandle.h"
@@ -16,13 +16,15 @@
 
 namespace {
 
-using Plain::Text;
+using Reference::Text;
 
-constexpr std::size_t kSlots = 4;
-constexpr std::size_t kLongest = 400;
+constexpr std::size_t kSlotCount = 4;
+constexpr std::size_t kMaxLength = 400;
 
-std::size_t Slot(FuzzInput& input) { return static_cast<std::size_t>(input.Below(kSlots)); }
+/// Selects one of the strings or lists.
+std::size_t Slot(FuzzInput& input) { return static_cast<std::size_t>(input.Below(kSlotCount)); }
 
+/// Applies each operation to a string and to its reference text, and compares all strings afterwards.
 class Strings {
 public:
     explicit Strings(FuzzInput& input) : m_input(input) {}
@@ -41,168 +43,169 @@ public:
             Derive(at, other);
             break;
         default:
-            Ask(at, other);
+            Query(at, other);
             break;
         }
-        if (m_plain[at].size() > kLongest) {
-            m_strings[at].Resize(static_cast<int>(kLongest));
-            m_plain[at].resize(kLongest);
+        if (m_reference[at].size() > kMaxLength) {
+            m_strings[at].Resize(static_cast<int>(kMaxLength));
+            m_reference[at].resize(kMaxLength);
         }
         CountOperations(1);
-        for (std::size_t i = 0; i < kSlots; ++i)
-            ExpectSame(m_strings[i], m_plain[i], "a string after an operation");
+        for (std::size_t i = 0; i < kSlotCount; ++i)
+            ExpectEqual(m_strings[i], m_reference[i], "a string after an operation");
     }
 
 private:
-    /// The string gets another text.
+    /// Assigns another text to a string.
     void Replace(std::size_t at, std::size_t other) {
         ZFXUnicodeString& string = m_strings[at];
         switch (m_input.Below(9)) {
         case 0:
-            m_plain[at] = m_input.Text();
-            string = ZFXUnicodeString(m_plain[at]);
+            m_reference[at] = m_input.Text();
+            string = ZFXUnicodeString(m_reference[at]);
             break;
         case 1:
             string = m_strings[other];
-            m_plain[at] = m_plain[other];
+            m_reference[at] = m_reference[other];
             break;
         case 2:
             string = std::move(m_strings[other]);
             if (at != other)
-                m_plain[at] = std::exchange(m_plain[other], Text());
+                m_reference[at] = std::exchange(m_reference[other], Text());
             break;
         case 3: { // up to the first U+0000
-            const std::string narrow = m_input.Narrow();
+            const std::string narrow = m_input.Bytes();
             string = narrow.c_str();
-            m_plain[at] = Plain::FromUtf8(narrow.c_str());
+            m_reference[at] = Reference::FromUtf8(narrow.c_str());
             break;
         }
-        case 4: // possibly its own narrow form
+        case 4: // possibly its own UTF-8 form
             string = m_strings[other].ConvertToChar();
-            m_plain[at] = Plain::FromUtf8(Plain::Utf8Of(m_plain[other]).c_str());
+            m_reference[at] = Reference::FromUtf8(Reference::Utf8Of(m_reference[other]).c_str());
             break;
         case 5: {
             const int number = m_input.Number();
             string.BuildFromNum(number, m_input.Flag() ? "%d" : "%5d");
             string.BuildFromNum(number, "%d");
-            m_plain[at] = Plain::Decimal(number);
+            m_reference[at] = Reference::ToDecimal(number);
             break;
         }
-        case 6: { // possibly its own units
-            std::vector<unsigned short> units(m_plain[other].begin(), m_plain[other].end());
+        case 6: { // possibly its own buffer
+            std::vector<unsigned short> units(m_reference[other].begin(), m_reference[other].end());
             const int count = m_input.Below(static_cast<int>(std::min(units.size() + 1, std::size_t{256})));
             const auto* own = reinterpret_cast<const unsigned short*>(m_strings[other].Units().data());
             string.BuildFromUCChar(m_input.Flag() ? own : units.data(), count);
-            m_plain[at] = Plain::Part(m_plain[other], 0, count);
+            m_reference[at] = Reference::Substring(m_reference[other], 0, count);
             break;
         }
         case 7: {
             const Text unit = m_input.Text().substr(0, 1);
             const auto count = static_cast<std::size_t>(m_input.Below(80));
             string = ZFXUnicodeString(ZFXUnicodeChar::FromUnit(unit.empty() ? char16_t{0} : unit[0]), count);
-            m_plain[at] = Text(count, unit.empty() ? char16_t{0} : unit[0]);
+            m_reference[at] = Text(count, unit.empty() ? char16_t{0} : unit[0]);
             break;
         }
         default: {
             ZFXUnicodeString copy(m_strings[other]);
             ZFXUnicodeString moved(std::move(copy));
-            copy = moved; // a string that was moved from can be used again
+            copy = moved; // a moved-from string can be assigned
             std::swap(string, copy);
-            m_plain[at] = m_plain[other];
+            m_reference[at] = m_reference[other];
             break;
         }
         }
     }
 
-    /// In place.
+    /// Modifies a string in place.
     void Change(std::size_t at, std::size_t other) {
         ZFXUnicodeString& string = m_strings[at];
         const ZFXUnicodeString& argument = m_strings[other];
         const std::size_t third = Slot(m_input);
-        const Text before = m_plain[at];
-        const Text text = m_plain[other];
+        const Text before = m_reference[at];
+        const Text text = m_reference[other];
         switch (m_input.Below(9)) {
         case 0:
-            ExpectThat(&string.Append(argument) == &string, "Append gives the string itself");
-            m_plain[at] = before + text;
+            ExpectTrue(&string.Append(argument) == &string, "Append returns the string itself");
+            m_reference[at] = before + text;
             break;
         case 1:
             string.ReplaceAll(argument, m_strings[third]);
-            m_plain[at] = Plain::Replaced(before, text, m_plain[third]);
+            m_reference[at] = Reference::Replaced(before, text, m_reference[third]);
             break;
         case 2: {
-            const int place = text.empty() ? -1 : Plain::FirstPlace(before, text, 0);
-            ExpectSame(string.ReplaceSubString(argument, m_strings[third]), place >= 0 ? 1 : 0, "ReplaceSubString");
-            if (place >= 0)
-                m_plain[at] = Plain::Replaced(before, place, static_cast<int>(text.size()), Text(m_plain[third]));
+            const int position = text.empty() ? -1 : Reference::FindFirst(before, text, 0);
+            ExpectEqual(string.ReplaceSubString(argument, m_strings[third]), position >= 0 ? 1 : 0, "ReplaceSubString");
+            if (position >= 0)
+                m_reference[at] =
+                    Reference::Replaced(before, position, static_cast<int>(text.size()), Text(m_reference[third]));
             break;
         }
         case 3: {
             const int start = m_input.Number();
             const int count = m_input.Number();
             string.ReplaceSubString(start, count, argument);
-            m_plain[at] = Plain::Replaced(before, start, count, text);
+            m_reference[at] = Reference::Replaced(before, start, count, text);
             break;
         }
         case 4: {
             const int start = m_input.Number();
             const int count = m_input.Number();
             string.Remove(start, count);
-            m_plain[at] = Plain::Replaced(before, start, count, u"");
+            m_reference[at] = Reference::Replaced(before, start, count, u"");
             break;
         }
         case 5: {
             const int length = m_input.Number();
             string.Resize(length);
-            m_plain[at] = length < 0 ? before : Plain::Part(before, 0, length);
+            m_reference[at] = length < 0 ? before : Reference::Substring(before, 0, length);
             break;
         }
         case 6:
         case 7: {
             const bool up = m_input.Flag();
             up ? string.ToUpper() : string.ToLower();
-            m_plain[at].clear();
-            for (const Text& character : Plain::Characters(before))
-                m_plain[at] += Mapped(character, up);
+            m_reference[at].clear();
+            for (const Text& character : Reference::Characters(before))
+                m_reference[at] += Mapped(character, up);
             break;
         }
         default: {
-            string = ZFXUnicodeString(string.Units().substr(before.size() / 2)); // a part of itself
-            m_plain[at] = before.substr(before.size() / 2);
+            string = ZFXUnicodeString(string.Units().substr(before.size() / 2)); // a part of the string itself
+            m_reference[at] = before.substr(before.size() / 2);
             break;
         }
         }
     }
 
-    /// One character alone: with ASCII the answer is known, and no length changes.
+    /// Returns the case mapping of one character. Checks that the length is unchanged, and the result for ASCII.
     static Text Mapped(const Text& character, bool up) {
         ZFXUnicodeString mapped(character);
         up ? mapped.ToUpper() : mapped.ToLower();
         const char16_t unit = character[0];
         const bool changes = up ? unit >= u'a' && unit <= u'z' : unit >= u'A' && unit <= u'Z';
         if (unit < 0x80)
-            ExpectSame(mapped, Text(1, static_cast<char16_t>(changes ? unit ^ 0x20 : unit)), "the case of ASCII");
-        ExpectSame(mapped.GetLengthInChar(), static_cast<long>(character.size()), "a case mapping keeps the length");
+            ExpectEqual(mapped, Text(1, static_cast<char16_t>(changes ? unit ^ 0x20 : unit)), "the case of ASCII");
+        ExpectEqual(mapped.GetLengthInChar(), static_cast<long>(character.size()), "a case mapping keeps the length");
         return Text(mapped.Units());
     }
 
-    /// A new string from others.
+    /// Assigns the result of an operation on other strings.
     void Derive(std::size_t at, std::size_t other) {
         const ZFXUnicodeString& string = m_strings[other];
-        const Text text = m_plain[other];
+        const Text text = m_reference[other];
         switch (m_input.Below(3)) {
         case 0: {
             const int start = m_input.Number();
             const int count = m_input.Number();
             m_strings[at] = string.SubString(start, count);
-            m_plain[at] = Plain::Part(text, start, count);
+            m_reference[at] = Reference::Substring(text, start, count);
             break;
         }
         case 1: {
             const std::size_t third = Slot(m_input);
-            const Text sum = text + m_plain[third];
+            const Text sum = text + m_reference[third];
             m_strings[at] = string + m_strings[third];
-            m_plain[at] = sum;
+            m_reference[at] = sum;
             break;
         }
         default: {
@@ -211,49 +214,51 @@ private:
             const bool isBlank = m_input.Flag();
             const char16_t unit = isBlank || text.empty() ? u' ' : text[text.size() / 2];
             m_strings[at] = isBlank ? string.Strip(mode) : string.Strip(mode, ZFXUnicodeChar::FromUnit(unit));
-            m_plain[at] = Plain::Stripped(text, unit, static_cast<Plain::End>(end));
+            m_reference[at] = Reference::Stripped(text, unit, static_cast<Reference::End>(end));
             break;
         }
         }
     }
 
-    void Ask(std::size_t at, std::size_t other) {
+    void Query(std::size_t at, std::size_t other) {
         const ZFXUnicodeString& string = m_strings[at];
         const ZFXUnicodeString& argument = m_strings[other];
-        const Text& text = m_plain[at];
-        const Text& sub = m_plain[other];
-        ExpectSame(string.GetLengthInChar(), static_cast<long>(text.size()), "GetLengthInChar");
-        ExpectThat((string.IsNull() != 0) == text.empty(), "IsNull");
-        ExpectThat((string == argument) == (text == sub), "operator==");
+        const Text& text = m_reference[at];
+        const Text& sub = m_reference[other];
+        ExpectEqual(string.GetLengthInChar(), static_cast<long>(text.size()), "GetLengthInChar");
+        ExpectTrue((string.IsNull() != 0) == text.empty(), "IsNull");
+        ExpectTrue((string == argument) == (text == sub), "operator==");
         switch (m_input.Below(5)) {
         case 0: {
             const int start = m_input.Number();
-            ExpectSame(string.SearchSubString(argument, start, ZFXUnicodeString::SearchForward),
-                       Plain::FirstPlace(text, sub, start), "SearchSubString forward");
-            ExpectSame(string.SearchSubString(argument, start, ZFXUnicodeString::SearchBackward),
-                       Plain::LastPlace(text, sub, start), "SearchSubString backward");
+            ExpectEqual(string.SearchSubString(argument, start, ZFXUnicodeString::SearchForward),
+                        Reference::FindFirst(text, sub, start), "SearchSubString forward");
+            ExpectEqual(string.SearchSubString(argument, start, ZFXUnicodeString::SearchBackward),
+                        Reference::FindLast(text, sub, start), "SearchSubString backward");
             break;
         }
         case 1: {
-            const std::string narrow = Plain::Utf8Of(text);
-            const char* answer = string.ConvertToChar();
-            ExpectSame(std::string_view(answer, narrow.size() + 1), std::string_view(narrow.c_str(), narrow.size() + 1),
-                       "ConvertToChar");
-            ExpectThat(string.ConvertToChar() == answer, "the narrow form stays where it is");
-            const std::string told = m_input.Flag() ? narrow : m_input.Narrow();
-            ExpectThat((string == told.c_str()) == (text == Plain::FromUtf8(told.c_str())), "operator== with UTF-8");
+            const std::string narrow = Reference::Utf8Of(text);
+            const char* result = string.ConvertToChar();
+            ExpectEqual(std::string_view(result, narrow.size() + 1),
+                        std::string_view(narrow.c_str(), narrow.size() + 1), "ConvertToChar");
+            ExpectTrue(string.ConvertToChar() == result, "ConvertToChar returns the same buffer again");
+            const std::string bytes = m_input.Flag() ? narrow : m_input.Bytes();
+            ExpectTrue((string == bytes.c_str()) == (text == Reference::FromUtf8(bytes.c_str())),
+                       "operator== with UTF-8");
             break;
         }
         case 2: {
-            const std::optional<int> expected = Plain::NumberAtFront(text);
+            const std::optional<int> expected = Reference::NumberAtFront(text);
             int number = 7;
-            ExpectSame(string.ConvertToNum(&number, "%d"), expected ? 1 : 0, "ConvertToNum");
-            ExpectSame(number, expected.value_or(7), "ConvertToNum");
+            ExpectEqual(string.ConvertToNum(&number, "%d"), expected ? 1 : 0, "ConvertToNum");
+            ExpectEqual(number, expected.value_or(7), "ConvertToNum");
             break;
         }
         case 3: {
-            const auto place = static_cast<std::size_t>(static_cast<unsigned>(m_input.Number()));
-            ExpectThat(string[place].ConvertToUC2Bytes() == (place < text.size() ? text[place] : 0), "operator[]");
+            const auto position = static_cast<std::size_t>(static_cast<unsigned>(m_input.Number()));
+            ExpectTrue(string[position].ConvertToUC2Bytes() == (position < text.size() ? text[position] : 0),
+                       "operator[]");
             break;
         }
         default:
@@ -262,22 +267,22 @@ private:
         }
     }
 
-    /// Names clash as a whole when their characters do one by one.
+    /// Checks that two texts compare as their characters do one by one.
     void Compare(const ZFXUnicodeString& string, const ZFXUnicodeString& argument, const Text& text, const Text& sub) {
-        ExpectSame(string.Compare(argument), argument.Compare(string), "Compare in both directions");
-        ExpectSame(string.Compare(argument), Expected(text, sub), "Compare");
+        ExpectEqual(string.Compare(argument), argument.Compare(string), "Compare in both directions");
+        ExpectEqual(string.Compare(argument), Expected(text, sub), "Compare");
         ZFXUnicodeString swapped(string);
         m_input.Flag() ? swapped.ToUpper() : swapped.ToLower();
-        ExpectSame(string.Compare(swapped), Expected(text, Text(swapped.Units())), "Compare with another case");
+        ExpectEqual(string.Compare(swapped), Expected(text, Text(swapped.Units())), "Compare with another case");
         const bool isAscii = std::all_of(text.begin(), text.end(), [](char16_t unit) { return unit < 0x80; });
-        ExpectThat(!isAscii || string.Compare(swapped) != 0, "ASCII compares equal in any case");
+        ExpectTrue(!isAscii || string.Compare(swapped) != 0, "ASCII compares equal in any case");
     }
 
     static int Expected(const Text& text, const Text& sub) {
         if (text == sub)
             return 2;
-        const std::vector<Text> left = Plain::Characters(text);
-        const std::vector<Text> right = Plain::Characters(sub);
+        const std::vector<Text> left = Reference::Characters(text);
+        const std::vector<Text> right = Reference::Characters(sub);
         if (left.size() != right.size())
             return 0;
         for (std::size_t i = 0; i < left.size(); ++i)
@@ -287,21 +292,21 @@ private:
     }
 
     FuzzInput& m_input;
-    std::array<ZFXUnicodeString, kSlots> m_strings;
-    std::array<Text, kSlots> m_plain;
+    std::array<ZFXUnicodeString, kSlotCount> m_strings;
+    std::array<Text, kSlotCount> m_reference;
 };
 
-/// An object of which it is known whether it lives.
-class Thing final : public ZFXBaseUnknown {
+/// An object that counts the existing instances.
+class CountedObject final : public ZFXBaseUnknown {
 public:
-    Thing() { ++living; }
-    ~Thing() override { --living; }
+    CountedObject() { ++liveCount; }
+    ~CountedObject() override { --liveCount; }
 
-    static long living;
+    static long liveCount;
 };
-long Thing::living = 0;
+long CountedObject::liveCount = 0;
 
-/// How to make an element from the input, for each type of element.
+/// Reads an element of the given type from the input.
 template <class Element>
 Element Make(FuzzInput& input);
 template <>
@@ -314,9 +319,10 @@ ZFXUnicodeString Make(FuzzInput& input) {
 }
 template <>
 ZFXBaseUnknown_var Make(FuzzInput& input) {
-    return input.Flag() ? ZFXBaseUnknown_var::TakeOver(new Thing) : ZFXBaseUnknown_var();
+    return input.Flag() ? ZFXBaseUnknown_var::TakeOver(new CountedObject) : ZFXBaseUnknown_var();
 }
 
+/// Applies each operation to a list and to its reference vector, and compares all lists afterwards.
 template <class Element>
 class Lists {
 public:
@@ -327,97 +333,100 @@ public:
         const std::size_t other = Slot(m_input);
         Change(at, other);
         CountOperations(1);
-        for (std::size_t i = 0; i < kSlots; ++i) {
-            ExpectSame(m_lists[i].Size(), static_cast<long>(m_plain[i].size()), "the size of a list");
+        for (std::size_t i = 0; i < kSlotCount; ++i) {
+            ExpectEqual(m_lists[i].Size(), static_cast<long>(m_reference[i].size()), "the size of a list");
             const ZFXListVal<Element>& list = m_lists[i];
-            for (int place = 1; place <= list.Size(); ++place)
-                ExpectThat(list[place] == At(i, place), "an element of a list");
+            for (int index = 1; index <= list.Size(); ++index)
+                ExpectTrue(list[index] == At(i, index), "an element of a list");
         }
     }
 
 private:
-    Element& At(std::size_t list, int place) { return m_plain[list][static_cast<std::size_t>(place) - 1]; }
-    bool Holds(std::size_t list, int place) { return place >= 1 && place <= static_cast<int>(m_plain[list].size()); }
+    Element& At(std::size_t list, int index) { return m_reference[list][static_cast<std::size_t>(index) - 1]; }
+    bool IsValidIndex(std::size_t list, int index) {
+        return index >= 1 && index <= static_cast<int>(m_reference[list].size());
+    }
 
     void Change(std::size_t at, std::size_t other) {
         ZFXListVal<Element>& list = m_lists[at];
-        std::vector<Element>& plain = m_plain[at];
-        const int place = m_input.Number();
+        std::vector<Element>& reference = m_reference[at];
+        const int index = m_input.Number();
         switch (m_input.Below(8)) {
         case 0:
-            plain.push_back(Make<Element>(m_input));
-            list.Append(plain.back());
+            reference.push_back(Make<Element>(m_input));
+            list.Append(reference.back());
             break;
-        case 1: // an element of a list, possibly of the same one
-            if (plain.size() >= 40)
+        case 1: // an element of a list, possibly of this list
+            if (reference.size() >= 40)
                 break;
-            plain.push_back(Holds(other, place) ? Element(At(other, place)) : Element());
-            list.Append(m_lists[other][place]);
+            reference.push_back(IsValidIndex(other, index) ? Element(At(other, index)) : Element());
+            list.Append(m_lists[other][index]);
             break;
         case 2:
-            if (Holds(at, place))
-                plain.erase(plain.begin() + (place - 1));
-            list.RemovePosition(place);
+            if (IsValidIndex(at, index))
+                reference.erase(reference.begin() + (index - 1));
+            list.RemovePosition(index);
             break;
         case 3: {
-            const Element wanted = Holds(other, place) ? At(other, place) : Make<Element>(m_input);
+            const Element wanted = IsValidIndex(other, index) ? At(other, index) : Make<Element>(m_input);
             const int from = m_input.Number();
-            ExpectSame(list.Locate(wanted, from), Located(plain, wanted, from), "Locate");
-            ExpectSame(list.NbOccur(wanted), std::count(plain.begin(), plain.end(), wanted), "NbOccur");
+            ExpectEqual(list.Locate(wanted, from), Located(reference, wanted, from), "Locate");
+            ExpectEqual(list.NbOccur(wanted), std::count(reference.begin(), reference.end(), wanted), "NbOccur");
             break;
         }
         case 4:
             list = m_lists[other];
-            plain = std::vector<Element>(m_plain[other]);
+            reference = std::vector<Element>(m_reference[other]);
             break;
         case 5: {
             ZFXListVal<Element> copy(m_lists[other]);
             list = std::move(copy);
-            plain = std::vector<Element>(m_plain[other]);
+            reference = std::vector<Element>(m_reference[other]);
             break;
         }
         case 6:
             list.RemoveAll(ZFXCollec::ReleaseAllocation);
-            plain.clear();
+            reference.clear();
             break;
         default:
-            list.Reserve(place % 1000);
-            ExpectThat(Holds(at, place) || list[place] == Element{}, "outside a list there is nothing");
+            list.Reserve(index % 1000);
+            ExpectTrue(IsValidIndex(at, index) || list[index] == Element{},
+                       "an index outside the list returns an empty element");
             break;
         }
     }
 
-    static long Located(const std::vector<Element>& plain, const Element& wanted, int from) {
-        for (std::size_t i = 0; i < plain.size(); ++i)
-            if (static_cast<long>(i) + 1 >= from && plain[i] == wanted)
+    static long Located(const std::vector<Element>& reference, const Element& wanted, int from) {
+        for (std::size_t i = 0; i < reference.size(); ++i)
+            if (static_cast<long>(i) + 1 >= from && reference[i] == wanted)
                 return static_cast<long>(i) + 1;
         return 0;
     }
 
     FuzzInput& m_input;
-    std::array<ZFXListVal<Element>, kSlots> m_lists;
-    std::array<std::vector<Element>, kSlots> m_plain;
+    std::array<ZFXListVal<Element>, kSlotCount> m_lists;
+    std::array<std::vector<Element>, kSlotCount> m_reference;
 };
 
-template <class Story>
-void Tell(FuzzInput& input) {
-    Story story(input);
-    while (!input.IsSpent())
-        story.Step();
+template <class Scenario>
+void Run(FuzzInput& input) {
+    Scenario scenario(input);
+    while (!input.IsEmpty())
+        scenario.Step();
 }
 
-constexpr void (*kStories[])(FuzzInput&) = {Tell<Strings>,
-                                            Tell<Strings>,
-                                            Tell<Strings>,
-                                            Tell<Lists<int>>,
-                                            Tell<Lists<ZFXUnicodeString>>,
-                                            Tell<Lists<ZFXBaseUnknown_var>>};
+constexpr void (*kScenarios[])(FuzzInput&) = {Run<Strings>,
+                                              Run<Strings>,
+                                              Run<Strings>,
+                                              Run<Lists<int>>,
+                                              Run<Lists<ZFXUnicodeString>>,
+                                              Run<Lists<ZFXBaseUnknown_var>>};
 
 } // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t count) {
     FuzzInput input(bytes, count);
-    kStories[input.Below(std::size(kStories))](input);
-    ExpectSame(Thing::living, 0, "a reference was not released");
+    kScenarios[input.Below(std::size(kScenarios))](input);
+    ExpectEqual(CountedObject::liveCount, 0, "a reference was not released");
     return 0;
 }

@@ -83,9 +83,9 @@ TEST(NameRules, TextsListTheCharactersOfTheTable) {
     ExpectListed(page, "\n\n", "### `IsNameValid(", marked, NameReservedChars);
     ExpectListed(page, "\n\n", "### `IsFileNameValid(", marked, NameReservedChars.substr(0, 2));
 
-    const Path plain = sources / "fuzz/PlainRules.cpp";
-    ExpectListed(plain, "\n", "kReserved = ", R"x(R"\((.*)\)")x", NameReservedChars);
-    ExpectListed(plain, "\n", "kQuiet = ", R"x(R"\((.*)\)")x", IllegalChars);
+    const Path reference = sources / "fuzz/ReferenceRules.cpp";
+    ExpectListed(reference, "\n", "kReserved = ", R"x(R"\((.*)\)")x", NameReservedChars);
+    ExpectListed(reference, "\n", "kIllegal = ", R"x(R"\((.*)\)")x", IllegalChars);
 }
 
 } // namespace

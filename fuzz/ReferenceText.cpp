@@ -1,10 +1,10 @@
-#include "PlainText.h"
+#include "ReferenceText.h"
 
 #include <algorithm>
 #include <cstdint>
 #include <limits>
 
-namespace Plain {
+namespace Reference {
 namespace {
 
 int Length(View text) { return static_cast<int>(text.size()); }
@@ -12,8 +12,8 @@ int Length(View text) { return static_cast<int>(text.size()); }
 bool IsHigh(char16_t unit) { return unit >= 0xD800 && unit <= 0xDBFF; }
 bool IsLow(char16_t unit) { return unit >= 0xDC00 && unit <= 0xDFFF; }
 
-/// The well-formed sequences, as the Unicode standard lists them: ranges of the first and the second byte; all further
-/// bytes are 80 to BF.
+/// The well-formed UTF-8 sequences, as in the table of the Unicode standard: ranges of the first and of the second
+/// byte. All further bytes are 80 to BF.
 struct Sequence {
     unsigned first, last, secondFirst, secondLast;
     std::size_t bytes;
@@ -24,7 +24,7 @@ constexpr Sequence kSequences[] = {
     {0xF0, 0xF0, 0x90, 0xBF, 4}, {0xF1, 0xF3, 0x80, 0xBF, 4}, {0xF4, 0xF4, 0x80, 0x8F, 4},
 };
 
-/// The bytes of the well-formed sequence at the front; 0 when there is none.
+/// Returns the length of the well-formed sequence at the start, or 0 if there is none.
 std::size_t WellFormed(std::string_view bytes) {
     const auto at = [&](std::size_t i) { return static_cast<unsigned>(static_cast<unsigned char>(bytes[i])); };
     for (const Sequence& s : kSequences) {
@@ -72,7 +72,7 @@ Text Replaced(View text, View old, View by) {
 
 Text Replaced(View text, int start, int count, View by) {
     Text result;
-    const Text part = Part(text, start, count);
+    const Text part = Substring(text, start, count);
     const int from = std::min(std::max(start, 0), Length(text));
     for (int i = 0; i < from; ++i)
         result += text[static_cast<std::size_t>(i)];
@@ -82,31 +82,31 @@ Text Replaced(View text, int start, int count, View by) {
     return result;
 }
 
-Text Part(View text, int start, int count) {
+Text Substring(View text, int start, int count) {
     Text result;
     for (std::int64_t i = std::max(start, 0), left = count; i < Length(text) && left != 0; ++i, --left)
         result += text[static_cast<std::size_t>(i)];
     return result;
 }
 
-int FirstPlace(View text, View sub, int start) {
+int FindFirst(View text, View sub, int start) {
     for (int i = std::min(std::max(start, 0), Length(text)); i + Length(sub) <= Length(text); ++i)
-        if (Part(text, i, Length(sub)) == sub)
+        if (Substring(text, i, Length(sub)) == sub)
             return i;
     return -1;
 }
 
-int LastPlace(View text, View sub, int start) {
+int FindLast(View text, View sub, int start) {
     int last = -1;
     for (int i = std::min(std::max(start, 0), Length(text)); i + Length(sub) <= Length(text); ++i)
-        if (Part(text, i, Length(sub)) == sub)
+        if (Substring(text, i, Length(sub)) == sub)
             last = i;
     return last;
 }
 
-bool BeginsWith(View text, View sub) { return Part(text, 0, Length(sub)) == sub; }
+bool BeginsWith(View text, View sub) { return Substring(text, 0, Length(sub)) == sub; }
 
-bool Holds(View text, View anyOf) {
+bool ContainsAny(View text, View anyOf) {
     for (const char16_t unit : text)
         for (const char16_t wanted : anyOf)
             if (unit == wanted)
@@ -115,7 +115,7 @@ bool Holds(View text, View anyOf) {
 }
 
 std::optional<int> NumberAtFront(View text) {
-    while (!text.empty() && Holds(text.substr(0, 1), u" \t\n\v\f\r"))
+    while (!text.empty() && ContainsAny(text.substr(0, 1), u" \t\n\v\f\r"))
         text.remove_prefix(1);
     const bool negative = BeginsWith(text, u"-");
     if (negative || BeginsWith(text, u"+"))
@@ -139,7 +139,7 @@ std::optional<int> NumberAtFront(View text) {
     return static_cast<int>(value);
 }
 
-Text Decimal(int number) {
+Text ToDecimal(int number) {
     Text text;
     for (const char c : std::to_string(number))
         text += static_cast<char16_t>(c);
@@ -211,4 +211,4 @@ Text LoweredAscii(View text) {
     return lowered;
 }
 
-} // namespace Plain
+} // namespace Reference
