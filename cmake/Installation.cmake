@@ -1,6 +1,6 @@
-# What an installed copy holds: the three libraries with the message catalog beside them, their headers, package files
-# for find_package(QVRGeneralUtilities) and for pkg-config, the pages, and the command-line host when it was built.
-# docs/packaging.md shows the folders.
+# Installs the three libraries with the message catalogs in a folder next to them, the headers, the package files for
+# find_package(QVRGeneralUtilities) and for pkg-config, the documentation, and qvrnames if it was built.
+# docs/packaging.md lists the folders.
 
 include(GNUInstallDirs)
 include(CMakePackageConfigHelpers)
@@ -10,12 +10,13 @@ set(headers ${CMAKE_INSTALL_INCLUDEDIR}/${package})
 set(package_files ${CMAKE_INSTALL_LIBDIR}/cmake/${package})
 set(pkgconfig_files ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
 
-# pkg-config's files lead to the folders from where they lie themselves, so that a copy may be moved.
+# The pkg-config files use paths relative to themselves, so that an installed copy can be moved.
 file(RELATIVE_PATH prefix_from_pkgconfig /${pkgconfig_files} /)
 
-# qvr_install_library(library export-name description requires): `requires` is what pkg-config adds.
+# qvr_install_library(library export-name description requires): installs one library with its pkg-config file.
+# `requires` lists the packages that pkg-config adds.
 function(qvr_install_library library export_name description requires)
-  # Each library says where its headers lie in this tree; a copy has them all in one folder.
+  # The source tree has several include folders; an installed copy has one.
   get_target_property(folders ${library} INTERFACE_INCLUDE_DIRECTORIES)
   if(folders)
     set_target_properties(${library} PROPERTIES INTERFACE_INCLUDE_DIRECTORIES "$<BUILD_INTERFACE:${folders}>")
@@ -25,16 +26,16 @@ function(qvr_install_library library export_name description requires)
     EXPORT_NAME ${export_name}
     VERSION ${PROJECT_VERSION}
     SOVERSION ${PROJECT_VERSION_MAJOR}
-    INSTALL_RPATH $ORIGIN) # a copy finds its parts wherever it is moved to
+    INSTALL_RPATH $ORIGIN) # an installed copy can be moved
   add_library(${package}::${export_name} ALIAS ${library})
   install(TARGETS ${library} EXPORT ${package}Targets INCLUDES DESTINATION ${headers})
   configure_file(${PROJECT_SOURCE_DIR}/cmake/library.pc.in ${PROJECT_BINARY_DIR}/pkgconfig/${library}.pc @ONLY)
   install(FILES ${PROJECT_BINARY_DIR}/pkgconfig/${library}.pc DESTINATION ${pkgconfig_files})
 endfunction()
 
-qvr_install_library(ZFXPlatform Platform "What a host and the rules of names share" "")
+qvr_install_library(ZFXPlatform Platform "The object model and the interfaces between a host and QVRNameUtility" "")
 qvr_install_library(QVRNameUtility QVRNameUtility "${PROJECT_DESCRIPTION}" "ZFXPlatform = ${PROJECT_VERSION}")
-qvr_install_library(ZFXMemoryModel MemoryModel "Analysis documents in memory, for tests and tools"
+qvr_install_library(ZFXMemoryModel MemoryModel "In-memory analysis documents for tests and tools"
   "ZFXPlatform = ${PROJECT_VERSION}")
 
 install(DIRECTORY
@@ -42,7 +43,8 @@ install(DIRECTORY
   ${PROJECT_BINARY_DIR}/include/
   ${PROJECT_SOURCE_DIR}/platform/
   DESTINATION ${headers} FILES_MATCHING PATTERN "*.h" PATTERN "*.def" PATTERN "unicode" EXCLUDE)
-# The platform looks for catalogs in this folder beside itself; on Windows libraries lie beside programs.
+# The platform library searches for catalogs in the folder "msgcatalog" next to itself. On Windows the libraries are in
+# the folder of the programs.
 install(DIRECTORY ${PROJECT_SOURCE_DIR}/QVRGeneralUtilities/resources/msgcatalog
         DESTINATION $<IF:$<PLATFORM_ID:Windows>,${CMAKE_INSTALL_BINDIR},${CMAKE_INSTALL_LIBDIR}>)
 
@@ -55,7 +57,7 @@ install(FILES
   ${PROJECT_BINARY_DIR}/${package}ConfigVersion.cmake
   DESTINATION ${package_files})
 
-# The pages keep their places to each other, so that their links hold.
+# The pages keep their relative paths, so that the links between them work.
 install(FILES README.md ARCHITECTURE.md CONTRIBUTING.md CHANGELOG.md DESTINATION ${CMAKE_INSTALL_DOCDIR})
 install(FILES platform/README.md DESTINATION ${CMAKE_INSTALL_DOCDIR}/platform)
 install(DIRECTORY docs DESTINATION ${CMAKE_INSTALL_DOCDIR}

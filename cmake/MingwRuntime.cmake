@@ -1,5 +1,6 @@
-# The compiler's runtime libraries, shared by ours and the program: exceptions and standard streams go from one to the
-# other. Nobody's Windows has them, so they lie beside the programs, in the build and in an installed copy.
+# Copies the runtime libraries of the compiler into the folder of the programs, in the build and in an installed copy.
+# They are linked dynamically, because exceptions and standard streams cross the borders of our libraries. Windows does
+# not contain them.
 
 set(runtimes)
 foreach(runtime libgcc_s_seh-1.dll libstdc++-6.dll libwinpthread-1.dll)

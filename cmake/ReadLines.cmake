@@ -1,7 +1,7 @@
-# Text files as lists of lines, for the scripts that read pages and sources.
-#   read_lines(FILE VARIABLE)      the lines; semicolons, which split lists, brackets, which hold them together, and
-#                                  backslashes are stood in for: ${stand1} to ${stand4}
-#   as_written(TEXT VARIABLE)      the text with all of them back
+# Reads text files as lists of lines, for the scripts that check pages and sources.
+#   read_lines(FILE VARIABLE)   sets VARIABLE to the lines of the file. Replaces the characters that are special in lists
+#                               (; [ ] \) by the control characters ${stand1} to ${stand4}.
+#   as_written(TEXT VARIABLE)   sets VARIABLE to TEXT with the original characters.
 
 foreach(number RANGE 1 4)
   string(ASCII ${number} stand${number})

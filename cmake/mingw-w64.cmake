@@ -1,15 +1,15 @@
-# For Windows (64 bits), built with mingw-w64 elsewhere; what is built runs there under Wine.
+# Toolchain file: builds for 64-bit Windows with mingw-w64 on another system. The programs run under Wine there.
 
 set(CMAKE_SYSTEM_NAME Windows)
 set(CMAKE_SYSTEM_PROCESSOR x86_64)
 
 set(tools x86_64-w64-mingw32)
-# The compiler whose standard library has threads.
+# The variant whose standard library supports threads.
 set(CMAKE_C_COMPILER ${tools}-gcc-posix)
 set(CMAKE_CXX_COMPILER ${tools}-g++-posix)
 set(CMAKE_RC_COMPILER ${tools}-windres)
 
-# This machine's own headers and libraries are none of Windows'.
+# Headers and libraries of the build machine must not be used.
 set(CMAKE_FIND_ROOT_PATH /usr/${tools})
 set(CMAKE_FIND_ROOT_PATH_MODE_PROGRAM NEVER)
 set(CMAKE_FIND_ROOT_PATH_MODE_LIBRARY ONLY)

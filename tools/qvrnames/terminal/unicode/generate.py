@@ -6,7 +6,7 @@ Usage: generate.py [DATABASE_FOLDER] > generated/WidthRanges.inc
 The output has two sorted tables of ranges: characters with a width of two columns (East Asian Width W and F), and
 characters without a width (nonspacing and enclosing marks, format characters, conjoining Hangul vowels and finals). All
 other characters have a width of one, including those of ambiguous width: terminals outside East Asian settings print
-them so.
+them in one column.
 """
 import sys
 from pathlib import Path
@@ -33,7 +33,7 @@ def zero_width(path):
     for fields in rows(path):
         if fields[2] in ("Mn", "Me", "Cf"):
             zero.add(int(fields[0], 16))
-    return zero - {0x00AD} - set(range(0x0600, 0x0606))  # these are visible
+    return zero - {0x00AD} - set(range(0x0600, 0x0606))  # these characters are visible
 
 
 def write(name, codes):

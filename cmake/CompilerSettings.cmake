@@ -1,4 +1,4 @@
-# What every target of this project is built with.
+# Compiler and linker settings of all targets, and the function that adds a shared library.
 
 set(CMAKE_CXX_STANDARD 20)
 set(CMAKE_CXX_STANDARD_REQUIRED ON)
@@ -9,7 +9,8 @@ set(CMAKE_POSITION_INDEPENDENT_CODE ON)
 set(CMAKE_RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/bin)
 set(CMAKE_LIBRARY_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/lib)
 set(CMAKE_ARCHIVE_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/lib)
-# Where the shared libraries are, and so the message catalogs: Windows looks for libraries beside programs.
+# The folder of the shared libraries and of the message catalogs. Windows searches for a program's libraries in the
+# folder of the program.
 if(WIN32)
   set(QVR_LIBRARIES_HOME ${CMAKE_RUNTIME_OUTPUT_DIRECTORY})
 else()
@@ -20,14 +21,14 @@ set(QVR_SANITIZERS "" CACHE STRING "Sanitizers to build with, such as address,un
 
 add_compile_options(-Wall -Wextra -Wpedantic -Wconversion -Wshadow -Werror)
 
-# What can be checked at little cost is checked, also in a release: writes past a buffer, the stack, the loader's tables.
-# Windows has guards of its own, which the linker for it asks for.
+# Low-cost checks, also in a release: buffer overruns, stack protection, read-only relocations. For Windows, the linker
+# enables the system's protections by default.
 string(APPEND CMAKE_CXX_FLAGS_DEBUG " -D_GLIBCXX_ASSERTIONS")
 if(NOT WIN32)
   string(APPEND CMAKE_CXX_FLAGS_RELEASE " -D_FORTIFY_SOURCE=2 -fstack-protector-strong")
   add_link_options("$<$<CONFIG:Release>:LINKER:-z,relro,-z,now>")
 
-  # A library's own functions are its own: it calls them directly, and what other libraries offer without a stub.
+  # Faster calls: a library calls its own functions directly, and functions of other libraries without a stub.
   add_compile_options("$<$<CONFIG:Release>:-fno-semantic-interposition;-fno-plt>")
   add_link_options("$<$<CONFIG:Release>:LINKER:-Bsymbolic-functions>")
 endif()
@@ -37,9 +38,9 @@ if(QVR_SANITIZERS)
   add_link_options(-fsanitize=${QVR_SANITIZERS})
 endif()
 
-# A shared library of this project: nothing left undefined, so that a layer which reaches
-# for what it may not see fails at link. Clang's sanitizer runtime lives in the program, so
-# that check is left to the other builds there. Windows knows no other way.
+# qvr_shared_library(name source...): adds a shared library without undefined symbols, so that a reference to a library
+# that it must not use fails at link time. The sanitizer builds skip this check, because the program contains Clang's
+# sanitizer runtime. Windows always checks it.
 function(qvr_shared_library name)
   add_library(${name} SHARED ${ARGN})
   if(NOT QVR_SANITIZERS AND NOT WIN32)
@@ -48,7 +49,7 @@ function(qvr_shared_library name)
   if(WIN32)
     set_target_properties(${name} PROPERTIES PREFIX "")
   endif()
-  # Symbols that the loader keeps unique for the life of the process would pin the library.
+  # A library with symbols that are unique in the process could not be unloaded.
   if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
     target_compile_options(${name} PRIVATE -fno-gnu-unique)
   endif()
