@@ -1,4 +1,4 @@
-// A document of its own, with what one guarded renaming and one proposal ask for: see docs/bind-a-host.md.
+// A minimal host: a document that supports one guarded rename and one name proposal. docs/bind-a-host.md explains it.
 #include "QVRNameUtil.h"
 #include "analysis/AnalysisInterfaces.h"
 #include "object-model/ZFXMetaClass.h"
@@ -7,44 +7,37 @@
 
 namespace {
 
-/// One face of a node: it counts on its node, and questions for other interfaces go there by themselves.
-template <class Node, class Interface>
-struct Face : Interface {
-    ULONG AddRef() override { return Self().AddRef(); }
-    ULONG Release() override { return Self().Release(); }
-    Node& Self() { return static_cast<Node&>(*this->Implementation()); }
-};
-
 enum class Kind { Case, History, Step, Set, Load };
 
-/// The one structure of this document, which is a tree of them. A node knows those above and below it.
+/// An object of the document, which is a tree of nodes.
 class Node final : public ZFXBaseUnknown {
 public:
-    Node(Kind nodeKind, const char* nodeType, const char* text, Node* above)
-        : kind(nodeKind), lateType(nodeType), name(text), father(above) {
-        for (const Offer& offer : m_offers)
-            offer.face->SetImpl(this);
+    Node(Kind nodeKind, const char* nodeLateType, const char* nodeName, Node* parent)
+        : kind(nodeKind), lateType(nodeLateType), name(nodeName), father(parent) {
+        for (const InterfaceEntry& entry : m_interfaces)
+            entry.object->SetImpl(this);
         if (father != nullptr)
             father->children.push_back(this);
-        if (kind == Kind::Step) // a history points at each of its steps
-            pointing.Append(&father->m_owner);
+        if (kind == Kind::Step) // The history has an attribute that points at each of its steps.
+            pointingAttributes.Append(&father->m_attribute);
     }
 
     using ZFXBaseUnknown::QueryInterface;
-    HRESULT QueryInterface(const IID& iid, void** face) override {
-        const HRESULT asRoot = ZFXBaseUnknown::QueryInterface(iid, face);
-        if (!Failed(asRoot) || face == nullptr)
-            return asRoot;
-        // What a module offers on objects of the late type comes before the node's own.
+    HRESULT QueryInterface(const IID& iid, void** result) override {
+        // The base class returns the root interface, rejects a null pointer, and sets *result to null otherwise.
+        const HRESULT rootCode = ZFXBaseUnknown::QueryInterface(iid, result);
+        if (!Failed(rootCode) || result == nullptr)
+            return rootCode;
+        // An extension that a library declares for the late type replaces the interface of the node.
         if (const ZFXAdaptorFactory factory = fct_FindMetaObject(lateType)->FindAdaptorFactory(iid))
-            *face = factory(this, nullptr);
+            *result = factory(this, nullptr);
         else
-            for (const Offer& offer : m_offers)
-                if (offer.iid == iid && offer.stands) {
+            for (const InterfaceEntry& entry : m_interfaces)
+                if (entry.iid == iid && entry.isOffered) {
                     AddRef();
-                    *face = offer.face; // the root is the first base of every face: the addresses are the same
+                    *result = entry.object; // a valid pointer to the interface, whose first base is ZFXBaseUnknown
                 }
-        return *face == nullptr ? E_NOINTERFACE : S_OK;
+        return *result == nullptr ? E_NOINTERFACE : S_OK;
     }
 
     const Kind kind;
@@ -52,31 +45,41 @@ public:
     ZFXUnicodeString name;
     Node* const father;
     std::vector<Node*> children;
-    ZFXListValZFXISpecAttribute_var pointing;
+    ZFXListValZFXISpecAttribute_var pointingAttributes;
 
 private:
-    struct Feature : Face<Node, ZFXISpecObject> {
-        ZFXUnicodeString GetLateType() override { return Self().lateType; }
-        ZFXBaseUnknown* GetFather() override { return ZFXBaseUnknown_var(Self().father).Detach(); }
+    /// An interface of a node. The node counts the references; the base class forwards interface casts to the node.
+    template <class Interface>
+    struct NodeInterface : Interface {
+        ULONG AddRef() override { return GetNode().AddRef(); }
+        ULONG Release() override { return GetNode().Release(); }
+        Node& GetNode() { return static_cast<Node&>(*this->Implementation()); }
+    };
+    struct Feature : NodeInterface<ZFXISpecObject> {
+        ZFXUnicodeString GetLateType() override { return GetNode().lateType; }
+        ZFXBaseUnknown* GetFather() override { return ZFXBaseUnknown_var(GetNode().father).Detach(); }
         ZFXListValZFXISpecAttribute_var* ListPointingAttributes(const char*, const ZFXUnicodeString&,
                                                                 const ZFXUnicodeString&) override {
-            return &Self().pointing;
+            return &GetNode().pointingAttributes;
         }
     } m_feature;
-    struct Attributes : Face<Node, ZFXISpecAttrAccess> { // the name is the only one
+    struct AttributeAccess : NodeInterface<ZFXISpecAttrAccess> { // "Alias" is the only attribute
         ZFXISpecAttrKey* GetAttrKey(const char* attribute) override {
             return ZFXUnicodeString(attribute) == "Alias" ? new ZFXISpecAttrKey : nullptr;
         }
-        void SetString(ZFXISpecAttrKey*, const ZFXUnicodeString& value, int) override { Self().name = value; }
-        ZFXUnicodeString GetString(ZFXISpecAttrKey*, int) override { return Self().name; }
-    } m_attributes;
-    struct Alias : Face<Node, ZFXIAlias> { // where no module guards the name
-        void SetAlias(const ZFXUnicodeString& alias) override { Self().name = alias; }
-        ZFXUnicodeString GetAlias() override { return Self().name; }
+        void SetString(ZFXISpecAttrKey*, const ZFXUnicodeString& value, int) override { GetNode().name = value; }
+        ZFXUnicodeString GetString(ZFXISpecAttrKey*, int) override { return GetNode().name; }
+    } m_attributeAccess;
+    struct Alias : NodeInterface<ZFXIAlias> { // for late types without a guarded alias
+        void SetAlias(const ZFXUnicodeString& alias) override { GetNode().name = alias; }
+        ZFXUnicodeString GetAlias() override { return GetNode().name; }
     } m_alias;
-    struct Scan : Face<Node, ZFXISamAnalysisScan> {
+    struct Attribute : NodeInterface<ZFXISpecAttribute> { // of a history, pointing at its steps
+        ZFXBaseUnknown* GetOwner() override { return ZFXBaseUnknown_var(&GetNode()).Detach(); }
+    } m_attribute;
+    struct Scan : NodeInterface<ZFXISamAnalysisScan> {
         HRESULT FindObjectsOfType(const ZFXUnicodeString& type, ZFXListValZFXBaseUnknown_var& all, int mode) override {
-            for (Node* child : Self().children) {
+            for (Node* child : GetNode().children) {
                 if (type == child->lateType)
                     all.Append(child);
                 child->m_scan.FindObjectsOfType(type, all, mode);
@@ -84,45 +87,42 @@ private:
             return S_OK;
         }
         HRESULT ListChildren(ZFXListValZFXBaseUnknown_var& found, int) override {
-            for (Node* child : Self().children)
+            for (Node* child : GetNode().children)
                 found.Append(child);
             return S_OK;
         }
     } m_scan;
-    struct Set : Face<Node, ZFXISamAnalysisSet> {
+    struct Set : NodeInterface<ZFXISamAnalysisSet> {
         HRESULT ListMembers(ZFXListValZFXISpecObject_var& members, const IID&, int) override {
-            for (Node* child : Self().children)
+            for (Node* child : GetNode().children)
                 members.Append(child);
             return S_OK;
         }
     } m_set;
-    struct Entity : Face<Node, ZFXISamAnalysisEntity> {
+    struct Entity : NodeInterface<ZFXISamAnalysisEntity> {
         HRESULT GetParentSets(ZFXListValZFXBaseUnknown_var*& sets) override {
             sets = new ZFXListValZFXBaseUnknown_var;
-            sets->Append(Self().father);
+            sets->Append(GetNode().father);
             return S_OK;
         }
     } m_entity;
-    struct Owner : Face<Node, ZFXISpecAttribute> {
-        ZFXBaseUnknown* GetOwner() override { return ZFXBaseUnknown_var(&Self()).Detach(); }
-    } m_owner;
-    Face<Node, QVRIStep> m_step;
-    Face<Node, ZFXISamAnalysisCase> m_case;
+    NodeInterface<QVRIStep> m_step;
+    NodeInterface<ZFXISamAnalysisCase> m_case;
 
-    struct Offer {
+    struct InterfaceEntry {
         IID iid;
-        ZFXBaseUnknown* face;
-        bool stands = true;
+        ZFXBaseUnknown* object;
+        bool isOffered = true;
     };
-    const Offer m_offers[9] = {{IID_ZFXISpecObject, &m_feature},
-                               {IID_ZFXISpecAttrAccess, &m_attributes},
-                               {IID_ZFXIAlias, &m_alias},
-                               {IID_ZFXISamAnalysisScan, &m_scan},
-                               {IID_ZFXISpecAttribute, &m_owner, kind == Kind::History},
-                               {IID_ZFXISamAnalysisSet, &m_set, kind == Kind::Set},
-                               {IID_ZFXISamAnalysisEntity, &m_entity, kind == Kind::Load},
-                               {IID_QVRIStep, &m_step, kind == Kind::Step},
-                               {IID_ZFXISamAnalysisCase, &m_case, kind == Kind::Case}};
+    const InterfaceEntry m_interfaces[9] = {{IID_ZFXISpecObject, &m_feature},
+                                            {IID_ZFXISpecAttrAccess, &m_attributeAccess},
+                                            {IID_ZFXIAlias, &m_alias},
+                                            {IID_ZFXISamAnalysisScan, &m_scan},
+                                            {IID_ZFXISpecAttribute, &m_attribute, kind == Kind::History},
+                                            {IID_ZFXISamAnalysisSet, &m_set, kind == Kind::Set},
+                                            {IID_ZFXISamAnalysisEntity, &m_entity, kind == Kind::Load},
+                                            {IID_QVRIStep, &m_step, kind == Kind::Step},
+                                            {IID_ZFXISamAnalysisCase, &m_case, kind == Kind::Case}};
 };
 
 } // namespace
@@ -136,8 +136,8 @@ int main() {
     Node pressure(Kind::Load, "QVRPressure", "Pressure-1", &loads);
     Node load(Kind::Load, "QVRPressure", "", &loads);
 
-    for (const char* wish : {" PRELOAD_ ", " Bolt Load "}) {
-        ZFXIAlias_var(&operation)->SetAlias(wish);
+    for (const char* newName : {" PRELOAD_ ", " Bolt Load "}) { // the first one clashes with "Preload"
+        ZFXIAlias_var(&operation)->SetAlias(newName);
         std::cout << "The step is called " << operation.name.ConvertToChar() << "\n";
     }
     ZFXISpecObject_var feature(&load);
