@@ -9,179 +9,260 @@
 #include "object-model/ZFXHandle.h"
 #include "text/ZFXUnicodeString.h"
 
-/// Whether the name of an analysis feature is legal, whether it is unique, and what the next free one is.
+/// Checks whether the names of features are legal and unique, and finds the next unused name.
 ///
-/// All operations are static. What holds for each of them unless it says otherwise:
-/// - A result code is negative for failure; callers test the sign only.
-/// - "Refuses with ID" means: a ZFXInputError of that message id in the catalog "QVRNameUtility", of error type 2, is
-///   registered for the calling thread, and the code under which `ZFXError::ZFXGetLastError` finds it is returned. A
-///   plain E_FAIL registers nothing.
-/// - An argument that receives a result is untouched on failure. Handles and lists that are passed in stay the
-///   caller's; lists that receive results are appended to.
-/// - Lengths are in UTF-16 code units, positions count from 0, list indexes from 1.
-/// - Names clash when they are identical or differ in letter case only.
-/// - No exception leaves an operation; the process ends when there is no memory for it.
-/// - A handle may be empty: it offers no interface.
-/// - The library is used by one thread at a time; the operations on texts alone may run on any thread.
+/// Terms:
+/// - A **feature** is an object of an analysis document that can have a name, such as a load, a step, a job or a case.
+/// - The **name** of a feature is its alias. A feature that does not offer ZFXIAlias has no name.
+/// - The **late type** of a feature is the name of its type, such as "QVRPressure". Late types are compared exactly.
+/// - A **set** has features as members (ZFXISamAnalysisSet). Members of sets of one late type are of one **kind**.
+/// - The **simulation history** of an analysis case is the first object of late type "QVROruSimHistLT" under the case.
+///   Its children are the **steps** of the case. The sets of a step contain its loads and other features.
+/// - A **propagating** feature (QVRIPropagatingFeature) can take effect in several steps. A **propagated** one came
+///   into its step from an earlier step (IsPropagated is nonzero).
+/// - The **scope** of a name consists of the features that it is compared with or numbered among.
+///
+/// All operations are static. Unless documented otherwise:
+/// - The result is S_OK, or a negative code for a failure. Callers test the sign only.
+/// - A failure listed with a message id registers a ZFXInputError for the calling thread: this id, catalog
+///   "QVRNameUtility", error type 2, return code 0. The result is the code for ZFXError::ZFXGetLastError.
+/// - A failure listed with E_FAIL, or with the code of a request to the host, registers no error.
+/// - Arguments that receive a result are unchanged on failure. Lists that receive results are appended to. Other
+///   arguments are never changed.
+/// - The caller keeps the ownership of the handles and lists that it passes. An empty handle offers no interface.
+/// - Lengths are in UTF-16 code units ("units"). String positions start at 0, list indexes at 1.
+/// - Two names clash if they are identical or differ only in letter case (Unicode simple case folding).
+/// - No operation throws an exception. Without memory for an error object the result is E_FAIL; without memory for
+///   anything else the process ends.
+/// - One thread at a time uses the library. Operations that read only texts may run on any thread.
 class QVR_NAME_UTILITY_EXPORT QVRNameUtil {
 public:
+    /// Creates an object. No operation needs one.
     QVRNameUtil();
-    /// No operation reads what an object holds; a copy holds the same.
+
+    /// Copies the members. No operation reads them.
     QVRNameUtil(const QVRNameUtil& other);
-    /// As the copy.
+
+    /// Copies the members. No operation reads them.
     QVRNameUtil& operator=(const QVRNameUtil& other);
     virtual ~QVRNameUtil();
 
     // ---- Name validation: is a text legal as a name? ----
 
-    /// The test of a feature name; the first rule that fails decides. In this order: 1 to 72 units long
-    /// (refuses with "NameLengthERR_02" when empty, "NameLengthERR_01" when longer); no leading digit '0' to
-    /// '9', asked only when `checkStartAndEnd` is nonzero ("LeadingDigitERR_01"); no double quote, full stop or
-    /// backslash ("IllegalCharERR_01", with the return code -100 on the error). The name is not changed.
+    /// Checks the text of a feature name. The first rule that fails determines the error.
+    /// - "NameLengthERR_02": the name is empty.
+    /// - "NameLengthERR_01": the name has more than 72 units.
+    /// - "LeadingDigitERR_01": `checkStartAndEnd` is nonzero, and the first unit is a digit '0' to '9'.
+    /// - "IllegalCharERR_01", return code -100: the name contains a double quote, full stop or backslash.
     static HRESULT IsNameValid(ZFXUnicodeString& name, unsigned char checkStartAndEnd) noexcept;
 
-    /// The test of a file name, of any length: no double quote or full stop ("IllegalCharERR_01"), then no
-    /// space and none of $*?,#!&~()[]{}|:;'`/>< ("IllegalCharERR_02"); both with the return code -100 on the
-    /// error. A backslash is legal. The name is not changed.
+    /// Checks a file name of any length. A backslash is legal. The first rule that fails determines the error.
+    /// - "IllegalCharERR_01", return code -100: the name contains a double quote or full stop.
+    /// - "IllegalCharERR_02", return code -100: the name contains a space or one of $*?,#!&~()[]{}|:;'`/><.
     static HRESULT IsFileNameValid(ZFXUnicodeString& name) noexcept;
 
-    /// Asks quietly for the characters $*?,#!&~()[]{}|:;'`/><: S_OK when there is none, else E_FAIL, no
-    /// message.
+    /// Returns E_FAIL, without registering an error, if `name` contains one of $*?,#!&~()[]{}|:;'`/><. Otherwise S_OK.
     static HRESULT CheckForIllegalCharacters(const ZFXUnicodeString& name) noexcept;
 
     // ---- Character sets, file names, quoting, joined tags ----
 
-    /// S_OK when every unit is at most U+00FF. Otherwise each unit above it (half a surrogate pair counts by
-    /// itself) is appended to `offending`, two spaces between them and one at the end, repeats included, and
-    /// the name is refused with "DoubleByteCharErr_01", `offending` being the error's diagnostic parameter.
+    /// Returns S_OK if no unit of `name` is above U+00FF. The halves of a surrogate pair are two units above it.
+    /// - "DoubleByteCharErr_01": a unit is above U+00FF. Appends all such units in order to `offending`, with two
+    ///   spaces between them and one at the end. The whole text of `offending` becomes the error's diagnostic
+    ///   parameter.
     static HRESULT DoesNameContainDoubleByteChar(const ZFXUnicodeString& name, ZFXUnicodeString& offending) noexcept;
-    /// The same with U+007F as the limit.
+
+    /// Performs the check of DoesNameContainDoubleByteChar with the limit U+007F.
     static HRESULT DoesNameContainSignedChar(const ZFXUnicodeString& name, ZFXUnicodeString& offending) noexcept;
-    /// Removes the space and $*?,#!&~()[]{}|:;'`/>< wherever they stand. Double quotes, full stops and
-    /// backslashes stay. Always S_OK.
+
+    /// Removes spaces and $*?,#!&~()[]{}|:;'`/>< from `name`. Keeps every double quote, full stop and backslash.
     static HRESULT StripIllegalCharsFromFileName(ZFXUnicodeString& name) noexcept;
-    /// Puts a name that holds a space in double quotes, unless it begins with one.
+
+    /// Encloses `name` in double quotes if it contains a space and does not begin with a double quote.
     static void QuoteIfNeeded(ZFXUnicodeString& name) noexcept;
-    /// `suffix` loses its characters that are illegal in file names; `name` becomes prefix + name + "_" +
-    /// suffix without spaces, cut to 80 units; the suffix goes in by its narrow form. Always S_OK. The arguments may be
-    /// one object: each counts with the text it had on entry.
+
+    /// Sets `name` to prefix + name + "_" + suffix, without spaces, cut to 80 units. Always returns S_OK. Before that,
+    /// applies StripIllegalCharsFromFileName to `suffix`. In the result the suffix is converted to UTF-8 and back.
+    /// `prefix` is unchanged. The arguments may be one object; each contributes the text that it had on entry.
     static HRESULT PadStrings(ZFXUnicodeString& name, ZFXUnicodeString& suffix, ZFXUnicodeString& prefix) noexcept;
 
     // ---- Object names ----
 
-    /// The name as it is stored. E_FAIL for an empty handle, with `name` untouched, or for a feature without a name,
-    /// with `name` empty.
+    /// Sets `name` to the stored name of the feature.
+    /// - E_FAIL: the handle is empty. `name` is unchanged.
+    /// - E_FAIL: the feature has no name. `name` becomes empty.
     static HRESULT GetObjectName(const ZFXISpecObject_var& feature, ZFXUnicodeString& name) noexcept;
-    /// The name made legal: full stops become hyphens, and the result is judged as IsNameValid does with the leading
-    /// character. A bolt tightening ("SAMBoltTightening", "SAMVirtBoltTightening", "SAMVirtSpringBoltTigh") must also
-    /// differ from the other children of its father, by their stored names. Refuses with "ZFXIAliasERR_01" (no name,
-    /// `name` untouched); from here on `name` holds the legal form, also on failure: the text rules, "ParentERR_01" (no
-    /// father, or one that cannot be searched), "DuplicateZFXNameERR_01" (the comparison failed; its own error is
-    /// registered before). E_FAIL for an empty handle.
+
+    /// Sets `name` to the feature's name with hyphens for full stops and checks this text as IsNameValid does,
+    /// including the first character. For a bolt tightening, also compares its stored name with the stored names of the
+    /// other children that its father lists. Bolt tightenings are the late types "SAMBoltTightening",
+    /// "SAMVirtBoltTightening" and "SAMVirtSpringBoltTigh".
+    /// - E_FAIL: the handle is empty. `name` is unchanged.
+    /// - "ZFXIAliasERR_01": the feature has no name. `name` is unchanged.
+    /// - An id of IsNameValid: the new text is not legal. From here on `name` contains the new text.
+    /// - "ParentERR_01": the bolt tightening has no father, or its father does not offer ZFXISamAnalysisScan.
+    /// - "DuplicateZFXNameERR_01": IsNameUniqueInSet failed for these children. Its error is registered first.
     static HRESULT GetMorvelObjectName(ZFXISpecObject_var& feature, ZFXUnicodeString& name) noexcept;
 
     // ---- Step membership ----
 
-    /// The name of the step that holds the object; empty when it lies in no step (a success). E_FAIL for an
-    /// empty handle, with `stepName` untouched; the code of the failed request, or E_FAIL for a step without
-    /// a name, with `stepName` empty.
+    /// Sets `stepName` to the name of the step that contains the object, or to "" if no step contains it. In both cases
+    /// returns the code of the request for the step, a success.
+    /// - E_FAIL: the handle is empty. `stepName` is unchanged.
+    /// - The code of the request for the step: the request failed. `stepName` becomes empty.
+    /// - E_FAIL: the step has no name. `stepName` becomes empty.
     static HRESULT GetParentStepName(const ZFXISpecObject_var& object, ZFXUnicodeString& stepName) noexcept;
 
     // ---- Support and connection group names ----
 
-    /// The name of the group that the one connector of a support leads to, full stops replaced by hyphens. Empty, and
-    /// a success, when the feature is no support, has no connector or several, when the group has no name, or when
-    /// that holds a unit above U+00FF (whose test registers "DoubleByteCharErr_01"). E_FAIL, with an empty name, when
-    /// the connector leads to no group. No message of its own.
+    /// Sets `groupName` to the name of the group of the support's only connector, with hyphens for full stops.
+    /// - S_OK, `groupName` empty: the feature is not a support, or it does not list exactly one object.
+    /// - S_OK, `groupName` empty: the listed object does not offer ZFXISamAnalysisConnector, or its group has no name.
+    /// - S_OK, `groupName` empty: the group's name contains a unit above U+00FF. Registers "DoubleByteCharErr_01".
+    /// - E_FAIL, `groupName` empty: the connector has no group that offers QVRISamGroupExt.
     static HRESULT GetSupportGroupName(ZFXISpecObject_var& support, ZFXUnicodeString& groupName) noexcept;
-    /// The same for a list that holds exactly one connector.
+
+    /// Sets `groupName` as the overload for a support does, with `connectors` as the connectors of the support.
     static HRESULT GetSupportGroupName(ZFXListValZFXBaseUnknown_var connectors, ZFXUnicodeString& groupName) noexcept;
-    /// The same for both sides of a connection design, if each has exactly one connector; otherwise both names are
-    /// untouched. S_OK whatever was found; E_FAIL for an empty handle.
+
+    /// Sets each name to the group name of one side of a connection design, as GetSupportGroupName does. Leaves both
+    /// unchanged unless each side lists exactly one connector. In all these cases returns S_OK, also if a side has no
+    /// usable group.
+    /// - E_FAIL: the handle is empty.
     static HRESULT GetGrpNameofMasterAndSlave(QVRISamAnalysisConnectionDesign_var& design, ZFXUnicodeString& masterName,
                                               ZFXUnicodeString& slaveName) noexcept;
 
     // ---- Numbered names ----
 
-    /// `name` is a base, such as "Pressure-", on entry, and the base followed by the next number on return:
-    /// one more than the highest in use, from 1, gaps not refilled. A number is in use when the name of an
-    /// element begins with exactly the base and goes on with a number as "%d" reads it; an element without a
-    /// name counts for nothing. When the largest int is in use, the lowest number that is not. Always S_OK.
+    /// Appends the next number in `scope` to the base in `name`, such as "Pressure-". Always returns S_OK.
+    /// The next number is one more than the highest in use, and at least 1. Gaps are not filled. A number is in use if
+    /// the name of an element begins with exactly the base (letter case counts) and continues with an int as "%d" reads
+    /// it. Elements without a name are ignored. If the largest int is in use, the lowest unused number is next.
     static HRESULT GetNextUniqueName(ZFXUnicodeString& name, const ZFXListValZFXBaseUnknown_var& scope) noexcept;
-    /// The same over the members of a set. E_FAIL for an empty handle or when the members cannot be listed.
+
+    /// Appends the next number to the base in `name`, as the overload for a list does, over the members of `set`.
+    /// - E_FAIL: the handle is empty, or the members cannot be listed.
     static HRESULT GetNextUniqueName(ZFXUnicodeString& name, const ZFXISamAnalysisSet_var& set) noexcept;
-    /// The next `count` names behind the base in `name`, appended to `names` after one reading of the scope: exactly
-    /// those that as many calls of GetNextUniqueName would give if each proposal were taken at once. The base stays.
-    /// E_FAIL, and nothing appended, for a count below 1.
+
+    /// Appends the next `count` names for the base in `name` to `names`. They are the results of `count` calls of
+    /// GetNextUniqueName if each result were added to the scope. Reads the scope once. `name` is unchanged.
+    /// - E_FAIL: `count` is below 1.
     static HRESULT GetNextUniqueNames(ZFXUnicodeString& name, const ZFXListValZFXBaseUnknown_var& scope, int count,
                                       ZFXListValZFXUnicodeString& names) noexcept;
-    /// A name that a feature can go by: its own when no unit of it is above U+00FF (else the test registers
-    /// its "DoubleByteCharErr_01", which is not returned) or when its late type does not begin with "SAM";
-    /// else its late type, followed by "-" and a number from the second time on, until
-    /// QVRGenI18NUtils::ResetAllLists. E_FAIL for a feature without ZFXIAlias.
+
+    /// Sets `name` to the feature's name if no unit of it is above U+00FF or if the late type does not begin with
+    /// "SAM". Otherwise sets `name` to the late type, followed by "-" and the number of its earlier uses if there are
+    /// any, and adds a use (QVRGenI18NUtils::PushNameToList). A unit above U+00FF registers "DoubleByteCharErr_01".
+    /// - E_FAIL: the feature has no name.
     static HRESULT GenerateUniqueName(const ZFXISpecObject& feature, ZFXUnicodeString& name) noexcept;
 
     // ---- Base names ----
 
-    /// The English base name of the feature's late type, such as "Point Load-"; `baseName` is untouched when
-    /// the type has none, which is a success. E_FAIL for an empty handle.
+    /// Sets `baseName` to the English base name of the feature's late type, such as "Point Load-". Leaves it unchanged,
+    /// and returns S_OK, if the type has no base name.
+    /// - E_FAIL: the handle is empty.
     static HRESULT CreateBaseName(ZFXISpecObject_var& feature, ZFXUnicodeString& baseName) noexcept;
 
     // ---- Uniqueness in a list and across cases ----
 
-    /// S_OK when no element of the list but the feature itself has a name that clashes with `name`; an empty
-    /// `name` stands for the feature's own. The first element that fails decides: refuses with
-    /// "ZFXIAliasERR_01" for an element without a name (or for the feature, when its own name is asked for),
-    /// with "DuplicateNameERR_02" and the return code -100 on the error for a clash.
+    /// Checks a name against the names of the elements of the list `scope`. Skips the feature itself. An empty `name`
+    /// means the feature's current name. The first element that fails determines the error.
+    /// - "ZFXIAliasERR_01": an element has no name, or `name` is empty and the feature has no name.
+    /// - "DuplicateNameERR_02", return code -100: the name of an element clashes.
     static HRESULT IsNameUniqueInSet(const ZFXISpecObject_var& feature, const ZFXListValZFXBaseUnknown_var& scope,
                                      const ZFXUnicodeString& name) noexcept;
-    /// The test of a job's name against the first job container of every case of its analysis model, the
-    /// father of the first set that holds the job. S_OK for a feature that lives in no sets by its nature;
-    /// E_FAIL when no set holds it or when the model, a case or a container is not what it should be; the
-    /// code of a failed request (a success when the sets were asked for and none came); else as
-    /// IsNameUniqueInSet.
+
+    /// Checks a job's name against the other jobs of one analysis model: the members of the first job container (late
+    /// type "QVRJobContainerLT") of every case. The model is the father of the first set that contains the job. An
+    /// empty `name` means the job's current name. Skips cases without a job container.
+    /// - S_OK without a comparison: the handle is empty, or the feature does not offer ZFXISamAnalysisEntity.
+    /// - The code of the request for the containing sets, a success, without a comparison: it returned no list.
+    /// - The code of a request: the containing sets, or the members of a job container, cannot be listed.
+    /// - E_FAIL: no set contains the job, or the first one has no father that offers ZFXISamAnalysisModel.
+    /// - E_FAIL: a case does not offer ZFXISamAnalysisScan, or its first job container not ZFXISamAnalysisSet.
+    /// - An id of IsNameUniqueInSet: the comparison with the jobs of a case failed.
     static HRESULT IsNameUniqueAcrossCases(ZFXISpecObject_var& feature, const ZFXUnicodeString& name) noexcept;
 
     // ---- Job names ----
 
-    /// "Job-" and the next number among all jobs of the current document, as GetNextUniqueName counts but without
-    /// regard to letter case. What `name` held is not read. Always S_OK; jobs that cannot be listed do not count.
+    /// Sets `name` to "Job-" and the next number over all jobs of all cases of the current document. Counts as
+    /// GetNextUniqueName does, but ignores letter case. Ignores jobs that cannot be listed and the former text of
+    /// `name`.
     static HRESULT GetUniqueNameForJob(ZFXUnicodeString& name) noexcept;
-    /// Whether no job of the current document but `job` itself has a name that clashes. An empty name is compared as
-    /// it is: it clashes with a job without a name. Refuses with "DuplicateNameERR_03".
+
+    /// Checks a job's name against all other jobs of all cases of the current document, in any container. Ignores jobs
+    /// that cannot be listed. An empty `name` clashes with a job that has no name or an empty one.
+    /// - "DuplicateNameERR_03": the name of another job clashes.
     static HRESULT IsUniqueNameForJob(const ZFXISpecObject_var& job, const ZFXUnicodeString& name) noexcept;
 
     // ---- Mesh part names ----
 
-    /// The base in `name` numbered over the members of the mesh manager of the part's document, as GetNextUniqueName
-    /// does; the part counts when it is among them. Refuses with "MeshPartUniqueNameERR" when there is no part, no
-    /// document, no mesh manager or no list of its members.
+    /// Appends the next number to the base in `name`. The scope is the members of the mesh manager of the part's
+    /// document, including the part if it is a member. Counts as GetNextUniqueName does.
+    /// - "MeshPartUniqueNameERR": the handle is empty, or the part has no document whose mesh manager lists members.
     static HRESULT GetUniqueNameForMeshPart(ZFXISpecObject_var& meshPart, ZFXUnicodeString& name) noexcept;
 
     // ---- General entry points: the scope by kind of feature ----
 
-    /// Whether a name is free in the scope that the feature's kind has: a step among the steps of its
-    /// simulation history; a propagating feature among those of its kind in all steps of its case; any other
-    /// among the members of the first set that holds it (free when there is none). Refuses as the check of
-    /// that kind does: steps with "DuplicateNameERR_01", "StepParentERR_01" or "StepParentERR_02";
-    /// propagating features with "ObjectParentERR_01" or "AnalysisCaseERR_03"; all with what
-    /// IsNameUniqueInSet says.
+    /// Checks a name in the scope that follows from the feature's interfaces. An empty `name` means the current name of
+    /// the feature, which is not compared with itself. The scope is the first of these that applies:
+    /// - A step (QVRIStep): the children of its simulation history.
+    /// - A propagating feature: the features of its kind in all steps of its case, or, if it is in none, of its
+    ///   document's current case. Skips propagated features other than initial temperatures, and steps that cannot be
+    ///   searched if they are not the last.
+    /// - Any other feature: the members of the first set that contains it.
+    ///
+    /// Successes without a comparison:
+    /// - S_OK: any other feature is in no set or does not offer ZFXISamAnalysisEntity, or the handle is empty.
+    /// - The code of the request for the containing sets of any other feature: it returned no list.
+    /// - The code of the request for the current case: it returned none, and a propagating feature is in no case.
+    ///
+    /// Failures:
+    /// - An id of IsNameUniqueInSet: the comparison failed. For a step, a second error determines the result:
+    ///   "DuplicateNameERR_01", return code 0, for a clash, otherwise with the id of the first. The result is 1, a
+    ///   success, if the first error could not be registered.
+    /// - "StepParentERR_01", a step: no attribute of a simulation history points at it.
+    /// - "StepParentERR_02", a step: the children of its simulation history cannot be listed.
+    /// - "ObjectParentERR_01", a propagating feature: its case or the history does not offer ZFXISamAnalysisScan.
+    /// - "AnalysisCaseERR_03", a propagating feature: the simulation history is not found.
+    /// - E_FAIL, a propagating feature: no set is listed for it, or the last step does not offer ZFXISamAnalysisScan.
+    /// - The code of a request, a propagating feature: neither its case nor a current one is available, the steps
+    ///   cannot be listed, or the last step cannot be searched for sets.
+    /// - E_FAIL, any other feature: its first set does not offer ZFXISamAnalysisSet.
+    /// - The code of a request, any other feature: its sets or the members of the first one cannot be listed.
     static HRESULT IsNameUnique(ZFXISpecObject_var& feature, const ZFXUnicodeString& name) noexcept;
-    /// The whole check of a feature's name; an empty `name` stands for its current one. The first failure
-    /// decides: "ZFXIAliasERR_01" for a feature without a name; then IsNameUnique; the length; the leading
-    /// digit, asked only when `checkStartAndEnd` is nonzero; the illegal characters; last the units above U+00FF
-    /// ("DoubleByteCharErr_01").
+
+    /// Checks a feature's name: first whether it is unique, then its text. An empty `name` means the feature's current
+    /// name. The first failure determines the result.
+    /// - "ZFXIAliasERR_01": the feature has no name.
+    /// - A failure of IsNameUnique: the name is not unique in its scope, or the scope is not available.
+    /// - An id of IsNameValid with `checkStartAndEnd`: the text is not legal.
+    /// - "DoubleByteCharErr_01": a unit of the name is above U+00FF.
     static HRESULT CheckName(ZFXISpecObject_var& feature, const ZFXUnicodeString& name,
                              unsigned char checkStartAndEnd) noexcept;
-    /// Checks that the feature's current name is unique, whatever `fileName` is, then that `fileName` (the
-    /// current name when it is empty) is legal as a file name. "ZFXIAliasERR_01" for a feature without a
-    /// name.
+
+    /// Checks that the feature's current name is unique, then that `fileName` is a legal file name. An empty `fileName`
+    /// means the current name. The first failure determines the result.
+    /// - "ZFXIAliasERR_01": the feature has no name.
+    /// - A failure of IsNameUnique: the current name is not unique in its scope, or the scope is not available.
+    /// - An id of IsFileNameValid: the file name is not legal.
     static HRESULT CheckFileName(ZFXISpecObject_var& feature, const ZFXUnicodeString& fileName) noexcept;
-    /// `name` is a base on entry and the next free numbered name on return, in the scope of the feature's
-    /// kind: steps of the case without its first; the property set for properties and amplitudes; features of
-    /// the same kind in all steps of the case for any other. An empty case stands for the current one. The
-    /// name is unchanged when the feature is empty, when there is no case, or when the scope cannot be listed
-    /// (refusals of the listing are registered).
+
+    /// Appends the next number to the base in `name`. Counts as GetNextUniqueName does. An empty `analysisCase` means
+    /// the current case; the handle is unchanged. The scope is the first of these that applies:
+    /// - A step (QVRIStep): the steps of the case except the first.
+    /// - A property or an amplitude: the property set ("QVRTarnisPropertySetLT") of the model of the case's document.
+    /// - Any other feature: the features of its kind in all steps of the case. Skips as IsNameUnique does.
+    ///
+    /// `name` is unchanged if the feature is empty, if there is no case, or if the scope is not available. The latter
+    /// may register an error:
+    /// - "AnalysisCaseERR_02", a step: the case is none of the solver's own (IsTarnisAnalysisCase returns 0).
+    /// - "AnalysisCaseERR_03", a step: the case has no simulation history that can be searched.
+    /// - "AnalysisCaseERR_01", a property or an amplitude: the case does not offer ZFXILinkableObject.
+    /// - "DocumentERR_01", a property or an amplitude: the case has no document.
+    /// - "ErrorAnalysisModelErr_0004", a property or an amplitude: the request for the document's model failed.
+    /// - "PropertySetERR_01", a property or an amplitude: the model has no property set whose members can be listed.
+    /// - "ObjectParentERR_01" and "AnalysisCaseERR_03", any other feature: as for IsNameUnique.
     static void GetUniqueName(ZFXUnicodeString& name, ZFXISpecObject_var& feature,
                               ZFXISamAnalysisCase_var& analysisCase) noexcept;
 
@@ -190,15 +271,17 @@ private:
     static HRESULT NameCheckStartAndEnd(ZFXUnicodeString& name) noexcept;
     static HRESULT NameCheckIllegalCharacter(ZFXUnicodeString& name, unsigned char isFileName) noexcept;
 
-    /// Appends the features that the step holds in sets of the late type of the set holding `object`;
-    /// propagated ones are left out, initial temperatures never.
+    /// Appends the members of those sets of the step that have the late type of the first set that contains `object`.
+    /// Skips propagated features except initial temperatures.
+    /// - E_FAIL: no set contains `object`, or the step does not offer ZFXISamAnalysisScan.
+    /// - The code of the search for the sets: the search failed.
     static HRESULT GetObjectsInStep(ZFXISpecObject_var& step, ZFXListValZFXBaseUnknown_var& objects,
                                     const ZFXISpecObject_var& object) noexcept;
 
     // ---- Propagating objects ----
 
-    /// Appends what GetObjectsInStep finds in each step of the case, without `object`; the code is that of
-    /// the last step. Refuses with "ObjectParentERR_01" or "AnalysisCaseERR_03".
+    /// Appends the results of GetObjectsInStep for each step of the case, except `object`. Steps that fail contribute
+    /// nothing. Returns the code of the last step, or of the request for the steps if there are none.
     static HRESULT GetAllPropagatingObjects(ZFXISamAnalysisCase_var& analysisCase,
                                             ZFXListValZFXBaseUnknown_var& objects, ZFXISpecObject_var& object) noexcept;
     static HRESULT GetUniqueNameForPropagatingObject(ZFXUnicodeString& name, ZFXISpecObject_var& object,
@@ -207,16 +290,12 @@ private:
 
     // ---- Step and property names within an analysis case ----
 
-    /// Refuses with "AnalysisCaseERR_01", "AnalysisCaseERR_02" or "AnalysisCaseERR_03".
     static HRESULT GetUniqueNameForStep(ZFXUnicodeString& name, ZFXISamAnalysisCase_var& analysisCase) noexcept;
-    /// 1 when the comparison failed without a registered error.
     static HRESULT IsUniqueNameForStep(ZFXISpecObject_var& step, const ZFXUnicodeString& name) noexcept;
-    /// Refuses with "AnalysisCaseERR_01", "DocumentERR_01", "ErrorAnalysisModelErr_0004" or
-    /// "PropertySetERR_01".
     static HRESULT GetUniqueNameForProperty(ZFXUnicodeString& name, ZFXISamAnalysisCase_var& analysisCase) noexcept;
     static HRESULT IsUniqueNameForObject(ZFXISpecObject_var& object, const ZFXUnicodeString& name) noexcept;
 
-    // Not used by any operation; copied member by member.
+    // Unused. Copied member by member.
     ZFXUnicodeString m_name;
     ZFXUnicodeString m_baseName;
     ZFXUnicodeString m_suffix;
