@@ -60,6 +60,7 @@ install(FILES
 # The pages keep their relative paths, so that the links between them work.
 install(FILES README.md ARCHITECTURE.md CONTRIBUTING.md CHANGELOG.md DESTINATION ${CMAKE_INSTALL_DOCDIR})
 install(FILES platform/README.md DESTINATION ${CMAKE_INSTALL_DOCDIR}/platform)
+install(FILES examples/minimal-host/main.cpp DESTINATION ${CMAKE_INSTALL_DOCDIR}/examples/minimal-host)
 install(DIRECTORY docs DESTINATION ${CMAKE_INSTALL_DOCDIR}
   FILES_MATCHING PATTERN "*.md" PATTERN "*.svg" PATTERN "man" EXCLUDE)
 
