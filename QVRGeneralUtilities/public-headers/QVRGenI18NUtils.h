@@ -7,78 +7,103 @@
 
 #include <memory>
 
-/// Whether the workbench runs in English mode, and which English names stand in for those that the solver
-/// cannot take. There is one object, and its caches keep names steady: what a feature was called once it is
-/// called again, until ResetAllLists.
+/// Detects whether the workbench runs in English mode, and issues names for features and materials that need another
+/// one in the solver deck.
 ///
-/// Byte booleans are 0 or 1. Used by one thread at a time.
+/// There is one object. It has three lists: of features with the names issued to them, of materials, and of used
+/// generic names. A feature or material keeps its place in the list, and a feature its name, until ResetAllLists. The
+/// lists own references: call ResetAllLists when a document is closed.
+///
+/// Terms are defined at QVRNameUtil. Unless documented otherwise:
+/// - Byte booleans are 0 or 1. Result codes are S_OK, or negative for a failure.
+/// - A failure with E_FAIL registers no error. `name` and the lists are unchanged on failure.
+/// - The caller keeps the ownership of the handles that it passes.
+/// - Names are compared exactly, including letter case. Numbers are written in decimal.
+/// - No operation throws an exception. The process ends if no memory is available.
+/// - One thread at a time uses the object.
 class QVR_NAME_UTILITY_EXPORT QVRGenI18NUtils {
 public:
-    /// The one object, made by the first call and never destroyed. [borrowed]
+    /// Returns the one object. Creates it on the first call and never destroys it. [borrowed]
     static QVRGenI18NUtils* Instance() noexcept;
-    /// What `other` knows by now; from then on each goes its own way.
+    /// Copies the lists and the locale results. Later changes of the two objects are independent.
     QVRGenI18NUtils(const QVRGenI18NUtils& other);
     QVRGenI18NUtils& operator=(const QVRGenI18NUtils&) = delete;
     virtual ~QVRGenI18NUtils();
 
     // ---- Locales ----
 
-    /// Runs IsEnglishMode.
+    /// Calls IsEnglishMode and ignores the result.
     void GetInitialLocales() noexcept;
-    /// Whether the user's default locale and the calling thread's input locale were both English when this
-    /// was first asked. The first call writes one line on standard output for each of the two; later calls
-    /// write nothing and answer the same, whatever the locales are by then. English are the 13 locale
-    /// identifiers 0x0409, 0x0809 and so on to 0x3409, compared whole; of the input locale the low 16 bits.
+    /// Returns 1 if the default locale of the user and the input (keyboard) locale of the calling thread were both
+    /// English on the first call, otherwise 0. Only the first call examines the locales. It writes one line for each on
+    /// standard output, first for the user: "The initial user locale is English." or "The initial input locale is NOT
+    /// English."
+    ///
+    /// A locale is English if its identifier is one of the 13 values 0x0409, 0x0809, 0x0C09 and so on to 0x3409. The
+    /// whole user locale is compared, and the low 16 bits of the input locale.
     unsigned char IsEnglishMode() noexcept;
-    /// What IsEnglishMode found out; 0 before its first call.
+    /// Returns whether the user locale was English on the first call of IsEnglishMode; 0 before that call.
     unsigned char IsInitialUserLocaleEnglish() noexcept;
-    /// The same of the input locale.
+    /// Returns whether the input locale was English on the first call of IsEnglishMode; 0 before that call.
     unsigned char IsInitialInputLocaleEnglish() noexcept;
-    /// The locales as they are now; nothing is stored.
+    /// Returns whether the default locale of the user is English now. Stores nothing.
     unsigned char IsEnglishUserLocale() noexcept;
-    /// The same of the input locale.
+    /// Returns whether the input locale of the calling thread is English now. Stores nothing.
     unsigned char IsEnglishInputLocale() noexcept;
 
-    // ---- Names handed out ----
+    // ---- The lists ----
 
-    /// Forgets every name handed out and every object met; references on them are released. The locales stay.
+    /// Empties all lists and releases the references on features and materials. The locale results are unchanged.
     void ResetAllLists() noexcept;
-    /// Notes that a generic name was handed out once more. Always S_OK.
+    /// Appends `name` to the list of generic names. Always returns S_OK.
     HRESULT PushNameToList(const ZFXUnicodeString& name) noexcept;
-    /// How often exactly this name was handed out, in `nextId`; 1 when at all.
+    /// Sets `nextId` to the number of times that the list of generic names contains `name`. Returns 1 if it is above 0,
+    /// otherwise 0.
     unsigned char FindNameAndNextID(const ZFXUnicodeString& name, int& nextId) noexcept;
 
     // ---- Generic English names ----
 
-    /// The late type, "-" and the position of the feature among the members of the set that is its father. Nothing is
-    /// remembered. Refuses with "GetGenericEnglishNameERR_01" when there is no feature, no such set or no such member.
+    /// Sets `name` to the late type, "-" and the index (from 1) of the feature among the members of the set that is its
+    /// father. Uses no list: if the order of the members changes, so does the name.
+    /// - "GetGenericEnglishNameERR_01": the handle is empty, the father is missing or not a set, its members cannot be
+    ///   listed, or the feature is not among them. Registers an error of this id, as at QVRNameUtil.
     HRESULT GetGenericEnglishName(const ZFXISpecObject_var& feature, ZFXUnicodeString& name) noexcept;
-    /// The late type, "-" and how many features of the type were met, this one included; without full stops. A feature
-    /// that was met before, by this operation or by GetFeatureName, keeps the name it got then. E_FAIL for an empty
-    /// handle.
+    /// Sets `name` to the name of the feature in the list of features. Before that, appends a feature that is not in
+    /// the list, with this name: the late type, "-" and one more than the number of listed features of this late type,
+    /// without full stops.
+    /// - E_FAIL: the handle is empty.
     HRESULT GetGenericEnglishFeatureName(const ZFXISpecObject_var& feature, ZFXUnicodeString& name) noexcept;
-    /// The display name, followed by "-" and a number when features met before are displayed under it now; without full
-    /// stops. A feature that was met before keeps the name it got then. E_FAIL, and nothing remembered, for an empty
-    /// handle, for a feature without a name, or when one met before has lost its name.
+    /// Sets `name` to the name of the feature in the list of features. Before that, appends a feature that is not in
+    /// the list, with this name: its current name, followed by "-n" if n > 0 listed features have it now, without full
+    /// stops.
+    /// - E_FAIL: the handle is empty, or the feature has no name now, even if it is listed.
+    /// - E_FAIL: the feature is not listed, and a listed feature has no name now.
     HRESULT GetFeatureName(const ZFXISpecObject_var& feature, ZFXUnicodeString& name) noexcept;
 
     // ---- Material names: the feature's material name, else its alias ----
 
-    /// The material's name, followed by "-" and the number of materials met before it that have the same name now;
-    /// full stops become hyphens. E_FAIL for an empty handle or for a material without a name (nothing remembered,
-    /// `name` untouched), or when one met before has lost its name (nothing remembered; `name` is the bare name when
-    /// the material itself was met before, else untouched).
+    /// Sets `name` to the current name of the material, followed by "-n" if n > 0 materials before it in the list of
+    /// materials have this name now, with hyphens for full stops. Appends a material that is not listed. The name of a
+    /// material is the one of ZFXIMaterialFeature or, without that interface, its alias.
+    /// - E_FAIL: the handle is empty, or the material has no name.
+    /// - E_FAIL: a material before it in the list has no name now. If the material is listed, `name` becomes its
+    ///   current name without a number, with full stops.
     HRESULT GetMaterialName(const ZFXISpecObject_var& material, ZFXUnicodeString& name) noexcept;
-    /// The late type, "-" and the material's position among those met; full stops become hyphens. E_FAIL for an empty
-    /// handle.
+    /// Sets `name` to the late type, "-" and the index (from 1) of the material in the list of materials, with hyphens
+    /// for full stops. Appends a material that is not listed.
+    /// - E_FAIL: the handle is empty.
     HRESULT GetGenericEnglishMaterialName(const ZFXISpecObject_var& material, ZFXUnicodeString& name) noexcept;
 
     // ---- Solver-compliant names ----
 
-    /// `name` with hyphens for full stops when no unit of it is above U+00FF (else the test registers
-    /// "DoubleByteCharErr_01"). Otherwise `name` itself when `genericName` begins with "QVR", else `genericName`,
-    /// numbered from its second hand-out on ("-1"), in the list of Instance(); of the result "QVR", "SAM" or "LMS" in
-    /// front, in any letter case, is taken away. Always S_OK. The arguments may be one object.
+    /// Sets `compliantName` to a name for the solver deck. Always returns S_OK. The first of these that applies:
+    /// - No unit of `name` is above U+00FF: `name` with hyphens for full stops.
+    /// - `genericName` begins with "QVR": `name` without its type prefix.
+    /// - Otherwise: `genericName` without its type prefix, followed by "-n" if the list of generic names of Instance()
+    ///   contains `genericName` n > 0 times. Appends `genericName` to that list.
+    ///
+    /// A type prefix is "QVR", "SAM" or "LMS" in any letter case. In the last two cases full stops are kept, and the
+    /// check registers "DoubleByteCharErr_01". The arguments may be one object.
     HRESULT GetTARNISCompliantFeatureName(const ZFXUnicodeString& name, const ZFXUnicodeString& genericName,
                                           ZFXUnicodeString& compliantName) noexcept;
 
@@ -94,7 +119,7 @@ private:
     unsigned char m_englishMode = 0;
     unsigned char m_initialUserLocaleEnglish = 0;
     unsigned char m_initialInputLocaleEnglish = 0;
-    /// The generic names issued, without their numbers. A name that was issued twice is listed twice.
+    /// The generic names used, without their numbers. A name that was used twice is listed twice.
     ZFXListValZFXUnicodeString m_usedGenericNames;
     /// The materials in the order in which they were first named.
     ZFXListValZFXISpecObject_var m_materialObjects;
