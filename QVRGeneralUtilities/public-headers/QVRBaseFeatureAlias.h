@@ -5,11 +5,13 @@
 #include "object-model/ZFXBaseUnknown.h"
 #include "text/ZFXUnicodeString.h"
 
-/// The alias of a feature, kept in its string attribute "Alias" and guarded: a new one is stored only when it
-/// passes the name rules. An object of this class is an extension of one feature; the feature interfaces that
-/// it is asked for are the feature's. It holds no state of its own. Used by one thread at a time.
+/// Stores the name (alias) of a feature in its string attribute "Alias" and rejects names that break the name rules.
+///
+/// An object of this class extends one feature. Its interface casts lead to the interfaces of this feature. It has no
+/// state: two objects for one feature are interchangeable. One thread at a time uses it.
 class QVR_NAME_UTILITY_EXPORT QVRBaseFeatureAlias : public ZFXBaseUnknown {
 public:
+    /// Creates an object that extends no feature. ZFXBaseUnknown::SetImpl sets the feature.
     QVRBaseFeatureAlias();
     ~QVRBaseFeatureAlias() override;
 
@@ -17,16 +19,20 @@ public:
     ZFXUnicodeString GetAlias() noexcept;
     /// Changes the alias if the new one passes the name rules.
     ///
-    /// Reads the former alias, removes spaces and then underscores at both ends of `alias`, stores the result and
-    /// checks it. Stores it again if the check passes, otherwise stores the former alias. No request is repeated: a
-    /// host whose request fails gets the result of the remaining steps. The check is
-    /// - QVRNameUtil::IsNameUniqueAcrossCases for the late type "QVRJobLT";
-    /// - QVRNameUtil::CheckName without the test of the first character for "QVRShellSectionEnhLT";
-    /// - QVRNameUtil::CheckName for every other late type.
+    /// Removes spaces and then underscores at both ends of `alias`, stores the result and checks it. If the check
+    /// fails, stores the former alias again; if it passes, stores the new one again. During the check the feature has
+    /// the new alias. A failed request to the host is not repeated: the other steps determine the result. The check
+    /// depends on the late type:
+    /// - "QVRJobLT": QVRNameUtil::IsNameUniqueAcrossCases. CheckName runs before it and may register an error; its
+    ///   result is ignored.
+    /// - "QVRShellSectionEnhLT": QVRNameUtil::CheckName without the check of the first unit.
+    /// - Every other late type: QVRNameUtil::CheckName.
     ///
-    /// If the check registers an error, writes "NAME ERROR: " and its message as one line on standard output. A failure
-    /// without an error is silent; read the alias again to detect it. Stores nothing if the feature does not offer
-    /// ZFXISpecAttrAccess or has no attribute "Alias". Checks nothing if the object does not offer ZFXISpecObject.
+    /// If the check fails with a registered error, writes "NAME ERROR: " and its message as one line on standard
+    /// output. Any other failure writes nothing. Read the alias again to detect a failure.
+    ///
+    /// Stores nothing if the feature does not offer ZFXISpecAttrAccess or has no attribute "Alias"; the check still
+    /// runs. Checks nothing if the object extends no feature with ZFXISpecObject; the former alias is stored again.
     void SetAlias(const ZFXUnicodeString& alias) noexcept;
 
 private:

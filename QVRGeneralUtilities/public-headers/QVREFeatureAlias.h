@@ -4,36 +4,40 @@
 
 #include "object-model/ZFXMetaClass.h"
 
-/// What the object model knows as the alias extension of 29 late types: asked for ZFXIAlias, a feature of one
-/// of them gives an adaptor that forwards to an object of this class. The declarations and the dictionary
-/// entry are made when the module is loaded.
+/// Offers ZFXIAlias on the features of 29 late types. An interface cast of such a feature to ZFXIAlias creates an
+/// adaptor that forwards to an object of this class. The adaptor owns this object.
+///
+/// The late types and the adaptor are declared to the object model when the module is loaded. docs/types.md lists them
+/// as guarded.
 class QVR_NAME_UTILITY_EXPORT QVREFeatureAlias : public QVRBaseFeatureAlias {
 public:
+    /// Creates an object that extends no feature.
     QVREFeatureAlias();
     ~QVREFeatureAlias() override;
 
-    /// As QVRBaseFeatureAlias::SetAlias.
+    /// Calls QVRBaseFeatureAlias::SetAlias.
     void SetAlias(const ZFXUnicodeString& alias) noexcept;
-    /// As QVRBaseFeatureAlias::GetAlias.
+    /// Calls QVRBaseFeatureAlias::GetAlias.
     ZFXUnicodeString GetAlias() noexcept;
 
-    /// The meta class, made and declared an extension of the late types by the first call. [borrowed]
+    /// Returns the meta class. The first call creates it and declares it an extension of the late types. It exists
+    /// until the process ends. [borrowed]
     static ZFXMetaClass* MetaObject() noexcept;
     ZFXMetaClass* GetMetaObject() const noexcept override;
-    /// The identifier of the meta class, made out of the name: the same in every process.
+    /// Returns the identifier of the meta class. It is derived from the name, so it is equal in all processes.
     static const GUID& ClassId() noexcept;
-    /// "QVREFeatureAlias", for as long as the process runs. [borrowed]
+    /// Returns "QVREFeatureAlias". The text is valid until the process ends. [borrowed]
     static const char* ClassName() noexcept;
     const char* IsA() const noexcept override;
     int IsAKindOf(const char* name) const noexcept override;
-    /// A new object, or null when there is no memory. [new reference]
+    /// Returns a new object that extends no feature, or null if no memory is available. [new reference]
     static ZFXBaseUnknown* CreateItself() noexcept;
 
-    /// What MetaObject gives, null before its first call. [borrowed]
+    /// The result of MetaObject. Null before its first call. [borrowed]
     static ZFXMetaClass* meta_object;
 };
 
-/// Makes the adaptor that offers ZFXIAlias on `object`; null without an object or without memory. `context` is handed
-/// on. [new reference]
+/// Returns a new adaptor that offers ZFXIAlias on `object`, or null if `object` is null or no memory is available. The
+/// adaptor owns a reference to `object`. `context` is passed to Tie_Construct. [new reference]
 extern "C" QVR_NAME_UTILITY_EXPORT ZFXBaseUnknown* CreateTIEZFXIAliasQVREFeatureAlias(ZFXBaseUnknown* object,
                                                                                       void* context);

@@ -6,23 +6,33 @@
 #include "base/ZFXResult.h"
 #include "text/ZFXUnicodeString.h"
 
-/// What a mesh part is called in the solver deck. The part's integer tag alone makes its names distinct.
-/// Used by one thread at a time.
+/// Builds the names that a mesh part has in the solver deck. Only the integer tag of the part makes them unique: they
+/// are not compared with other names. One thread at a time uses the class. No operation throws an exception.
 class QVR_NAME_UTILITY_EXPORT QVRGenInstanceName {
 public:
-    /// Copies nothing: there is nothing to copy.
+    /// Does nothing: the class has no members.
     QVRGenInstanceName& operator=(const QVRGenInstanceName&);
 
-    /// "Instance" and "Part", each with the tag, "-" and the cleaned display name behind it, cut to 72 units:
-    /// "Instance3-Bracket-1". Of a name with colons the text after the last one counts, without its first
-    /// character; double quotes go, blanks and underscores at the ends go, full stops become hyphens,
-    /// backslashes become solidi. A display name with a unit above U+00FF (whose test registers
-    /// "DoubleByteCharErr_01") is replaced by the generic English name; one that begins with "OrphanMesh-"
-    /// gives both names as the rest of it, unchanged. E_FAIL for an empty handle, no explicit data, or no
-    /// name; the code of a failed tag; the code of QVRGenI18NUtils::GetGenericEnglishName when that refuses.
+    /// Sets `instanceName` and `partName` to "Instance" and "Part", each followed by the tag, "-" and the cleaned
+    /// display name (alias) of the part, cut to 72 UTF-16 code units. "Root: Bracket.1" with the tag 3 gives
+    /// "Instance3-Bracket-1". An empty cleaned name is omitted with its "-". It is cleaned as follows:
+    /// - A name with a unit above U+00FF is replaced by the result of QVRGenI18NUtils::GetGenericEnglishName. The check
+    ///   registers "DoubleByteCharErr_01".
+    /// - Any other name with a colon becomes the text after the last colon, or the whole name if this text is empty.
+    ///   Unless this colon is the first unit of the name, the first unit of the result (mostly a space) is removed.
+    /// - Double quotes, then leading underscores, leading spaces, trailing spaces and underscores are removed.
+    /// - Full stops become hyphens, backslashes become slashes.
+    ///
+    /// If the display name begins with "OrphanMesh-", both names are the rest of it, not cleaned. On failure both are
+    /// unchanged:
+    /// - E_FAIL: the handle is empty, or the part does not offer ZFXISamExplicit with an explicit child, or ZFXIAlias.
+    /// - The code of the request for the tag: the request failed.
+    /// - "GetGenericEnglishNameERR_01": a unit is above U+00FF, and GetGenericEnglishName failed.
     static HRESULT GetUniqueLegalInstanceName(const ZFXIMSHMeshPart_var& meshPart, ZFXUnicodeString& instanceName,
                                               ZFXUnicodeString& partName) noexcept;
-    /// The number between the first "INSTANCE" of a name and the next "-" (the end when there is none). The
-    /// tag keeps what the caller passed when that is no int. E_FAIL, and -1, for a name without "INSTANCE".
+    /// Sets `tag` to the integer between the first "INSTANCE" (upper case) in `name` and the next "-", or the end of
+    /// `name` if there is none. If this text does not begin with an int as "%d" reads it, leaves `tag` unchanged and
+    /// returns S_OK.
+    /// - E_FAIL: `name` does not contain "INSTANCE". `tag` becomes -1.
     static HRESULT GetUniqueLegalInstanceTag(int& tag, const ZFXUnicodeString& name) noexcept;
 };

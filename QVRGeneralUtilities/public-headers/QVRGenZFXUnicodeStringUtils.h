@@ -6,41 +6,43 @@
 #include "collections/ZFXRawCollint.h"
 #include "text/ZFXUnicodeString.h"
 
-/// Makes a name fit for the solver's input deck or for a file name. Each text function returns a new text and
-/// leaves its argument as it is; none of them fails. All may run on several threads at a time.
+/// Removes and replaces characters of names. The functions that return a text leave their argument unchanged and cannot
+/// fail. All functions may run on several threads at a time. None throws an exception.
 class QVR_NAME_UTILITY_EXPORT QVRGenZFXUnicodeStringUtils {
 public:
-    /// Copies nothing: there is nothing to copy.
+    /// Does nothing: the class has no members.
     QVRGenZFXUnicodeStringUtils& operator=(const QVRGenZFXUnicodeStringUtils&);
 
-    /// Without the space U+0020, wherever it stands.
+    /// Returns the text without its spaces (U+0020).
     static ZFXUnicodeString RemoveSpaces(const ZFXUnicodeString& in) noexcept;
-    /// Without the double quote.
+    /// Returns the text without its double quotes.
     static ZFXUnicodeString RemoveDoubleQuotes(const ZFXUnicodeString& in) noexcept;
-    /// Without the backslash.
+    /// Returns the text without its backslashes.
     static ZFXUnicodeString RemoveBackSlashes(const ZFXUnicodeString& in) noexcept;
-    /// Without the full stop.
+    /// Returns the text without its full stops.
     static ZFXUnicodeString RemovePeriods(const ZFXUnicodeString& in) noexcept;
-    /// The run of spaces at the start goes, however long; spaces further on stay. Its kin likewise.
+    /// Returns the text without the spaces at the start.
     static ZFXUnicodeString RemoveLeadingSpaces(const ZFXUnicodeString& in) noexcept;
-    /// The run of underscores at the start.
+    /// Returns the text without the underscores at the start.
     static ZFXUnicodeString RemoveLeadingUnderscores(const ZFXUnicodeString& in) noexcept;
-    /// The run of spaces at the end.
+    /// Returns the text without the spaces at the end.
     static ZFXUnicodeString RemoveTrailingSpaces(const ZFXUnicodeString& in) noexcept;
-    /// The run of underscores at the end.
+    /// Returns the text without the underscores at the end.
     static ZFXUnicodeString RemoveTrailingUnderscores(const ZFXUnicodeString& in) noexcept;
-    /// Each backslash becomes a solidus.
+    /// Returns the text with slashes for backslashes.
     static ZFXUnicodeString ReplaceBackslashWithForwardslash(const ZFXUnicodeString& in) noexcept;
-    /// Each full stop becomes a hyphen.
+    /// Returns the text with hyphens for full stops.
     static ZFXUnicodeString ReplacePeriodWithDash(const ZFXUnicodeString& in) noexcept;
-    /// The first 72 units of a longer text; the cut may fall inside a word or a surrogate pair. (The name is
-    /// spelt as its callers know it.)
+    /// Returns the first 72 UTF-16 code units of the text. The cut may be inside a word or a surrogate pair. (Callers
+    /// depend on the spelling of the name.)
     static ZFXUnicodeString TrucateToLegalLength(const ZFXUnicodeString& in) noexcept;
 
-    /// Reads the integers of `text` between separators and appends them to `numbers`, the last one first. The
-    /// separator counts with its first character only: the rest of a longer one is read as part of the
-    /// number. What does not begin with a number is skipped. `text` keeps what stood before the first separator. An
-    /// empty separator separates nothing. Always S_OK.
+    /// Splits `text` at every `separator` and appends the integer at the start of each part to `numbers`, the last part
+    /// first. Always returns S_OK. `text` becomes the part before the first separator.
+    /// - An integer is read as "%d" reads it: white space, sign and digits. Parts that do not begin with an int are
+    ///   skipped.
+    /// - Of a separator with several units, only the first is removed: the others are the start of the next part.
+    /// - An empty separator does not split the text.
     static HRESULT GetIntegerListFromString(ZFXUnicodeString& text, ZFXRawCollint& numbers,
                                             ZFXUnicodeString separator) noexcept;
 };

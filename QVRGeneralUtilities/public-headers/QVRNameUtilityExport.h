@@ -1,6 +1,6 @@
 #pragma once
 
-/// Marks what the module exports; everything else stays inside it.
+/// Marks what the module exports. Everything else is local to it.
 #if !defined(_WIN32)
 #define QVR_NAME_UTILITY_EXPORT __attribute__((visibility("default")))
 #elif defined(QVRNameUtility_EXPORTS) // its own sources are compiled
