@@ -1,5 +1,7 @@
 #include "text/Utf8.h"
 
+#include "text/Surrogates.h"
+
 namespace Utf8 {
 namespace {
 
@@ -19,9 +21,6 @@ Lead LeadOf(unsigned char byte) noexcept {
     return {0, 0, 0};
 }
 
-bool IsHigh(char16_t unit) noexcept { return (unit & 0xFC00) == 0xD800; }
-bool IsLow(char16_t unit) noexcept { return (unit & 0xFC00) == 0xDC00; }
-
 } // namespace
 
 Decoded First(std::string_view text) noexcept {
@@ -38,28 +37,27 @@ Decoded First(std::string_view text) noexcept {
             return {kReplacement, 1};
         code = (code << 6) | (byte & 0x3FU);
     }
-    const bool surrogate = code >= 0xD800 && code <= 0xDFFF;
-    if (code < lead.least || code > 0x10FFFF || surrogate)
+    if (code < lead.least || code > 0x10FFFF || Surrogates::IsHalf(code))
         return {kReplacement, 1};
     return {code, lead.bytes};
 }
 
 std::size_t ToUtf16(std::string_view text, char16_t* units) noexcept {
     std::size_t count = 0;
-    const auto put = [&](std::uint32_t unit) {
+    const auto put = [&](char16_t unit) {
         if (units != nullptr)
-            units[count] = static_cast<char16_t>(unit);
+            units[count] = unit;
         ++count;
     };
     while (!text.empty()) {
         const Decoded c = First(text);
         text.remove_prefix(static_cast<std::size_t>(c.bytes));
-        if (c.code < 0x10000) {
-            put(c.code);
+        if (c.code < Surrogates::kFirstCode) {
+            put(static_cast<char16_t>(c.code));
             continue;
         }
-        put(0xD800U + ((c.code - 0x10000U) >> 10));
-        put(0xDC00U + ((c.code - 0x10000U) & 0x3FFU));
+        put(Surrogates::HighOf(c.code));
+        put(Surrogates::LowOf(c.code));
     }
     return count;
 }
@@ -73,17 +71,16 @@ std::size_t FromUtf16(std::u16string_view text, char* bytes) noexcept {
     };
     for (std::size_t i = 0; i < text.size(); ++i) {
         std::uint32_t code = text[i];
-        if (IsHigh(text[i]) && i + 1 < text.size() && IsLow(text[i + 1])) {
-            code = 0x10000U + ((code & 0x3FFU) << 10) + (text[i + 1] & 0x3FFU);
-            ++i;
-        } else if (IsHigh(text[i]) || IsLow(text[i])) {
-            code = kReplacement;
+        if (Surrogates::IsHalf(code)) {
+            const bool isPair = i + 1 < text.size() && Surrogates::IsPair(text[i], text[i + 1]);
+            code = isPair ? Surrogates::Decode(text[i], text[i + 1]) : kReplacement;
+            i += isPair ? 1 : 0;
         }
         if (code < 0x80) {
             put(code);
             continue;
         }
-        const int trail = code < 0x800 ? 1 : code < 0x10000 ? 2 : 3;
+        const int trail = code < 0x800 ? 1 : code < Surrogates::kFirstCode ? 2 : 3;
         constexpr std::uint32_t kMarks[] = {0, 0xC0, 0xE0, 0xF0};
         put(kMarks[trail] | (code >> (6 * trail)));
         for (int shift = 6 * (trail - 1); shift >= 0; shift -= 6)

@@ -1,9 +1,14 @@
 #include "text/ZFXUnicodeChar.h"
 
-#include "text/ZFXUnicodeString.h"
+#include "text/Surrogates.h"
+#include "text/Utf8.h"
+
+#include <string_view>
 
 ZFXUnicodeChar& ZFXUnicodeChar::operator=(const char* text) noexcept {
-    *this = text == nullptr ? ZFXUnicodeChar() : ZFXUnicodeString(text)[0];
+    const std::string_view narrow(text == nullptr ? "" : text);
+    const std::uint32_t code = narrow.empty() ? 0 : Utf8::First(narrow).code;
+    m_unit = code < Surrogates::kFirstCode ? static_cast<char16_t>(code) : Surrogates::HighOf(code);
     return *this;
 }
 

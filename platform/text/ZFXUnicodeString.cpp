@@ -151,10 +151,6 @@ int ZFXUnicodeString::operator==(const char* text) const noexcept {
     return at == units.size();
 }
 
-int ZFXUnicodeString::CompareUnits(const char16_t* left, const char16_t* right, int length) noexcept {
-    return CaseMapping::Compare(left, right, length);
-}
-
 ZFXUnicodeString ZFXUnicodeString::SubString(int start, int length) const {
     const int from = std::clamp(start, 0, m_length);
     const int most = m_length - from;

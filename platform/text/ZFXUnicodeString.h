@@ -100,11 +100,13 @@ public:
     int Compare(const ZFXUnicodeString& other) const noexcept {
         if (m_length != other.m_length)
             return 0; // folding keeps the number of units
+        if (m_length == 0)
+            return 2;
         const char16_t* left = Data();
         const char16_t* right = other.Data();
-        // Most names part at their first unit. (An empty text has none; what is read there means nothing.)
-        if ((left[0] | right[0]) < 0x80 && left[0] != right[0] && (left[0] ^ right[0]) != 0x20)
-            return m_length == 0 ? 2 : 0;
+        // Most pairs of names differ at their first unit, by more than the bit that separates ASCII letters by case.
+        if ((left[0] | right[0]) < 0x80 && ((left[0] ^ right[0]) & ~0x20) != 0)
+            return 0;
         return CompareUnits(left, right, m_length);
     }
 

@@ -1,0 +1,90 @@
+// The comparison of two texts of one length, run for each pair of names in a scope: most names are short and ASCII.
+// Compares eight units at a time; only a difference beyond ASCII is folded unit by unit.
+
+#include "text/CaseMapping.h"
+#include "text/Surrogates.h"
+#include "text/ZFXUnicodeString.h"
+
+#include <algorithm>
+#include <cstdint>
+#include <cstring>
+
+namespace {
+
+/// Eight units side by side: compilers make one step of a vector unit of each operation on them.
+using Block = std::uint16_t __attribute__((vector_size(16)));
+constexpr int kBlock = 8;
+constexpr std::uint16_t kCaseBit = 0x20;
+
+Block Load(const char16_t* units) noexcept {
+    Block block;
+    std::memcpy(&block, units, sizeof block);
+    return block;
+}
+
+bool IsZero(const Block& block) noexcept {
+    std::uint64_t halves[2];
+    std::memcpy(halves, &block, sizeof halves);
+    return (halves[0] | halves[1]) == 0;
+}
+
+/// Whether two blocks part at nothing but the case of ASCII letters.
+bool EqualAscii(const Block& left, const Block& right) noexcept {
+    const Block fromA = (left | kCaseBit) - 0x61; // the place in the alphabet
+    const auto isLetter = reinterpret_cast<Block>(fromA < 26);
+    return IsZero((left ^ right) & ~(isLetter & kCaseBit));
+}
+
+bool AreAscii(const Block& left, const Block& right) noexcept { return IsZero((left | right) & 0xFF80); }
+
+std::uint32_t FoldPair(const char16_t* pair) noexcept {
+    return CaseMapping::kFold.OfPair(Surrogates::Decode(pair[0], pair[1]));
+}
+
+/// Returns true if both texts contain a surrogate pair at position i, in either half, and the pairs are equal apart
+/// from case.
+[[gnu::cold]] bool EqualPairsAt(const char16_t* left, const char16_t* right, int i, int length) noexcept {
+    const int start = Surrogates::IsLow(left[i]) ? i - 1 : i;
+    return start >= 0 && start + 1 < length && Surrogates::IsPair(left[start], left[start + 1]) &&
+           Surrogates::IsPair(right[start], right[start + 1]) && FoldPair(left + start) == FoldPair(right + start);
+}
+
+/// Compares from position `from` on, unit by unit. `identical` is false if the units before it differ in case.
+// Not inlined, so that CompareUnits saves fewer registers.
+[[gnu::noinline]] int CompareFolded(const char16_t* left, const char16_t* right, int from, int length,
+                                    bool identical) noexcept {
+    for (int i = from; i < length; ++i) {
+        if (left[i] == right[i])
+            continue;
+        identical = false;
+        const bool areHalves = Surrogates::IsHalf(left[i]) && Surrogates::IsHalf(right[i]);
+        const bool equal = areHalves ? EqualPairsAt(left, right, i, length)
+                                     : CaseMapping::kFold.OfUnit(left[i]) == CaseMapping::kFold.OfUnit(right[i]);
+        if (!equal)
+            return 0;
+    }
+    return identical ? 2 : 1;
+}
+
+} // namespace
+
+int ZFXUnicodeString::CompareUnits(const char16_t* left, const char16_t* right, int length) noexcept {
+    // For long identical texts memcmp is faster than a loop over blocks.
+    if (length > 2 * kBlock && std::memcmp(left, right, static_cast<std::size_t>(length) * sizeof(char16_t)) == 0)
+        return 2;
+    if (length < kBlock)
+        return CompareFolded(left, right, 0, length, true);
+    bool identical = true;
+    for (int next = 0; next < length; next += kBlock) {
+        const int at = std::min(next, length - kBlock); // the last block can overlap the one before
+        const Block l = Load(left + at);
+        const Block r = Load(right + at);
+        if (IsZero(l ^ r))
+            continue;
+        identical = false;
+        if (EqualAscii(l, r))
+            continue;
+        return AreAscii(l, r) ? 0 : CompareFolded(left, right, at, length, false);
+    }
+    return identical ? 2 : 1;
+}
