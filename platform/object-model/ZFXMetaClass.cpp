@@ -108,3 +108,11 @@ ZFXMetaClass* fct_FindMetaObject(const char* name) {
                                                    static_cast<int>(ENUMTypeOfClass::Implementation));
     return metaClass.get();
 }
+
+ZFXFillDictionary::ZFXFillDictionary(ZFXMetaClass* extension, ZFXMetaClass* interfaceClass, ZFXAdaptorFactory factory,
+                                     ZFXAdaptorFactory /*secondFactory*/, int /*flag*/)
+    : m_extension(extension), m_iid(interfaceClass->GetClassId()), m_factory(factory) {
+    m_extension->AddAdaptorFactory(m_iid, m_factory);
+}
+
+ZFXFillDictionary::~ZFXFillDictionary() { m_extension->RemoveAdaptorFactory(m_iid, m_factory); }

@@ -4,7 +4,7 @@
 #include "QVREFeatureAlias.h"
 
 #include "analysis/ZFXIAlias.h"
-#include "object-model/ZFXDictionary.h"
+#include "object-model/ZFXMetaClass.h"
 #include "object-model/ZFXTie.h"
 
 #include <cassert>
