@@ -5,7 +5,7 @@
 #include "FuzzInput.h"
 #include "ReferenceText.h"
 
-#include "collections/ZFXRawCollint.h"
+#include "collections/ZFXListVal.h"
 #include "object-model/ZFXHandle.h"
 #include "text/ZFXUnicodeString.h"
 

@@ -3,7 +3,7 @@
 #include "QVRNameUtilityExport.h"
 
 #include "base/ZFXResult.h"
-#include "collections/ZFXRawCollint.h"
+#include "collections/ZFXListVal.h"
 #include "text/ZFXUnicodeString.h"
 
 /// Removes and replaces characters of names. The functions that return a text leave their argument unchanged and cannot

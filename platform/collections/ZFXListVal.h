@@ -1,12 +1,18 @@
 #pragma once
 
-#include "collections/ZFXCollec.h"
 #include "text/ZFXUnicodeString.h"
 
 #include <algorithm>
 #include <cstddef>
 #include <utility>
 #include <vector>
+
+/// The scope of the enumeration that all lists use.
+class ZFXCollec {
+public:
+    /// What happens to a list's storage when its elements are removed: it is freed.
+    enum MemoryHandling { ReleaseAllocation = 1 };
+};
 
 /// An ordered list of values, with indexes from 1 to Size(). Elements are in the order in which they were appended, and
 /// duplicates are allowed. An element cannot be changed in place. A copy contains copies of the elements: handles are
@@ -73,3 +79,5 @@ private:
 };
 
 using ZFXListValZFXUnicodeString = ZFXListVal<ZFXUnicodeString>;
+/// An ordered, growable list of int.
+using ZFXRawCollint = ZFXListVal<int>;

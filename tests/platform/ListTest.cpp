@@ -1,4 +1,4 @@
-#include "collections/ZFXRawCollint.h"
+#include "collections/ZFXListVal.h"
 #include "support/DocumentTest.h"
 
 namespace {
