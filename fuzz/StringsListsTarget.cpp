@@ -319,7 +319,7 @@ ZFXUnicodeString Make(FuzzInput& input) {
 }
 template <>
 ZFXBaseUnknown_var Make(FuzzInput& input) {
-    return input.Flag() ? ZFXBaseUnknown_var::TakeOver(new CountedObject) : ZFXBaseUnknown_var();
+    return input.Flag() ? ZFXBaseUnknown_var::Attach(new CountedObject) : ZFXBaseUnknown_var();
 }
 
 /// Applies each operation to a list and to its reference vector, and compares all lists afterwards.

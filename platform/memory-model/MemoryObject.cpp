@@ -59,7 +59,7 @@ MemoryObject* MemoryObject::NearestAbove(ZFXInterfaceNumber number) const {
 }
 
 void MemoryObject::AddPointing(MemoryObject* owner) {
-    Extras().pointing.Append(ZFXISpecAttribute_var::TakeOver(new MemoryPointingAttribute(owner)));
+    Extras().pointing.Append(ZFXISpecAttribute_var::Attach(new MemoryPointingAttribute(owner)));
 }
 
 long MemoryObject::References() {

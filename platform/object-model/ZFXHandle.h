@@ -70,7 +70,7 @@ public:
     }
 
     /// Takes over the reference that a platform operation handed back.
-    static ZFXHandle TakeOver(Interface* object) noexcept {
+    static ZFXHandle Attach(Interface* object) noexcept {
         ZFXHandle handle;
         handle.m_face = object;
         return handle;

@@ -109,7 +109,7 @@ TEST_F(FeatureAliasTest, AnAdaptorIsAFaceOfItsFeatureAndKeepsItAlive) {
     EXPECT_EQ(ZFXBaseUnknown::LiveAllocations(),
               before); // adaptor and extension went with the last reference
 
-    const ZFXBaseUnknown_var extension = ZFXBaseUnknown_var::TakeOver(QVREFeatureAlias::CreateItself());
+    const ZFXBaseUnknown_var extension = ZFXBaseUnknown_var::Attach(QVREFeatureAlias::CreateItself());
     EXPECT_STREQ(extension->IsA(), "QVREFeatureAlias");
     EXPECT_STREQ(QVREFeatureAlias::ClassName(), "QVREFeatureAlias");
     EXPECT_TRUE(extension->IsAKindOf("QVREFeatureAlias") && !extension->IsAKindOf("QVRBaseFeatureAlias"));

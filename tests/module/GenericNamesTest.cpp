@@ -81,9 +81,9 @@ TEST_F(GenericNamesTest, LateTypeIsRequestedOnceWhenAFeatureIsFirstNamed) {
 }
 
 TEST_F(GenericNamesTest, ObjectAtTheAddressOfAnEarlierOneGetsItsOwnName) {
-    const auto listed = ZFXHandle<MovableFeature>::TakeOver(new MovableFeature);
-    const auto next = ZFXHandle<MovableFeature>::TakeOver(new MovableFeature);
-    const auto earlier = ZFXBaseUnknown_var::TakeOver(new MovableFeature);
+    const auto listed = ZFXHandle<MovableFeature>::Attach(new MovableFeature);
+    const auto next = ZFXHandle<MovableFeature>::Attach(new MovableFeature);
+    const auto earlier = ZFXBaseUnknown_var::Attach(new MovableFeature);
     listed->SetImpl(earlier);
     ZFXUnicodeString name;
     utils->GetGenericEnglishFeatureName(listed.Get(), name);

@@ -47,7 +47,7 @@ TEST(Handle, AsksAndCountsNoMoreThanNeeded) {
         {"handle to root", [](Counting& o) { ZFXIAlias_var a(&o); ZFXBaseUnknown_var b(a); }, {0, 2, 2}},
         {"handle cast, hits", [](Counting& o) { ZFXBaseUnknown_var a(&o); ZFXIAlias_var b(a); }, {1, 2, 2}},
         {"handle cast, misses", [](Counting& o) { ZFXIAlias_var a(&o); ZFXISpecObject_var b(a); }, {1, 1, 1}},
-        {"taken over", [](Counting& o) { auto a = ZFXIAlias_var::TakeOver(&o); }, {0, 0, 1}},
+        {"taken over", [](Counting& o) { auto a = ZFXIAlias_var::Attach(&o); }, {0, 0, 1}},
         {"copy", [](Counting& o) { ZFXIAlias_var a(&o), b(a); }, {0, 2, 2}},
         {"move", [](Counting& o) { ZFXIAlias_var a(&o), b(std::move(a)); }, {0, 1, 1}},
         {"swap", [](Counting& o) { ZFXIAlias_var a(&o), b; a.Swap(b); }, {0, 1, 1}},

@@ -42,13 +42,13 @@ TEST_F(MemoryModelTest, ADocumentIsSearchedInItsOrder) {
     const ZFXListValZFXISpecAttribute_var* pointing =
         ZFXISpecObject_var(second)->ListPointingAttributes("ZFXISpecObject", "", "");
     ASSERT_EQ(pointing->Size(), 1);
-    EXPECT_TRUE(ZFXBaseUnknown_var::TakeOver((*pointing)[1]->GetOwner()) == analysisCase.History().Object());
+    EXPECT_TRUE(ZFXBaseUnknown_var::Attach((*pointing)[1]->GetOwner()) == analysisCase.History().Object());
 
     MemoryFeature job = analysisCase.Job("Job-1");
     ZFXListValZFXBaseUnknown_var* sets = nullptr;
     EXPECT_EQ(ZFXISamAnalysisEntity_var(job)->GetParentSets(sets), S_OK);
     const ZFXISpecObject_var container((*sets)[1]);
-    EXPECT_TRUE(ZFXBaseUnknown_var::TakeOver(container->GetFather()) == document.Model().Object());
+    EXPECT_TRUE(ZFXBaseUnknown_var::Attach(container->GetFather()) == document.Model().Object());
     delete sets;
 }
 

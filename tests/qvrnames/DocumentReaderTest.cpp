@@ -64,7 +64,7 @@ protected:
     MemoryFeature operator[](const std::string& id) { return m_loaded.entries[m_loaded.ids.at(id)].feature; }
     bool IsFather(const std::string& father, const std::string& child) {
         const ZFXISpecObject_var feature = (*this)[child];
-        return ZFXBaseUnknown_var::TakeOver(feature->GetFather()) == (*this)[father].Object();
+        return ZFXBaseUnknown_var::Attach(feature->GetFather()) == (*this)[father].Object();
     }
 
     LoadedDocument m_loaded{R"({
@@ -116,7 +116,7 @@ TEST_F(FullDocument, HasConnectors) {
     EXPECT_TRUE(connectors[2] == (*this)["right"].Object());
     ZFXBaseUnknown* group = nullptr;
     ZFXISamAnalysisConnector_var(connectors[1])->GetGroup(group);
-    EXPECT_TRUE(ZFXBaseUnknown_var::TakeOver(group) == (*this)["group"].Object());
+    EXPECT_TRUE(ZFXBaseUnknown_var::Attach(group) == (*this)["group"].Object());
     ZFXListValZFXBaseUnknown_var master;
     ZFXListValZFXBaseUnknown_var slave;
     QVRISamAnalysisConnectionDesign_var((*this)["design"])->GetMasterAndSlaveConnectors(master, slave);
@@ -146,7 +146,7 @@ TEST_F(FullDocument, HasFlagsAndTexts) {
     child.GetTag(tag);
     EXPECT_EQ(tag, -3);
     const ZFXISpecAttrAccess_var attributes = (*this)["step"];
-    const auto key = ZFXISpecAttrKey_var::TakeOver(attributes->GetAttrKey("FileLink"));
+    const auto key = ZFXISpecAttrKey_var::Attach(attributes->GetAttrKey("FileLink"));
     EXPECT_TRUE(attributes->GetString(key, 0) == "a.inp");
 }
 

@@ -17,7 +17,7 @@ public:
     explicit AliasAttribute(ZFXBaseUnknown* extension) : m_access(extension) {
         assert(extension != nullptr);
         if (m_access != nullptr)
-            m_key = ZFXISpecAttrKey_var::TakeOver(m_access->GetAttrKey("Alias"));
+            m_key = ZFXISpecAttrKey_var::Attach(m_access->GetAttrKey("Alias"));
     }
 
     ZFXUnicodeString Read() const { return m_key == nullptr ? ZFXUnicodeString() : m_access->GetString(m_key, 0); }

@@ -42,7 +42,7 @@ Verdict CheckAsStored(const ZFXISpecObject_var& feature, const ZFXUnicodeString&
     const ZFXISpecAttrAccess_var attributes(feature);
     if (attributes == nullptr)
         return CheckFeatureName(feature, name);
-    const auto key = ZFXISpecAttrKey_var::TakeOver(attributes->GetAttrKey("Alias"));
+    const auto key = ZFXISpecAttrKey_var::Attach(attributes->GetAttrKey("Alias"));
     const ZFXUnicodeString oldName = attributes->GetString(key, 0);
     attributes->SetString(key, name, 0);
     Verdict verdict = CheckFeatureName(feature, name);

@@ -10,7 +10,7 @@
 HRESULT QVRGenI18NUtils::GetGenericEnglishName(const ZFXISpecObject_var& feature, ZFXUnicodeString& name) noexcept {
     if (feature == nullptr)
         return InputErrorReturn(MessageId::GetGenericEnglishNameERR_01);
-    const ZFXISamAnalysisSet_var set(ZFXBaseUnknown_var::TakeOver(feature->GetFather()));
+    const ZFXISamAnalysisSet_var set(ZFXBaseUnknown_var::Attach(feature->GetFather()));
     ZFXListValZFXISpecObject_var members;
     if (set == nullptr || Failed(set->ListMembers(members, CLSID_ZFXBaseUnknown, ZFXISamAnalysisSet::kMemberFlag)))
         return InputErrorReturn(MessageId::GetGenericEnglishNameERR_01);

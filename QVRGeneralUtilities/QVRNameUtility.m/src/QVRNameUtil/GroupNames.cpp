@@ -28,7 +28,7 @@ HRESULT QVRNameUtil::GetSupportGroupName(
         return S_OK;
     ZFXBaseUnknown* raw = nullptr;
     std::ignore = connector->GetGroup(raw); // the group counts, not the code
-    const ZFXBaseUnknown_var group = ZFXBaseUnknown_var::TakeOver(raw);
+    const ZFXBaseUnknown_var group = ZFXBaseUnknown_var::Attach(raw);
     if (QVRISamGroupExt_var(group) == nullptr)
         return E_FAIL;
     const ZFXIAlias_var alias(group);

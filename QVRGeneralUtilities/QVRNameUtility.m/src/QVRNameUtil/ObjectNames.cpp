@@ -31,7 +31,7 @@ HRESULT QVRNameUtil::GetMorvelObjectName(ZFXISpecObject_var& feature, ZFXUnicode
     const HRESULT legal = IsNameValid(name, 1);
     if (Failed(legal) || !LateTypes::IsOfKind(lateType, LateTypes::Kind::BoltTightening))
         return legal;
-    const ZFXISamAnalysisScan_var father(ZFXBaseUnknown_var::TakeOver(feature->GetFather()));
+    const ZFXISamAnalysisScan_var father(ZFXBaseUnknown_var::Attach(feature->GetFather()));
     if (father == nullptr)
         return InputErrorReturn(MessageId::ParentERR_01);
     ZFXListValZFXBaseUnknown_var siblings;

@@ -39,7 +39,7 @@ HRESULT QVRNameUtil::IsNameUniqueAcrossCases(ZFXISpecObject_var& feature, const 
         return parent.code;
     const ZFXISpecObject_var set(parent.set);
     const ZFXISamAnalysisModel_var model(set == nullptr ? ZFXBaseUnknown_var()
-                                                        : ZFXBaseUnknown_var::TakeOver(set->GetFather()));
+                                                        : ZFXBaseUnknown_var::Attach(set->GetFather()));
     if (model == nullptr)
         return E_FAIL;
     ZFXListValZFXBaseUnknown_var cases;

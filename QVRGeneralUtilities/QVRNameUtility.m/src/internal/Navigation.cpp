@@ -45,7 +45,7 @@ ZFXBaseUnknown_var SimulationHistoryAbove(const ZFXISpecObject_var& step) {
     for (int i = 1; i <= attributes->Size(); ++i) {
         const ZFXISpecAttribute_var& attribute = (*attributes)[i];
         const ZFXISpecObject_var owner(attribute == nullptr ? ZFXBaseUnknown_var()
-                                                            : ZFXBaseUnknown_var::TakeOver(attribute->GetOwner()));
+                                                            : ZFXBaseUnknown_var::Attach(attribute->GetOwner()));
         if (owner != nullptr && owner->GetLateType() == Vocabulary::QVROruSimHistLT)
             return owner;
     }
