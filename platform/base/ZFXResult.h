@@ -27,6 +27,8 @@ inline constexpr HRESULT E_NOTIMPL = static_cast<HRESULT>(0x80004001U);
 inline constexpr HRESULT E_NOINTERFACE = static_cast<HRESULT>(0x80004002U);
 /// An argument that receives a result is a null pointer.
 inline constexpr HRESULT E_POINTER = static_cast<HRESULT>(0x80004003U);
+/// An argument has a value that the operation does not accept.
+inline constexpr HRESULT E_INVALIDARG = static_cast<HRESULT>(0x80070057U);
 /// A request failed for a reason that no other code describes.
 inline constexpr HRESULT E_UNEXPECTED = static_cast<HRESULT>(0x8000FFFFU);
 

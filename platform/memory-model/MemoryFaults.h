@@ -4,7 +4,7 @@
 
 #include <vector>
 
-/// Counts the requests to a model and injects responses.
+/// Counts the requests to a model, injects responses, and records requests with unexpected arguments.
 class MemoryFaults {
 public:
     /// Counts a request on `object`, or on the services if `object` is null. Returns the injected response, or kSuccess
@@ -30,6 +30,14 @@ public:
         m_lastFault = MemoryRequest::Any;
     }
 
+    /// Records a request with an unexpected argument. Only the first is kept.
+    void RecordUnexpectedArgument(MemoryRequest request) noexcept {
+        if (m_unexpected == MemoryRequest::Any)
+            m_unexpected = request;
+    }
+    /// Returns the first recorded request, or MemoryRequest::Any if there is none.
+    MemoryRequest FirstUnexpectedArgument() const noexcept { return m_unexpected; }
+
     static constexpr MemoryResponse kSuccess{S_OK, true};
     static constexpr long kAlways = -1;
 
@@ -44,5 +52,6 @@ private:
 
     std::vector<Rule> m_rules;
     long m_requests = 0;
-    MemoryRequest m_lastFault = MemoryRequest::Any; // none
+    MemoryRequest m_lastFault = MemoryRequest::Any;  // none
+    MemoryRequest m_unexpected = MemoryRequest::Any; // none
 };

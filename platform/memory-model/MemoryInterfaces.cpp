@@ -5,20 +5,14 @@
 
 #include <string_view>
 
-void MemoryInterface<ZFXIAlias>::SetAlias(const ZFXUnicodeString& alias) {
-    if (Object().BeginRequest(MemoryRequest::SetAlias).filled)
-        Object().alias = alias;
-}
-
-ZFXUnicodeString MemoryInterface<ZFXIAlias>::GetAlias() {
-    return Object().BeginRequest(MemoryRequest::GetAlias).filled ? Object().alias : ZFXUnicodeString();
-}
-
-ZFXUnicodeString MemoryInterface<ZFXISpecObject>::GetLateType() {
-    return Object().BeginRequest(MemoryRequest::GetLateType).filled ? Object().lateType->name : ZFXUnicodeString();
-}
-
 namespace {
+
+// The values of arguments that the module never varies. The model rejects all others.
+constexpr std::string_view kPointingInterface = "ZFXISpecObject";
+constexpr int kScanMode = 3;
+constexpr int kMemberFlag = 0;
+constexpr int kExplicitChildFlag = 1;
+constexpr int kStringIndex = 0;
 
 ZFXBaseUnknown* WithReference(MemoryObject* object) {
     if (object != nullptr)
@@ -34,13 +28,30 @@ void AppendAll(const MemoryObjects& objects, ZFXListValZFXBaseUnknown_var& list)
 
 } // namespace
 
+void MemoryInterface<ZFXIAlias>::SetAlias(const ZFXUnicodeString& alias) {
+    if (Object().BeginRequest(MemoryRequest::SetAlias).filled)
+        Object().alias = alias;
+}
+
+ZFXUnicodeString MemoryInterface<ZFXIAlias>::GetAlias() {
+    return Object().BeginRequest(MemoryRequest::GetAlias).filled ? Object().alias : ZFXUnicodeString();
+}
+
+ZFXUnicodeString MemoryInterface<ZFXISpecObject>::GetLateType() {
+    return Object().BeginRequest(MemoryRequest::GetLateType).filled ? Object().lateType->name : ZFXUnicodeString();
+}
+
 ZFXBaseUnknown* MemoryInterface<ZFXISpecObject>::GetFather() {
     return Object().BeginRequest(MemoryRequest::GetFather).filled ? WithReference(Object().father) : nullptr;
 }
 
-ZFXListValZFXISpecAttribute_var*
-MemoryInterface<ZFXISpecObject>::ListPointingAttributes(const char*, const ZFXUnicodeString&, const ZFXUnicodeString&) {
-    return Object().BeginRequest(MemoryRequest::ListPointingAttributes).filled ? &Object().Extras().pointing : nullptr;
+ZFXListValZFXISpecAttribute_var* MemoryInterface<ZFXISpecObject>::ListPointingAttributes(const char* interfaceName,
+                                                                                         const ZFXUnicodeString& type,
+                                                                                         const ZFXUnicodeString& name) {
+    const bool isExpected = interfaceName != nullptr && std::string_view(interfaceName) == kPointingInterface &&
+                            type.IsNull() != 0 && name.IsNull() != 0;
+    const bool filled = Object().BeginRequest(MemoryRequest::ListPointingAttributes, isExpected).filled;
+    return filled ? &Object().Extras().pointing : nullptr;
 }
 
 ZFXISpecAttrKey* MemoryInterface<ZFXISpecAttrAccess>::GetAttrKey(const char* name) {
@@ -52,15 +63,15 @@ ZFXISpecAttrKey* MemoryInterface<ZFXISpecAttrAccess>::GetAttrKey(const char* nam
     return Object().ExtrasOrNone().attributes.contains(name) ? session.KeyOf(name) : nullptr;
 }
 
-void MemoryInterface<ZFXISpecAttrAccess>::SetString(ZFXISpecAttrKey* key, const ZFXUnicodeString& value, int) {
-    if (!Object().BeginRequest(MemoryRequest::SetString).filled || key == nullptr)
+void MemoryInterface<ZFXISpecAttrAccess>::SetString(ZFXISpecAttrKey* key, const ZFXUnicodeString& value, int index) {
+    if (!Object().BeginRequest(MemoryRequest::SetString, index == kStringIndex).filled || key == nullptr)
         return;
     const MemoryAttrKey& named = static_cast<MemoryAttrKey&>(*key);
     (named.isAlias ? Object().alias : Object().Extras().attributes[named.name]) = value;
 }
 
-ZFXUnicodeString MemoryInterface<ZFXISpecAttrAccess>::GetString(ZFXISpecAttrKey* key, int) {
-    if (!Object().BeginRequest(MemoryRequest::GetString).filled || key == nullptr)
+ZFXUnicodeString MemoryInterface<ZFXISpecAttrAccess>::GetString(ZFXISpecAttrKey* key, int index) {
+    if (!Object().BeginRequest(MemoryRequest::GetString, index == kStringIndex).filled || key == nullptr)
         return {};
     const MemoryAttrKey& named = static_cast<MemoryAttrKey&>(*key);
     if (named.isAlias)
@@ -83,8 +94,10 @@ HRESULT MemoryInterface<ZFXISamAnalysisModel>::ListAnalysisCases(ZFXListValZFXBa
     return response.code;
 }
 
-HRESULT MemoryInterface<ZFXISamAnalysisSet>::ListMembers(ZFXListValZFXISpecObject_var& members, const IID&, int) {
-    const MemoryResponse response = Object().BeginRequest(MemoryRequest::ListMembers);
+HRESULT MemoryInterface<ZFXISamAnalysisSet>::ListMembers(ZFXListValZFXISpecObject_var& members, const IID& filter,
+                                                         int flag) {
+    const MemoryResponse response =
+        Object().BeginRequest(MemoryRequest::ListMembers, filter == CLSID_ZFXBaseUnknown && flag == kMemberFlag);
     if (!response.filled)
         return response.code;
     const MemoryObjects& objects = Object().ExtrasOrNone().members;
@@ -95,8 +108,8 @@ HRESULT MemoryInterface<ZFXISamAnalysisSet>::ListMembers(ZFXListValZFXISpecObjec
 }
 
 HRESULT MemoryInterface<ZFXISamAnalysisScan>::FindObjectsOfType(const ZFXUnicodeString& lateType,
-                                                                ZFXListValZFXBaseUnknown_var& found, int) {
-    const MemoryResponse response = Object().BeginRequest(MemoryRequest::FindObjectsOfType);
+                                                                ZFXListValZFXBaseUnknown_var& found, int mode) {
+    const MemoryResponse response = Object().BeginRequest(MemoryRequest::FindObjectsOfType, mode == kScanMode);
     if (!response.filled)
         return response.code;
     const MemoryLateType* wanted = &MemoryLateType::Of(lateType);
@@ -113,8 +126,8 @@ HRESULT MemoryInterface<ZFXISamAnalysisScan>::FindObjectsOfType(const ZFXUnicode
     return response.code;
 }
 
-HRESULT MemoryInterface<ZFXISamAnalysisScan>::ListChildren(ZFXListValZFXBaseUnknown_var& children, int) {
-    const MemoryResponse response = Object().BeginRequest(MemoryRequest::ListChildren);
+HRESULT MemoryInterface<ZFXISamAnalysisScan>::ListChildren(ZFXListValZFXBaseUnknown_var& children, int mode) {
+    const MemoryResponse response = Object().BeginRequest(MemoryRequest::ListChildren, mode == kScanMode);
     if (response.filled)
         AppendAll(Object().ExtrasOrNone().children, children);
     return response.code;
@@ -159,8 +172,8 @@ MemoryInterface<QVRISamAnalysisConnectionDesign>::GetMasterAndSlaveConnectors(ZF
     return response.code;
 }
 
-HRESULT MemoryInterface<ZFXISamExplicit>::GetExplicitChild(ZFXAnalysisExplicitChild& child, int) {
-    const MemoryResponse response = Object().BeginRequest(MemoryRequest::GetExplicitChild);
+HRESULT MemoryInterface<ZFXISamExplicit>::GetExplicitChild(ZFXAnalysisExplicitChild& child, int flag) {
+    const MemoryResponse response = Object().BeginRequest(MemoryRequest::GetExplicitChild, flag == kExplicitChildFlag);
     if (response.filled)
         child.View(&Object().Extras().explicitData);
     return response.code;

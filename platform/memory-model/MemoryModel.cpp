@@ -4,6 +4,7 @@
 #include "memory-model/MemorySession.h"
 
 #include <algorithm>
+#include <cassert>
 #include <string_view>
 
 namespace {
@@ -14,6 +15,25 @@ MemoryObject* FirstChildOf(const MemoryObject* object, MemoryKind kind) {
             if (child->kind == kind)
                 return child;
     return nullptr;
+}
+
+/// Returns `target`. Both objects must be in documents of one model: its end removes the links of all its objects, so
+/// that no link outlives its target.
+MemoryObject* LinkTarget([[maybe_unused]] const MemoryObject& object, MemoryObject* target) {
+    assert(target == nullptr || (object.document != nullptr && target->document != nullptr &&
+                                 &object.document->session == &target->document->session));
+    return target;
+}
+
+/// Returns the name of a request, or "" for MemoryRequest::Any.
+const char* NameOf(MemoryRequest request) noexcept {
+    constexpr const char* kNames[] = {
+        "",
+#define MEMORY_REQUEST(name) #name,
+#include "memory-model/MemoryRequests.def"
+#undef MEMORY_REQUEST
+    };
+    return kNames[static_cast<std::size_t>(request)];
 }
 
 } // namespace
@@ -77,7 +97,7 @@ MemoryFeature& MemoryFeature::Without(const IID& interfaceId) {
     return Change([&](MemoryObject& object) { object.Withhold(interfaceId); });
 }
 MemoryFeature& MemoryFeature::Father(MemoryFeature father) {
-    return Change([&](MemoryObject& object) { object.father = father.m_object; });
+    return Change([&](MemoryObject& object) { object.father = LinkTarget(object, father.m_object); });
 }
 MemoryFeature& MemoryFeature::Propagated(bool propagated) {
     return Change([&](MemoryObject& object) { object.propagated = propagated; });
@@ -99,33 +119,38 @@ MemoryFeature& MemoryFeature::MaterialName(const ZFXUnicodeString& name) {
 }
 MemoryFeature& MemoryFeature::AddMember(MemoryFeature member) {
     return Change([&](MemoryObject& set) {
-        if (!member)
+        MemoryObject* added = LinkTarget(set, member.m_object);
+        if (added == nullptr)
             return;
-        member.m_object->parentSets.push_back(&set);
-        member.m_object->Offer(IID_ZFXISamAnalysisEntity);
-        set.Extras().members.push_back(member.m_object);
+        added->parentSets.push_back(&set);
+        added->Offer(IID_ZFXISamAnalysisEntity);
+        set.Extras().members.push_back(added);
     });
 }
 MemoryFeature& MemoryFeature::PointedAtBy(MemoryFeature owner) {
     return Change([&](MemoryObject& object) {
-        if (owner)
-            object.AddPointing(owner.m_object);
+        if (MemoryObject* pointing = LinkTarget(object, owner.m_object))
+            object.AddPointing(pointing);
     });
 }
 MemoryFeature& MemoryFeature::AddConnector(MemoryFeature connector) {
-    return Change([&](MemoryObject& support) { support.Extras().connectors.push_back(connector.m_object); });
+    return Change(
+        [&](MemoryObject& support) { support.Extras().connectors.push_back(LinkTarget(support, connector.m_object)); });
 }
 MemoryFeature& MemoryFeature::SetGroup(MemoryFeature group) {
-    return Change([&](MemoryObject& connector) { connector.Extras().group = group.m_object; });
+    return Change([&](MemoryObject& connector) { connector.Extras().group = LinkTarget(connector, group.m_object); });
 }
 MemoryFeature& MemoryFeature::AddMaster(MemoryFeature connector) {
-    return Change([&](MemoryObject& design) { design.Extras().master.push_back(connector.m_object); });
+    return Change(
+        [&](MemoryObject& design) { design.Extras().master.push_back(LinkTarget(design, connector.m_object)); });
 }
 MemoryFeature& MemoryFeature::AddSlave(MemoryFeature connector) {
-    return Change([&](MemoryObject& design) { design.Extras().slave.push_back(connector.m_object); });
+    return Change(
+        [&](MemoryObject& design) { design.Extras().slave.push_back(LinkTarget(design, connector.m_object)); });
 }
 MemoryFeature& MemoryFeature::FailAlways(MemoryRequest request, MemoryResponse response) {
     return Change([&](MemoryObject& object) {
+        assert(object.document != nullptr);
         object.document->session.faults.Add(request, &object, MemoryFaults::kAlways, response);
     });
 }
@@ -181,14 +206,9 @@ void MemoryModel::MakeCurrent(MemoryDocument document) { m_session->current = do
 void MemoryModel::CloseCurrent() { m_session->current = nullptr; }
 long MemoryModel::Requests() const noexcept { return m_session->faults.Requests(); }
 
-const char* MemoryModel::LastFault() const noexcept {
-    constexpr const char* kNames[] = {
-        "",
-#define MEMORY_REQUEST(name) #name,
-#include "memory-model/MemoryRequests.def"
-#undef MEMORY_REQUEST
-    };
-    return kNames[static_cast<std::size_t>(m_session->faults.LastFault())];
+const char* MemoryModel::LastFault() const noexcept { return NameOf(m_session->faults.LastFault()); }
+const char* MemoryModel::FirstUnexpectedArgument() const noexcept {
+    return NameOf(m_session->faults.FirstUnexpectedArgument());
 }
 
 void MemoryModel::FailNth(MemoryRequest request, long n, MemoryResponse response) {

@@ -213,6 +213,11 @@ public:
     void FailAlways(MemoryRequest request, MemoryResponse response = {});
     /// The name of the request that was last told what to answer; empty when none was since ClearFaults.
     const char* LastFault() const noexcept;
+    /// Returns the name of the first request that was rejected because of an argument, or "" if there is none. The
+    /// model supports only the arguments that the module passes: scan mode 3, member flag 0 without a filter, all
+    /// pointing attributes, explicit child flag 1 and string index 0. With any other value a request returns
+    /// E_INVALIDARG or nothing. ClearFaults does not reset the name.
+    const char* FirstUnexpectedArgument() const noexcept;
     /// All faults are forgotten, those of single objects too.
     void ClearFaults();
     /// @}

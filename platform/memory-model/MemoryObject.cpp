@@ -36,6 +36,12 @@ const MemoryExtras& MemoryObject::NoExtras() {
     return none;
 }
 
+MemoryResponse MemoryObject::RejectArguments(MemoryRequest request) {
+    if (m_faults != nullptr)
+        m_faults->RecordUnexpectedArgument(request);
+    return {E_INVALIDARG, false};
+}
+
 void MemoryObject::Offer(const IID& iid) {
     const auto number = static_cast<std::size_t>(ZFXNumberOf(iid));
     m_offered.set(number);

@@ -82,6 +82,12 @@ public:
     MemoryResponse BeginRequest(MemoryRequest request) {
         return m_faults == nullptr ? MemoryFaults::kSuccess : m_faults->BeginRequest(request, this);
     }
+    /// BeginRequest for a request that supports one value of each argument only. If an argument has another value,
+    /// records the request in the faults and returns E_INVALIDARG, with the outputs not filled.
+    MemoryResponse BeginRequest(MemoryRequest request, bool hasExpectedArguments) {
+        const MemoryResponse response = BeginRequest(request);
+        return hasExpectedArguments ? response : RejectArguments(request);
+    }
 
     /// Offers the interface from now on.
     void Offer(const IID& iid);
@@ -120,6 +126,7 @@ private:
     ZFXBaseUnknown* InterfaceObject();
     ZFXBaseUnknown* InterfaceObject(ZFXInterfaceNumber number);
     static const MemoryExtras& NoExtras();
+    MemoryResponse RejectArguments(MemoryRequest request);
     template <class Visit>
     void ForEachPointing(Visit visit) const {
         const ZFXListValZFXISpecAttribute_var& pointing = ExtrasOrNone().pointing;

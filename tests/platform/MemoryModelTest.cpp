@@ -3,6 +3,8 @@
 #include "analysis/WorkbenchUtilities.h"
 #include "support/DocumentTest.h"
 
+#include <functional>
+
 namespace {
 
 class MemoryModelTest : public DocumentTest {};
@@ -73,30 +75,51 @@ TEST_F(MemoryModelTest, KindsOfferWhatTheyAreAndCanBeToldNotTo) {
 #undef ZFX_INTERFACE
 }
 
-TEST_F(MemoryModelTest, AnyRequestCanBeToldWhatToAnswer) {
-    MemoryFeature loads = document.Case("Static").Step("T", "Step-1").Set("S");
-    loads.Feature("QVRPressure", "a");
-    const ZFXISamAnalysisSet_var set(loads);
-    const auto members = [&] {
-        ZFXListValZFXISpecObject_var list;
-        const HRESULT code = set->ListMembers(list, CLSID_ZFXBaseUnknown, 0);
-        return std::pair(code, list.Size());
-    };
+TEST_F(MemoryModelTest, FaultsCountTheRequestsThatTheyMatch) {
+    const ZFXIAlias_var alias(document.Case("a"));
+    const auto get = [&] { return Text(alias->GetAlias()); };
     const long before = model.Requests();
-    EXPECT_EQ(members(), std::pair(S_OK, 1));
+    EXPECT_EQ(get(), "a");
     EXPECT_EQ(model.Requests(), before + 1);
-    loads.FailAlways(MemoryRequest::ListMembers, {1, false});
-    EXPECT_EQ(members(), std::pair(HRESULT{1}, 0));
-    EXPECT_EQ(members(), std::pair(HRESULT{1}, 0));
-    model.ClearFaults();
-    model.FailNth(MemoryRequest::Any, 2); // each rule counts every request that it is meant for
-    model.FailNth(MemoryRequest::ListMembers, 3);
-    EXPECT_EQ(members(), std::pair(S_OK, 1));
-    EXPECT_EQ(members(), std::pair(E_UNEXPECTED, 0));
-    EXPECT_EQ(members(), std::pair(E_UNEXPECTED, 0));
-    EXPECT_EQ(members(), std::pair(S_OK, 1));
-    model.FailAlways(MemoryRequest::Cast);
-    EXPECT_FALSE(ZFXIAlias_var(loads));
+    model.FailNth(MemoryRequest::Any, 2);
+    model.FailNth(MemoryRequest::GetAlias, 3);
+    EXPECT_EQ(get() + "," + get() + "," + get() + "," + get(), "a,,,a");
+    document.Case("other").FailAlways(MemoryRequest::GetAlias);
+    EXPECT_EQ(get(), "a");
+}
+
+TEST(MemoryModelArguments, OthersThanThoseOfTheModuleAreRejected) {
+    using Features = ZFXListValZFXISpecObject_var;
+    using Objects = ZFXListValZFXBaseUnknown_var;
+    const auto pointing = [](MemoryFeature set, const char* interfaceName, const char* type, const char* name) {
+        return ZFXISpecObject_var(set)->ListPointingAttributes(interfaceName, type, name) == nullptr;
+    };
+    struct Row {
+        const char* request;
+        std::function<bool(MemoryFeature set)> isRejected;
+    };
+    // clang-format off
+    const Row rows[] = {
+        {"FindObjectsOfType", [](auto set) { Objects found; return ZFXISamAnalysisScan_var(set)->FindObjectsOfType("T", found, 2) == E_INVALIDARG; }},
+        {"ListChildren", [](auto set) { Objects found; return ZFXISamAnalysisScan_var(set)->ListChildren(found, 4) == E_INVALIDARG; }},
+        {"ListMembers", [](auto set) { Features found; return ZFXISamAnalysisSet_var(set)->ListMembers(found, IID_ZFXISpecObject, 0) == E_INVALIDARG; }},
+        {"ListMembers", [](auto set) { Features found; return ZFXISamAnalysisSet_var(set)->ListMembers(found, CLSID_ZFXBaseUnknown, 1) == E_INVALIDARG; }},
+        {"ListPointingAttributes", [&](auto set) { return pointing(set, nullptr, "", ""); }},
+        {"ListPointingAttributes", [&](auto set) { return pointing(set, "ZFXIAlias", "", ""); }},
+        {"ListPointingAttributes", [&](auto set) { return pointing(set, "ZFXISpecObject", "T", ""); }},
+        {"ListPointingAttributes", [&](auto set) { return pointing(set, "ZFXISpecObject", "", "n"); }},
+        {"GetExplicitChild", [](auto set) { ZFXAnalysisExplicitChild child; return ZFXISamExplicit_var(set)->GetExplicitChild(child, 0) == E_INVALIDARG; }},
+        {"GetString", [](auto set) { const ZFXISpecAttrAccess_var access(set); return access->GetString(ZFXISpecAttrKey_var::TakeOver(access->GetAttrKey("Alias")), 1) == ""; }},
+        {"SetString", [](auto set) { const ZFXISpecAttrAccess_var access(set); access->SetString(ZFXISpecAttrKey_var::TakeOver(access->GetAttrKey("Alias")), "b", 1); return set.StoredAlias() == "a"; }},
+    };
+    // clang-format on
+    for (const Row& row : rows) {
+        MemoryModel model;
+        MemoryFeature set = model.NewDocument().Model().Set("T").With(IID_ZFXISamExplicit).Alias("a");
+        EXPECT_STREQ(model.FirstUnexpectedArgument(), "");
+        EXPECT_TRUE(row.isRejected(set)) << row.request;
+        EXPECT_STREQ(model.FirstUnexpectedArgument(), row.request);
+    }
 }
 
 TEST(MemoryModelLife, ObjectsOutliveTheModelForWhoHoldsThem) {

@@ -5,10 +5,14 @@
 
 #include <gtest/gtest.h>
 
-/// A test on a document. When it ends, nobody may hold a reference on an object of the document.
+/// A test on a document. When it ends, no reference on an object of the document may be left, and the model may not have
+/// rejected an argument.
 class DocumentTest : public ::testing::Test {
 protected:
-    void TearDown() override { EXPECT_EQ(model.References(), 0) << "a reference was not released"; }
+    void TearDown() override {
+        EXPECT_EQ(model.References(), 0) << "a reference was not released";
+        EXPECT_STREQ(model.FirstUnexpectedArgument(), "") << "a request was made with an unexpected argument";
+    }
 
     static ZFXListValZFXBaseUnknown_var ListOf(std::initializer_list<MemoryFeature> features) {
         ZFXListValZFXBaseUnknown_var list;
