@@ -4,6 +4,8 @@
 #include "support/DocumentTest.h"
 
 #include <functional>
+#include <memory>
+#include <vector>
 
 namespace {
 
@@ -122,28 +124,140 @@ TEST(MemoryModelArguments, OthersThanThoseOfTheModuleAreRejected) {
     }
 }
 
-TEST(MemoryModelLife, ObjectsOutliveTheModelForWhoHoldsThem) {
-    const long before = MemoryModel::LiveObjects();
-    ZFXISpecObject_var held;
-    ZFXISpecAttribute_var attribute;
-    ZFXBaseUnknown_var heldDocument;
-    {
-        MemoryModel model;
-        MemoryDocument document = model.NewDocument();
-        MemoryFeature step = document.Case("Static").Step("T", "Step-1");
-        heldDocument = document.Document();
-        held = step;
-        attribute = (*held->ListPointingAttributes("ZFXISpecObject", "", ""))[1];
-        EXPECT_EQ(model.References(), 3);
-        EXPECT_EQ(step.References(), 2);
+/// A document whose objects are referenced, and a function for each row of MemoryRequests.def. It makes the request,
+/// and returns the code (S_OK for a request without one) and whether its output is filled.
+class MemoryRequestsTest : public ::testing::Test {
+protected:
+    static MemoryResponse Got(bool isFilled) { return {S_OK, isFilled}; }
+    template <class Output>
+    static MemoryResponse Got(HRESULT code, const Output& output) {
+        if constexpr (requires { output.Size(); })
+            return {code, output.Size() != 0};
+        else
+            return {code, output != Output{}};
     }
-    EXPECT_EQ(MemoryModel::LiveObjects(), before + 1);
-    EXPECT_EQ(Text(held->GetLateType()), "T");
-    EXPECT_EQ(held->GetFather(), nullptr);
-    EXPECT_EQ(attribute->GetOwner(), nullptr);
-    EXPECT_EQ(ZFXILinkableObject_var(held)->GetOwningDocument(), nullptr);
-    held = nullptr;
-    EXPECT_EQ(MemoryModel::LiveObjects(), before);
+    static MemoryResponse GotReference(ZFXBaseUnknown* object) { return Got(ZFXBaseUnknown_var::TakeOver(object)); }
+
+    // clang-format off
+    MemoryResponse Cast() { return Got(ZFXIAlias_var(load) != nullptr); }
+    MemoryResponse GetAlias() { return Got(ZFXIAlias_var(load.Alias("a"))->GetAlias() == "a"); }
+    MemoryResponse SetAlias() { ZFXIAlias_var(load.Unnamed())->SetAlias("a"); return Got(load.StoredAlias() == "a"); }
+    MemoryResponse GetLateType() { return Got(ZFXISpecObject_var(load)->GetLateType() == "QVRPressure"); }
+    MemoryResponse GetFather() { return GotReference(ZFXISpecObject_var(load)->GetFather()); }
+    MemoryResponse ListPointingAttributes() { return Got(ZFXISpecObject_var(step)->ListPointingAttributes("ZFXISpecObject", "", "") != nullptr); }
+    MemoryResponse GetOwner() { return GotReference(attribute->GetOwner()); }
+    MemoryResponse GetAttrKey() { return GotReference(ZFXISpecAttrAccess_var(load)->GetAttrKey("Alias")); }
+    MemoryResponse SetString() { ZFXISpecAttrAccess_var(load.Unnamed())->SetString(key, "a", 0); return Got(load.StoredAlias() == "a"); }
+    MemoryResponse GetString() { return Got(ZFXISpecAttrAccess_var(load.Alias("a"))->GetString(key, 0) == "a"); }
+    MemoryResponse GetOwningDocument() { return Got(ZFXILinkableObject_var(load)->GetOwningDocument() != nullptr); }
+    MemoryResponse ListAnalysisCases() { Objects out; return Got(ZFXISamAnalysisModel_var(root)->ListAnalysisCases(out), out); }
+    MemoryResponse FindObjectsOfType() { Objects out; return Got(ZFXISamAnalysisScan_var(root)->FindObjectsOfType("QVRPressure", out, 3), out); }
+    MemoryResponse ListChildren() { Objects out; return Got(ZFXISamAnalysisScan_var(set)->ListChildren(out, 3), out); }
+    MemoryResponse ListMembers() { Features out; return Got(ZFXISamAnalysisSet_var(set)->ListMembers(out, CLSID_ZFXBaseUnknown, 0), out); }
+    MemoryResponse GetParentSets() { Objects* out = nullptr; const HRESULT code = ZFXISamAnalysisEntity_var(load)->GetParentSets(out); return Got(code, std::unique_ptr<Objects>(out)); }
+    MemoryResponse IsPropagated() { return Got(QVRIPropagatingFeature_var(load)->IsPropagated() != 0); }
+    MemoryResponse ListConnectors() { Objects out; return Got(ZFXISamAnalysisSupport_var(support)->ListConnectors(out), out); }
+    MemoryResponse GetGroup() { ZFXBaseUnknown* out = nullptr; const HRESULT code = ZFXISamAnalysisConnector_var(connector)->GetGroup(out); return Got(code, ZFXBaseUnknown_var::TakeOver(out)); }
+    MemoryResponse GetMasterAndSlaveConnectors() { Objects master, slave; const HRESULT code = QVRISamAnalysisConnectionDesign_var(design)->GetMasterAndSlaveConnectors(master, slave); return Got(code, master.Size() + slave.Size()); }
+    MemoryResponse GetExplicitChild() { int tag = 0; ZFXAnalysisExplicitChild out; const HRESULT code = ZFXISamExplicit_var(part)->GetExplicitChild(out, 1); out.GetTag(tag); return Got(code, tag); }
+    MemoryResponse GetTag() { int tag = 0; const HRESULT code = child.GetTag(tag); return Got(code, tag); }
+    MemoryResponse GetMaterialFeatureName() { return Got(ZFXIMaterialFeature_var(steel)->GetMaterialFeatureName() == "Iron"); }
+    MemoryResponse GetAllAnalysisCases() { Objects out; return Got(QVRAnalysisDocUtils::GetAllAnalysisCases(out, nullptr), out); }
+    MemoryResponse GetJobs() { Objects cases; cases.Append(ZFXBaseUnknown_var(analysisCase)); Features out; return Got(QVRAnalysisDocUtils::GetJobs(cases, out), out); }
+    MemoryResponse GetAnalysisModel() { ZFXISamAnalysisModel_var out; return Got(QVRAnalysisDocUtils::GetAnalysisModel(out, nullptr), out); }
+    MemoryResponse GetMeshManager() { ZFXIMSHMeshManager_var out; return Got(QVRAnalysisDocUtils::GetMeshManager(out, nullptr), out); }
+    MemoryResponse IsTarnisAnalysisCase() { ZFXISamAnalysisCase_var in(analysisCase); return Got(QVRAnalysisDocUtils::IsTarnisAnalysisCase(in) != 0); }
+    MemoryResponse GetParentStep() { ZFXISpecObject_var out; return Got(QVRAnalysisEntityUtils::GetParentStep(ZFXISpecObject_var(load), out), out); }
+    MemoryResponse GetParentCaseFromObject() { ZFXISpecObject_var out; return Got(QVRAnalysisEntityUtils::GetParentCaseFromObject(ZFXISpecObject_var(load), out), out); }
+    MemoryResponse IsObjectAProperty() { ZFXISpecObject_var in(load); return Got(QVRAnalysisEntityUtils::IsObjectAProperty(in) != 0); }
+    MemoryResponse IsObjectAnAmplitude() { ZFXISpecObject_var in(load); return Got(QVRAnalysisEntityUtils::IsObjectAnAmplitude(in) != 0); }
+    MemoryResponse GetCurrentAnalysisCaseSP() { ZFXISamAnalysisCase_var out; return Got(QVRStepUtils::GetCurrentAnalysisCaseSP(out, nullptr), out); }
+    // clang-format on
+
+    struct Row {
+        MemoryRequest request;
+        const char* name;
+        MemoryResponse (MemoryRequestsTest::*make)();
+    };
+    static constexpr Row kRows[] = {
+#define MEMORY_REQUEST(name) {MemoryRequest::name, #name, &MemoryRequestsTest::name},
+#include "memory-model/MemoryRequests.def"
+#undef MEMORY_REQUEST
+    };
+    /// Makes a request. Returns its code, followed by "-" if its output is not filled.
+    std::string Make(const Row& row) {
+        const MemoryResponse response = (this->*row.make)();
+        return ResultText(response.code) + (response.filled ? "" : "-");
+    }
+    /// Makes each request. Returns the names and results of those that do not succeed with their output filled.
+    std::string Unfilled() {
+        std::string text;
+        for (const Row& row : kRows)
+            if (const std::string result = Make(row); result != "S_OK")
+                text += row.name + (" " + result + "\n");
+        return text;
+    }
+
+    using Objects = ZFXListValZFXBaseUnknown_var;
+    using Features = ZFXListValZFXISpecObject_var;
+    const long live = MemoryModel::LiveObjects();
+    std::unique_ptr<MemoryModel> model = std::make_unique<MemoryModel>();
+    MemoryDocument document = model->NewDocument();
+    MemoryFeature root = document.Model();
+    MemoryFeature analysisCase = document.Case("Static");
+    MemoryFeature job = analysisCase.Job("Job-1");
+    MemoryFeature step = analysisCase.Step("T", "Step-1");
+    MemoryFeature set = step.Set("QVRLoadContainerLT");
+    MemoryFeature load = set.Feature("QVRPressure", "a").Propagated().Property().Amplitude();
+    MemoryFeature connector = root.Add(MemoryKind::Connector, "C", "").SetGroup(set);
+    MemoryFeature support = root.Add(MemoryKind::Support, "S", "").AddConnector(connector);
+    MemoryFeature design = root.Add(MemoryKind::ConnectionDesign, "D", "").AddMaster(connector).AddSlave(connector);
+    MemoryFeature part = document.MeshPart("Mesh-1", 3);
+    MemoryFeature steel = root.Add(MemoryKind::Material, "M", "").MaterialName("Iron");
+    std::vector<ZFXBaseUnknown_var> held{document.Document(), root,    analysisCase, step, set,  load,
+                                         connector,           support, design,       part, steel};
+    ZFXISpecAttrKey_var key = ZFXISpecAttrKey_var::TakeOver(ZFXISpecAttrAccess_var(load)->GetAttrKey("Alias"));
+    ZFXISpecAttribute_var attribute = (*ZFXISpecObject_var(step)->ListPointingAttributes("ZFXISpecObject", "", ""))[1];
+    ZFXAnalysisExplicitChild child;
+
+    void SetUp() override { EXPECT_EQ(ZFXISamExplicit_var(part)->GetExplicitChild(child, 1), S_OK); }
+};
+
+TEST_F(MemoryRequestsTest, EachCanFailOnceOrAlways) {
+    ASSERT_EQ(Unfilled(), "");
+    for (const Row& row : kRows) {
+        model->FailNth(row.request, 1, {3, false});
+        const std::string failed = Make(row);
+        EXPECT_TRUE(failed == "3-" || failed == "S_OK-") << row.name << " " << failed;
+        EXPECT_STREQ(model->LastFault(), row.name);
+        EXPECT_EQ(Make(row), "S_OK") << row.name;
+        model->FailAlways(row.request, {3, false});
+        EXPECT_EQ(Make(row) + Make(row), failed + failed) << row.name;
+        model->ClearFaults();
+        EXPECT_STREQ(model->LastFault(), "");
+    }
+    EXPECT_EQ(Unfilled(), "");
+}
+
+TEST_F(MemoryRequestsTest, ObjectsOutliveTheModelWithoutTheirLinks) {
+    model->CloseCurrent();
+    EXPECT_EQ(Unfilled(), "GetAllAnalysisCases E_FAIL-\nGetAnalysisModel E_FAIL-\nGetMeshManager E_FAIL-\n"
+                          "GetCurrentAnalysisCaseSP S_OK-\n");
+    EXPECT_EQ(model->References(), 14);
+    EXPECT_EQ(load.References(), 1);
+    model = nullptr;
+    EXPECT_EQ(AnalysisServices::Installed(), nullptr);
+    EXPECT_EQ(Unfilled(), "GetFather S_OK-\nGetOwner S_OK-\nGetAttrKey S_OK-\nGetOwningDocument S_OK-\n"
+                          "ListAnalysisCases S_OK-\nFindObjectsOfType S_OK-\nListChildren S_OK-\nListMembers S_OK-\n"
+                          "ListConnectors S_OK-\nGetGroup S_OK-\nGetMasterAndSlaveConnectors S_OK-\n"
+                          "GetAllAnalysisCases E_FAIL-\nGetJobs E_FAIL-\nGetAnalysisModel E_FAIL-\n"
+                          "GetMeshManager E_FAIL-\nIsTarnisAnalysisCase S_OK-\nGetParentStep E_FAIL-\n"
+                          "GetParentCaseFromObject E_FAIL-\nIsObjectAProperty S_OK-\nIsObjectAnAmplitude S_OK-\n"
+                          "GetCurrentAnalysisCaseSP E_FAIL-\n");
+    EXPECT_EQ(MemoryModel::LiveObjects(), live + 10);
+    held.clear();
+    child.View(nullptr);
+    EXPECT_EQ(MemoryModel::LiveObjects(), live);
 }
 
 } // namespace
