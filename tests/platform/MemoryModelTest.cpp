@@ -111,8 +111,8 @@ TEST(MemoryModelArguments, OthersThanThoseOfTheModuleAreRejected) {
         {"ListPointingAttributes", [&](auto set) { return pointing(set, "ZFXISpecObject", "T", ""); }},
         {"ListPointingAttributes", [&](auto set) { return pointing(set, "ZFXISpecObject", "", "n"); }},
         {"GetExplicitChild", [](auto set) { ZFXAnalysisExplicitChild child; return ZFXISamExplicit_var(set)->GetExplicitChild(child, 0) == E_INVALIDARG; }},
-        {"GetString", [](auto set) { const ZFXISpecAttrAccess_var access(set); return access->GetString(ZFXISpecAttrKey_var::TakeOver(access->GetAttrKey("Alias")), 1) == ""; }},
-        {"SetString", [](auto set) { const ZFXISpecAttrAccess_var access(set); access->SetString(ZFXISpecAttrKey_var::TakeOver(access->GetAttrKey("Alias")), "b", 1); return set.StoredAlias() == "a"; }},
+        {"GetString", [](auto set) { const ZFXISpecAttrAccess_var access(set); return access->GetString(ZFXISpecAttrKey_var::Attach(access->GetAttrKey("Alias")), 1) == ""; }},
+        {"SetString", [](auto set) { const ZFXISpecAttrAccess_var access(set); access->SetString(ZFXISpecAttrKey_var::Attach(access->GetAttrKey("Alias")), "b", 1); return set.StoredAlias() == "a"; }},
     };
     // clang-format on
     for (const Row& row : rows) {
@@ -136,7 +136,7 @@ protected:
         else
             return {code, output != Output{}};
     }
-    static MemoryResponse GotReference(ZFXBaseUnknown* object) { return Got(ZFXBaseUnknown_var::TakeOver(object)); }
+    static MemoryResponse GotReference(ZFXBaseUnknown* object) { return Got(ZFXBaseUnknown_var::Attach(object)); }
 
     // clang-format off
     MemoryResponse Cast() { return Got(ZFXIAlias_var(load) != nullptr); }
@@ -157,7 +157,7 @@ protected:
     MemoryResponse GetParentSets() { Objects* out = nullptr; const HRESULT code = ZFXISamAnalysisEntity_var(load)->GetParentSets(out); return Got(code, std::unique_ptr<Objects>(out)); }
     MemoryResponse IsPropagated() { return Got(QVRIPropagatingFeature_var(load)->IsPropagated() != 0); }
     MemoryResponse ListConnectors() { Objects out; return Got(ZFXISamAnalysisSupport_var(support)->ListConnectors(out), out); }
-    MemoryResponse GetGroup() { ZFXBaseUnknown* out = nullptr; const HRESULT code = ZFXISamAnalysisConnector_var(connector)->GetGroup(out); return Got(code, ZFXBaseUnknown_var::TakeOver(out)); }
+    MemoryResponse GetGroup() { ZFXBaseUnknown* out = nullptr; const HRESULT code = ZFXISamAnalysisConnector_var(connector)->GetGroup(out); return Got(code, ZFXBaseUnknown_var::Attach(out)); }
     MemoryResponse GetMasterAndSlaveConnectors() { Objects master, slave; const HRESULT code = QVRISamAnalysisConnectionDesign_var(design)->GetMasterAndSlaveConnectors(master, slave); return Got(code, master.Size() + slave.Size()); }
     MemoryResponse GetExplicitChild() { int tag = 0; ZFXAnalysisExplicitChild out; const HRESULT code = ZFXISamExplicit_var(part)->GetExplicitChild(out, 1); out.GetTag(tag); return Got(code, tag); }
     MemoryResponse GetTag() { int tag = 0; const HRESULT code = child.GetTag(tag); return Got(code, tag); }
@@ -216,7 +216,7 @@ protected:
     MemoryFeature steel = root.Add(MemoryKind::Material, "M", "").MaterialName("Iron");
     std::vector<ZFXBaseUnknown_var> held{document.Document(), root,    analysisCase, step, set,  load,
                                          connector,           support, design,       part, steel};
-    ZFXISpecAttrKey_var key = ZFXISpecAttrKey_var::TakeOver(ZFXISpecAttrAccess_var(load)->GetAttrKey("Alias"));
+    ZFXISpecAttrKey_var key = ZFXISpecAttrKey_var::Attach(ZFXISpecAttrAccess_var(load)->GetAttrKey("Alias"));
     ZFXISpecAttribute_var attribute = (*ZFXISpecObject_var(step)->ListPointingAttributes("ZFXISpecObject", "", ""))[1];
     ZFXAnalysisExplicitChild child;
 
