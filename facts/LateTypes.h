@@ -2,18 +2,18 @@
 
 #include "text/ZFXUnicodeString.h"
 
-/// The late types that the library treats specially, from LateTypes.def. All of it is constant-initialized, so code
-/// that runs while a module is loaded may use it.
+/// The late types that the library treats specially, from LateTypes.def. The tables are constant-initialized, so code
+/// that runs while a module is loaded may use them.
 namespace LateTypes {
 
-/// What a feature of the type normally is.
+/// What a feature of a late type normally is. The rows of LateTypeKinds.def.
 enum class Kind {
 #define KIND(kind, checks, proposals) kind,
 #include "LateTypeKinds.def"
 #undef KIND
 };
 
-/// Whether the module provides the alias of such features and checks each change of it (Guarded).
+/// Guarded: the module provides the alias of such features and checks each change of it.
 enum class Alias { Open, Guarded };
 
 struct Row {
@@ -34,8 +34,8 @@ inline constexpr Row kRows[] = {
 #include "LateTypes.def"
 #undef LATE_TYPE
 
-/// Returns true if a row of the kind has exactly this late type.
-inline bool IsOfKind(const ZFXUnicodeString& lateType, Kind kind) {
+/// Returns true if the table has a row with exactly this late type and this kind.
+[[nodiscard]] inline bool IsOfKind(const ZFXUnicodeString& lateType, Kind kind) {
     for (const Row& row : kRows)
         if (row.kind == kind && lateType == row.lateType)
             return true;

@@ -1,5 +1,5 @@
-// Offers ZFXIAlias on the features of the guarded late types and forwards it to QVREFeatureAlias. The platform creates
-// one adaptor for each interface cast and destroys it with its last reference.
+// Offers ZFXIAlias on the features of the guarded late types and forwards it to QVREFeatureAlias. An interface cast
+// creates an adaptor; the last release of the adaptor destroys it.
 
 #include "QVREFeatureAlias.h"
 
@@ -70,7 +70,7 @@ private:
         return static_cast<QVREFeatureAlias*>(implementation);
     }
 
-    /// The result of Tie_Construct for the module's last adaptor; passed on for the next one.
+    /// The result of the last Tie_Construct, which the next one takes.
     static inline ZFXBaseUnknown* previousImplementation = nullptr;
 
     ZFXTie m_tie;

@@ -54,7 +54,7 @@ void QVRBaseFeatureAlias::SetAlias(const ZFXUnicodeString& alias) noexcept {
         SetAttribute(kept);
         return;
     }
-    SetAttribute(candidate); // The checks read the feature's alias and must see the new one.
+    SetAttribute(candidate); // the checks read the alias of the feature
     const ZFXUnicodeString lateType = feature->GetLateType();
     const unsigned char checkStartAndEnd = lateType == Vocabulary::QVRShellSectionEnhLT ? 0 : 1;
     HRESULT code = QVRNameUtil::CheckName(feature, candidate, checkStartAndEnd);

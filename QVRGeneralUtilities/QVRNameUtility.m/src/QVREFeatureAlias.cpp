@@ -2,12 +2,6 @@
 
 #include "LateTypes.h"
 
-namespace {
-
-constexpr const char* kClassName = "QVREFeatureAlias";
-
-} // namespace
-
 ZFXMetaClass* QVREFeatureAlias::meta_object = nullptr;
 
 QVREFeatureAlias::QVREFeatureAlias() = default;
@@ -19,8 +13,9 @@ ZFXUnicodeString QVREFeatureAlias::GetAlias() noexcept { return QVRBaseFeatureAl
 ZFXMetaClass* QVREFeatureAlias::MetaObject() noexcept {
     if (meta_object != nullptr)
         return meta_object;
-    meta_object = fct_RetrieveMetaObject(kClassName, ENUMTypeOfClass::DataExtension, ZFXnull::MetaObject(),
-                                         LateTypes::QVRARSurfLT, "QVRGeneralUtilities", 32);
+    constexpr int kLevel = 32; // for a host's records, like the name of the framework
+    meta_object = fct_RetrieveMetaObject("QVREFeatureAlias", ENUMTypeOfClass::DataExtension, ZFXnull::MetaObject(),
+                                         LateTypes::QVRARSurfLT, "QVRGeneralUtilities", kLevel);
     for (const LateTypes::Row& row : LateTypes::kRows)
         if (row.alias == LateTypes::Alias::Guarded)
             meta_object->SetExtensionOf(fct_FindMetaObject(row.lateType));

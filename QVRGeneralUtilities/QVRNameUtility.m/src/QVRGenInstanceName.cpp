@@ -25,8 +25,8 @@ constexpr const char* kTagMarker = "INSTANCE";
     return child.GetTag(tag);
 }
 
-/// Removes the text up to the last colon and the character after it, which is usually a space. Keeps that character if
-/// the colon is the first character, and the whole text if the colon is the last one.
+/// Returns the text after the last colon; the whole text if there is no colon or nothing after it. Then, if a colon
+/// exists and is not the first character, removes the first character, which is usually a space.
 ZFXUnicodeString WithoutColonPrefix(const ZFXUnicodeString& display) {
     const int colon = display.SearchSubString(":", 0, ZFXUnicodeString::SearchBackward);
     const int rest = display.GetLengthInChar() - colon - 1;
@@ -36,7 +36,7 @@ ZFXUnicodeString WithoutColonPrefix(const ZFXUnicodeString& display) {
     return base;
 }
 
-/// Removes spaces at the start, and spaces and underscores in any mix at the end. Other white space stays.
+/// Removes spaces at the start, and spaces and underscores in any order at the end. Keeps other white space.
 ZFXUnicodeString Trimmed(const ZFXUnicodeString& text) {
     ZFXUnicodeString trimmed(text);
     ZFXUnicodeString before;
@@ -47,7 +47,7 @@ ZFXUnicodeString Trimmed(const ZFXUnicodeString& text) {
     return trimmed;
 }
 
-/// Removes what the solver deck does not allow in a name.
+/// Removes or replaces the characters that the solver deck does not allow in a name, and trims it.
 ZFXUnicodeString CleanedName(const ZFXUnicodeString& base) {
     const ZFXUnicodeString trimmed = Trimmed(Utils::RemoveLeadingUnderscores(Utils::RemoveDoubleQuotes(base)));
     return Utils::ReplaceBackslashWithForwardslash(Utils::ReplacePeriodWithDash(trimmed));

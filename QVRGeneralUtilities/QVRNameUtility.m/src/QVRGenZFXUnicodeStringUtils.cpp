@@ -54,7 +54,7 @@ ZFXUnicodeString QVRGenZFXUnicodeStringUtils::TrucateToLegalLength(const ZFXUnic
 
 HRESULT QVRGenZFXUnicodeStringUtils::GetIntegerListFromString(
     ZFXUnicodeString& text, ZFXRawCollint& numbers,
-    ZFXUnicodeString separator) noexcept { // NOLINT: the exported signature is fixed
+    ZFXUnicodeString separator) noexcept { // NOLINT: the signature is fixed
     int n = 0;
     for (;;) {
         const int length = text.GetLengthInChar();

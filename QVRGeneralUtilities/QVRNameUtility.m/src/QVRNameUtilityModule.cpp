@@ -1,4 +1,5 @@
-// What the module has besides its classes: the constants that are built when it is loaded, and its marker.
+// The constants that are built when the module is loaded, and the marker function by which a host recognizes the
+// module.
 
 #include "QVRNameUtility.h"
 

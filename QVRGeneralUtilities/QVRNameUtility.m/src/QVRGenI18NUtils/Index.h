@@ -17,14 +17,14 @@
     return std::hash<const ZFXBaseUnknown*>()(ZFXIdentityOf(object));
 }
 
-/// Finds the elements of a list by hash instead of by a search.
+/// Finds the elements of a list by hash instead of by a linear search.
 ///
-/// The elements are stored in the list alone. The index stores positions and compares each hit with the list, so that
-/// an object at the address of an earlier one is never taken for it.
+/// Only the list stores elements. The index stores positions and compares each hit with the list, so it never confuses
+/// an object with an earlier one at the same address.
 template <class Element>
 class IndexedList {
 public:
-    /// Indexes what the list contains. From then on, the list must change through this index only.
+    /// Indexes the elements of the list. From then on, the list must change through this index only.
     explicit IndexedList(ZFXListVal<Element>& list) : m_list(list) {
         for (int position = 1; position <= m_list.Size(); ++position)
             Add(position);
@@ -70,7 +70,7 @@ private:
     std::unordered_multimap<std::size_t, Entry> m_entries;
 };
 
-/// The index over the lists of one QVRGenI18NUtils, and the only code that appends to them.
+/// The index over the lists of one QVRGenI18NUtils. No other code appends to these lists.
 struct QVRGenI18NUtils::Index {
     explicit Index(QVRGenI18NUtils& lists)
         : usedNames(lists.m_usedGenericNames),
@@ -79,7 +79,7 @@ struct QVRGenI18NUtils::Index {
           lateTypes(lists.m_featureLateTypes),
           featureNames(lists.m_featureNames) {}
 
-    /// Appends a feature with its name and late type. All three lists have the same length.
+    /// Appends a feature, its name and its late type to three parallel lists.
     void AddFeature(const ZFXISpecObject_var& feature, const ZFXUnicodeString& name, const ZFXUnicodeString& lateType) {
         features.Append(feature);
         featureNames.Append(name);

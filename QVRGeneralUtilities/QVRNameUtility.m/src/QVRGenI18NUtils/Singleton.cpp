@@ -1,3 +1,5 @@
+// The one QVRGenI18NUtils object and its caches. The lists are the data; an index over them replaces searches.
+
 #include "QVRGenI18NUtils.h"
 
 #include "QVRGenI18NUtils/Index.h"

@@ -8,6 +8,8 @@
 
 namespace {
 
+constexpr int kMaxTagLength = 80; // UTF-16 code units
+
 /// Returns S_OK if no unit of the name is above the limit. Otherwise appends these units to `offending` and raises
 /// DoubleByteCharErr_01.
 [[nodiscard]] HRESULT RejectUnitsAbove(char16_t limit, const ZFXUnicodeString& name, ZFXUnicodeString& offending) {
@@ -26,8 +28,6 @@ namespace {
     offending.Resize(offending.GetLengthInChar() - 1);
     return InputErrorReturn(MessageId::DoubleByteCharErr_01, {.diagnostic = &offending});
 }
-
-constexpr int kMaxTagLength = 80; // UTF-16 code units
 
 } // namespace
 

@@ -1,3 +1,5 @@
+// The operations that choose the scope of a name by the interfaces of the feature, and the constructors of the class.
+
 #include "QVRNameUtil.h"
 
 #include "analysis/QVRIPropagatingFeature.h"

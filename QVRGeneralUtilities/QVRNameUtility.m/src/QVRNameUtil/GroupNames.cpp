@@ -19,8 +19,7 @@ HRESULT QVRNameUtil::GetSupportGroupName(ZFXISpecObject_var& support, ZFXUnicode
 }
 
 HRESULT QVRNameUtil::GetSupportGroupName(
-    ZFXListValZFXBaseUnknown_var connectors, // NOLINT(performance-unnecessary-value-param):
-                                             // the exported signature is fixed
+    ZFXListValZFXBaseUnknown_var connectors, // NOLINT(performance-unnecessary-value-param): the signature is fixed
     ZFXUnicodeString& groupName) noexcept {
     groupName = "";
     const ZFXISamAnalysisConnector_var connector(connectors.Size() == 1 ? connectors[1] : ZFXBaseUnknown_var());

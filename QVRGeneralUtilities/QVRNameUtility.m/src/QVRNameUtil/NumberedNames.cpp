@@ -7,7 +7,7 @@
 
 namespace {
 
-/// Returns an allocator for `count` names in which the numbers after the base in the scope are marked as used.
+/// Returns an allocator for `count` names. The numbers after the base in the scope are marked as used.
 Numbering::NumberAllocator AllocatorFor(const ZFXUnicodeString& base, const ZFXListValZFXBaseUnknown_var& scope,
                                         int count) {
     assert(count > 0);

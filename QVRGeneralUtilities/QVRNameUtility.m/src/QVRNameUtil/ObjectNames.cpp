@@ -41,7 +41,7 @@ HRESULT QVRNameUtil::GetMorvelObjectName(ZFXISpecObject_var& feature, ZFXUnicode
 }
 
 HRESULT QVRNameUtil::GenerateUniqueName(const ZFXISpecObject& feature, ZFXUnicodeString& name) noexcept {
-    // The platform's operations are not const. The two that are called do not change the feature.
+    // The operations of ZFXISpecObject and ZFXIAlias are not const. Those called here do not change the feature.
     const ZFXISpecObject_var object(const_cast<ZFXISpecObject*>(&feature));
     const ZFXIAlias_var alias(object);
     if (alias == nullptr)

@@ -1,3 +1,5 @@
+// Names of features that propagate from step to step. Their scope: the features of their kind in all steps of a case.
+
 #include "QVRNameUtil.h"
 
 #include "analysis/WorkbenchUtilities.h"
@@ -26,7 +28,7 @@ HRESULT QVRNameUtil::GetAllPropagatingObjects(ZFXISamAnalysisCase_var& analysisC
         ZFXListValZFXBaseUnknown_var inStep;
         code = GetObjectsInStep(step, inStep, object);
         if (Failed(code))
-            continue; // skips this step; the code of the last step is returned
+            continue; // the code of the last step is returned
         for (ZFXBaseUnknown_var& found : inStep)
             if (ZFXIdentityOf(found) != self)
                 objects.Append(std::move(found));
@@ -50,7 +52,7 @@ HRESULT QVRNameUtil::IsUniqueNameForPropagatingObject(ZFXISpecObject_var& object
     if (!Failed(code)) {
         analysisCase = parent;
     } else {
-        // Outside every case, the scope is the current case of the document. Without one, every name is unique.
+        // Outside every case, the scope is the current case of the document. If there is none, the name is unique.
         const ZFXILinkableObject_var linkable(object);
         ZFXDocument* document = linkable == nullptr ? nullptr : linkable->GetOwningDocument();
         if (document == nullptr)

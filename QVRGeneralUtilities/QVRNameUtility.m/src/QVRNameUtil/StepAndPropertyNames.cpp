@@ -22,7 +22,7 @@ HRESULT QVRNameUtil::GetUniqueNameForStep(ZFXUnicodeString& name, ZFXISamAnalysi
     if (Failed(code))
         return code;
     if (steps.Size() > 0)
-        steps.RemovePosition(1); // The first child of a history is skipped.
+        steps.RemovePosition(1); // the numbering skips the first child of a history
     return GetNextUniqueName(name, steps);
 }
 
@@ -57,7 +57,7 @@ HRESULT QVRNameUtil::GetUniqueNameForProperty(ZFXUnicodeString& name, ZFXISamAna
         return InputErrorReturn(MessageId::ErrorAnalysisModelErr_0004);
     const ZFXISamAnalysisScan_var scan(model);
     ZFXListValZFXBaseUnknown_var found;
-    if (scan != nullptr) // The list counts, not the code.
+    if (scan != nullptr) // the list counts, not the code
         std::ignore =
             scan->FindObjectsOfType(Vocabulary::QVRTarnisPropertySetLT, found, ZFXISamAnalysisScan::kScanMode);
     const ZFXISamAnalysisSet_var propertySet(found.Size() == 0 ? ZFXBaseUnknown_var() : found[1]);

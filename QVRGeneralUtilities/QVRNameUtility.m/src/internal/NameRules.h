@@ -20,14 +20,14 @@ inline constexpr std::u16string_view FileNameIllegalChars = u" $*?,#!&~()[]{}|:;
 inline constexpr std::u16string_view IllegalChars = FileNameIllegalChars.substr(1);
 static_assert(FileNameIllegalChars.front() == u' ');
 
-/// A set of rules, as bits.
+/// A set of rules as bits.
 using Rules = std::uint8_t;
 inline constexpr Rules kReservedInNames = 1;     ///< forbids NameReservedChars
 inline constexpr Rules kReservedInFileNames = 2; ///< forbids the first two of NameReservedChars
 inline constexpr Rules kIllegalInFileNames = 4;  ///< forbids FileNameIllegalChars
 inline constexpr Rules kIllegal = 8;             ///< forbids IllegalChars
 
-/// The rules that forbid a character. A character beyond ASCII in one of the sets does not compile.
+/// The rules that forbid each ASCII character. Other characters in one of the sets are a compile-time error.
 inline constexpr std::array<Rules, 128> kRulesAgainst = [] {
     std::array<Rules, 128> rulesAgainst{};
     const auto forbid = [&rulesAgainst](std::u16string_view characters, Rules rule) {
@@ -42,12 +42,12 @@ inline constexpr std::array<Rules, 128> kRulesAgainst = [] {
 }();
 
 /// Returns true if one of the rules forbids the unit.
-constexpr bool Breaks(char16_t unit, Rules rules) noexcept {
+[[nodiscard]] constexpr bool Breaks(char16_t unit, Rules rules) noexcept {
     return unit < kRulesAgainst.size() && (kRulesAgainst[unit] & rules) != 0;
 }
 
 /// Returns true if one of the rules forbids a unit of the text.
-inline bool Breaks(const ZFXUnicodeString& text, Rules rules) noexcept {
+[[nodiscard]] inline bool Breaks(const ZFXUnicodeString& text, Rules rules) noexcept {
     return std::ranges::any_of(text.Units(), [rules](char16_t unit) { return Breaks(unit, rules); });
 }
 

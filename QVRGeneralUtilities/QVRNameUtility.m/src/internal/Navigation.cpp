@@ -16,7 +16,7 @@ struct EmptyAndDelete {
     }
 };
 
-/// A list that a platform operation returned for the caller to empty and delete.
+/// A list that a platform operation returned; the caller empties and deletes it.
 using OwnedList = std::unique_ptr<ZFXListValZFXBaseUnknown_var, EmptyAndDelete>;
 
 } // namespace
@@ -44,8 +44,9 @@ ZFXBaseUnknown_var SimulationHistoryAbove(const ZFXISpecObject_var& step) {
         return {};
     for (int i = 1; i <= attributes->Size(); ++i) {
         const ZFXISpecAttribute_var& attribute = (*attributes)[i];
-        const ZFXISpecObject_var owner(attribute == nullptr ? ZFXBaseUnknown_var()
-                                                            : ZFXBaseUnknown_var::Attach(attribute->GetOwner()));
+        if (attribute == nullptr)
+            continue;
+        const ZFXISpecObject_var owner(ZFXBaseUnknown_var::Attach(attribute->GetOwner()));
         if (owner != nullptr && owner->GetLateType() == Vocabulary::QVROruSimHistLT)
             return owner;
     }

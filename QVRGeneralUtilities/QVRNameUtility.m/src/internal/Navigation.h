@@ -5,8 +5,8 @@
 #include "analysis/ZFXISamAnalysisSet.h"
 #include "analysis/ZFXISpecObject.h"
 
-/// Finds related objects in a document, for several operations. Raises no errors: the operations return different
-/// results for the same outcome.
+/// Finds related objects in a document. Raises no errors, because different operations return different results for
+/// one outcome.
 namespace Navigation {
 
 enum class HistoryOutcome { CaseNotSearchable, NotFound, HistoryNotSearchable, Found };

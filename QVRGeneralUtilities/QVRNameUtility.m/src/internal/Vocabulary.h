@@ -2,9 +2,9 @@
 
 #include "text/ZFXUnicodeString.h"
 
-/// The words of the analysis model: late types, catalogs, base names, attribute keys and display values. They
-/// are built when the module is loaded, in the order of their table, and destroyed in the reverse order when
-/// it is unloaded; no code that runs at load or unload may use them. Such code reads LateTypes.h.
+/// The string constants of Vocabulary.def. They are built in the order of the rows when the module is loaded, and
+/// destroyed in the reverse order when it is unloaded. Code that runs at load or unload must not use them; it uses the
+/// constants of LateTypes.h.
 namespace Vocabulary {
 
 #define NAMED_WORD(name, text) extern const ZFXUnicodeString name;
