@@ -5,6 +5,8 @@
 #include "internal/Numbering.h"
 #include "internal/ScopeNames.h"
 
+#include <cassert>
+
 namespace {
 
 /// Returns an allocator for `count` names. The numbers after the base in the scope are marked as used.

@@ -3,6 +3,7 @@
 #include "errors/ZFXError.h"
 
 #include <cassert>
+#include <cstddef>
 
 namespace {
 

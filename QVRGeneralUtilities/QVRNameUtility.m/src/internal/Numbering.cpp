@@ -3,6 +3,7 @@
 #include "QVRGenI18NUtils.h"
 #include "text/DecimalText.h"
 
+#include <cassert>
 #include <cstring>
 #include <tuple>
 
