@@ -5,25 +5,25 @@
 
 #include <utility>
 
-HRESULT ZFXBaseUnknown::QueryInterface(const IID& iid, void** face) {
-    if (face == nullptr)
+HRESULT ZFXBaseUnknown::QueryInterface(const IID& iid, void** interfacePointer) {
+    if (interfacePointer == nullptr)
         return E_POINTER;
-    *face = nullptr;
+    *interfacePointer = nullptr;
     if (m_implementation != nullptr)
-        return m_implementation->QueryInterface(iid, face);
+        return m_implementation->QueryInterface(iid, interfacePointer);
     if (iid != IID_ZFXBaseUnknown)
         return E_NOINTERFACE;
     AddRef();
-    *face = this;
+    *interfacePointer = this;
     return S_OK;
 }
 
-HRESULT ZFXBaseUnknown::QueryInterface(const char* interfaceName, void** face) {
-    if (face == nullptr)
+HRESULT ZFXBaseUnknown::QueryInterface(const char* interfaceName, void** interfacePointer) {
+    if (interfacePointer == nullptr)
         return E_POINTER;
-    *face = nullptr;
+    *interfacePointer = nullptr;
     const IID* iid = ZFXFindInterface(interfaceName);
-    return iid == nullptr ? E_NOINTERFACE : QueryInterface(*iid, face);
+    return iid == nullptr ? E_NOINTERFACE : QueryInterface(*iid, interfacePointer);
 }
 
 HRESULT ZFXBaseUnknown::GetTypeInfoCount(unsigned int* count) {

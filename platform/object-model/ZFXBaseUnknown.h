@@ -4,83 +4,94 @@
 #include "base/ZFXPlatformExport.h"
 #include "base/ZFXResult.h"
 
+#include <cassert>
 #include <cstddef>
 
 class ZFXMetaClass;
 
-/// What ChangeComponentState tells an object about one of its adaptors.
+/// The change of an adaptor that ChangeComponentState reports to an object.
 enum class ZFXComponentState { AdaptorAttached, AdaptorDetached };
 
 /// The root of every platform object.
 ///
-/// An object is one thing with many faces: its interfaces, and the extensions and adaptors that other modules
-/// add to it. A face or an extension has an implementation (`GetImpl`), the object that it belongs to; two
-/// pointers designate the same object when their implementations are one, whatever their addresses.
+/// An object has several interface pointers: one for each interface that it offers, and those of the extensions and
+/// adaptors that other modules add to it. Each interface pointer, extension and adaptor refers to its object
+/// (`GetImpl`). Two pointers designate the same object exactly if `GetImpl` returns the same for both; their addresses
+/// can differ.
 ///
-/// Reference counted, by one thread at a time: made with one reference, destroyed by the Release that gives
-/// back the last one.
+/// Objects are reference counted. A new object has one reference; the Release that removes the last one destroys it.
+/// An object is used by one thread at a time.
 class ZFX_PLATFORM_EXPORT ZFXBaseUnknown {
 public:
     ZFXBaseUnknown() = default;
     ZFXBaseUnknown(const ZFXBaseUnknown&) = delete;
     ZFXBaseUnknown& operator=(const ZFXBaseUnknown&) = delete;
 
-    /// S_OK and the face with one reference for the caller, or a negative code and null. An object without an
-    /// implementation of its own offers nothing but its root; an extension offers what its object offers.
-    virtual HRESULT QueryInterface(const IID& iid, void** face);
-    /// One reference more; their number.
+    /// Casts to the interface `iid`. Returns S_OK and the interface pointer, with one reference for the caller.
+    /// If SetImpl has set an implementation, returns the result of its QueryInterface; otherwise offers the root only.
+    /// Failures:
+    /// - E_NOINTERFACE if the object does not offer the interface; `*interfacePointer` is null;
+    /// - E_POINTER if `interfacePointer` is null.
+    virtual HRESULT QueryInterface(const IID& iid, void** interfacePointer);
+    /// Adds one reference. Returns the new number of references.
     virtual ULONG AddRef() { return ++m_count; }
-    /// One reference less; how many are left. The last one destroys the object.
+    /// Removes one reference and destroys the object if it was the last. Returns the number of references left.
     virtual ULONG Release() {
+        assert(m_count > 0);
         const ULONG left = --m_count;
         if (left == 0)
             delete this;
         return left;
     }
-    /// Automation is not offered by this platform: the count is 0, the other three answer E_NOTIMPL.
+    /// Sets `count` to 0, because this platform offers no automation. Returns S_OK, or E_POINTER if `count` is null.
     virtual HRESULT GetTypeInfoCount(unsigned int* count);
-    /// E_NOTIMPL.
+    /// Returns E_NOTIMPL.
     virtual HRESULT GetTypeInfo(unsigned int index, unsigned long locale, void** info);
-    /// E_NOTIMPL.
+    /// Returns E_NOTIMPL.
     virtual HRESULT GetIDsOfNames(const IID& iid, char16_t** names, unsigned int count, unsigned long locale,
                                   long* ids);
-    /// E_NOTIMPL.
+    /// Returns E_NOTIMPL.
     virtual HRESULT Invoke(long id, const IID& iid, unsigned long locale, unsigned short flags, void* params,
                            void* result, void* exception, unsigned int* argument);
-    /// By the interface's name, such as "ZFXIAlias".
-    virtual HRESULT QueryInterface(const char* interfaceName, void** face);
+    /// Casts to the interface of this name, such as "ZFXIAlias". Results are those of the cast by identifier; a name
+    /// that is null or unknown gives E_NOINTERFACE.
+    virtual HRESULT QueryInterface(const char* interfaceName, void** interfacePointer);
     virtual ~ZFXBaseUnknown();
-    /// The meta class of the object's class. [borrowed]
+    /// Returns the meta class of the object's class. [borrowed]
     virtual ZFXMetaClass* GetMetaObject() const;
-    /// The name of the object's class.
+    /// Returns the name of the object's class. [borrowed]
     virtual const char* IsA() const;
-    /// Nonzero when the class, or one that it derives from, has this name.
+    /// Returns 1 if the object's class or one of its bases has this name, else 0.
     virtual int IsAKindOf(const char* name) const;
-    /// The object behind this face or extension; the object itself when it is one. [borrowed]
+    /// Returns the object that this pointer refers to: the implementation's GetImpl if SetImpl has set one, else this
+    /// object. Never null. [borrowed]
     virtual ZFXBaseUnknown* GetImpl() const;
-    /// Makes this a face or extension of `implementation`; returns what it was of before. Takes no reference.
+    /// Makes this an interface pointer or extension of `implementation`; null makes it an object again. Takes no
+    /// reference. Returns the former implementation, or null. [borrowed]
     virtual ZFXBaseUnknown* SetImpl(ZFXBaseUnknown* implementation);
-    /// Nonzero when there is nothing behind it.
+    /// Returns nonzero if the object is a placeholder for no object. Returns 0 unless a class overrides it.
     virtual int IsNull() const;
-    /// Nonzero when both designate the same object.
+    /// Returns nonzero if `other` designates the same object.
     virtual int IsEqual(const ZFXBaseUnknown* other) const;
-    /// An adaptor was made on this object or went. The object need not do anything.
+    /// Reports to the object that `adaptor` was attached to it or detached from it. Does nothing unless a class
+    /// overrides it.
     virtual void ChangeComponentState(ZFXComponentState state, ZFXBaseUnknown* adaptor);
 
-    /// The meta class. [borrowed]
+    /// Returns the meta class. [borrowed]
     static ZFXMetaClass* MetaObject();
 
-    /// The platform's allocator: null when there is no memory, so that a new expression gives null too.
+    /// Allocates from the platform's block allocator. Returns null if there is no memory; the new expression is then
+    /// null too.
     static void* operator new(std::size_t size) noexcept;
-    /// Gives it back; null is nothing.
+    /// Frees a block of the platform's block allocator. Does nothing if `memory` is null.
     static void operator delete(void* memory) noexcept;
-    /// Blocks of the platform's allocator that this thread took and did not give back.
-    static long LiveAllocations() noexcept;
+    /// Returns the number of blocks that this thread has allocated minus the number that it has freed.
+    [[nodiscard]] static long LiveAllocations() noexcept;
 
 protected:
-    /// What SetImpl was given; null for an object that is its own implementation.
+    /// Returns the implementation that SetImpl has set, or null. [borrowed]
     ZFXBaseUnknown* Implementation() const noexcept { return m_implementation; }
-    /// The references.
+    /// Returns the number of references, for a class that counts in a way of its own.
     ULONG& Count() noexcept { return m_count; }
 
 private:
@@ -88,24 +99,25 @@ private:
     ULONG m_count = 1;
 };
 
-/// The identifier that every object answers with itself.
+/// The identifier of the root interface. Every object offers it.
 inline constexpr IID IID_ZFXBaseUnknown{0x5A465800U, 0, 0, {}};
-/// Passed where members of any kind are wanted.
+/// The class identifier for members of any class.
 inline constexpr IID CLSID_ZFXBaseUnknown = IID_ZFXBaseUnknown;
 
-/// What an object is recognised by; null for null. In a loop, settle that of the fixed side before it.
-inline const ZFXBaseUnknown* ZFXIdentityOf(const ZFXBaseUnknown* face) {
-    return face == nullptr ? nullptr : face->GetImpl();
+/// Returns the object's identity pointer, or null for null. Two interface pointers have the same identity exactly if
+/// they belong to one object. A loop that compares many objects with one computes that one's identity once.
+[[nodiscard]] inline const ZFXBaseUnknown* ZFXIdentityOf(const ZFXBaseUnknown* object) {
+    return object == nullptr ? nullptr : object->GetImpl();
 }
 
-/// Whether both designate the same object; two nulls do.
-inline bool ZFXSameObject(const ZFXBaseUnknown* a, const ZFXBaseUnknown* b) {
+/// Returns true if both interface pointers belong to one object, or if both are null.
+[[nodiscard]] inline bool ZFXSameObject(const ZFXBaseUnknown* a, const ZFXBaseUnknown* b) {
     return a == b || (a != nullptr && b != nullptr && a->GetImpl() == b->GetImpl());
 }
 
-/// The class of nothing: the base of a class that derives from none.
+/// Stands for "no base class": the base of the root in the meta classes.
 class ZFX_PLATFORM_EXPORT ZFXnull {
 public:
-    /// The meta class. [borrowed]
+    /// Returns the meta class. [borrowed]
     static ZFXMetaClass* MetaObject();
 };

@@ -3,93 +3,110 @@
 #include "collections/ZFXListVal.h"
 #include "object-model/ZFXBaseUnknown.h"
 
+#include <cassert>
 #include <cstddef>
 #include <type_traits>
 #include <utility>
 
-/// Holds one reference on an object, as one of its interfaces, or nothing.
+/// A smart pointer to one interface of an object. It has one reference to the object, or is empty.
 ///
-/// Making a handle from a handle or pointer of another type is the interface cast: the handle takes its own
-/// reference, or stays empty when the object does not offer the interface or there is no object. To the same
-/// type or to a base of it no question is asked, the reference is taken. `->` needs a handle that is not
-/// empty.
+/// Constructing a handle from a handle or pointer of another type is the interface cast: it calls QueryInterface, and
+/// the handle is empty if the object does not offer the interface. Converting to the same type or to a base needs no
+/// QueryInterface call. Empty handles and null pointers are allowed; the result is an empty handle.
+///
+/// Use a handle for each interface pointer that is needed for more than one statement:
+///
+///     const ZFXIAlias_var alias(feature); // an interface cast
+///     if (alias == nullptr)
+///         return E_FAIL; // the feature does not offer ZFXIAlias
+///     const ZFXUnicodeString name = alias->GetAlias();
+///
+/// A handle is not thread-safe, because the reference count of its object is not.
 template <class Interface>
 class ZFXHandle {
-    // Whether a pointer to the one is also a pointer to the other, constant or not.
+    // True if a pointer to Derived converts to a pointer to Base, constant or not.
     template <class Derived, class Base>
     static constexpr bool kDerivesFrom = std::is_convertible_v<const volatile Derived*, const volatile Base*>;
     template <class Other>
-    static constexpr bool kIsFace = kDerivesFrom<Other, Interface>;
-    // With an object, constant or not, so that the comparison always fits better than that of two raw pointers would.
+    static constexpr bool kIsSameOrBase = kDerivesFrom<Other, Interface>;
+    // Accepts constant objects too, so that overload resolution prefers it to the comparison of two raw pointers.
     template <class Other>
     using Comparison = std::enable_if_t<kDerivesFrom<Other, ZFXBaseUnknown>, bool>;
 
 public:
+    /// Constructs an empty handle.
+    /// @{
     ZFXHandle() noexcept = default;
-    /// Empty.
     ZFXHandle(std::nullptr_t) noexcept {}
-    /// From a borrowed pointer. The pointer keeps its own reference.
+    /// @}
+    /// Casts a borrowed pointer. Adds a reference; the caller keeps its own.
     template <class Other, class = std::enable_if_t<kDerivesFrom<Other, ZFXBaseUnknown>>>
     ZFXHandle(Other* object) {
         Cast(object);
     }
-    /// The cast; `other` keeps its own reference.
+    /// Casts another handle, which keeps its reference.
     template <class Other>
     ZFXHandle(const ZFXHandle<Other>& other) {
         Cast(other.Get());
     }
-    /// To a base the reference is handed on; to another interface this is the cast, and `other` keeps its own.
+    /// Converts another handle. To a base, moves the reference: `other` is empty afterwards. To any other interface,
+    /// casts: `other` keeps its reference.
     template <class Other>
     ZFXHandle(ZFXHandle<Other>&& other) {
-        if constexpr (kIsFace<Other>)
-            m_face = other.Detach();
+        if constexpr (kIsSameOrBase<Other>)
+            m_pointer = other.Detach();
         else
             Cast(other.Get());
     }
-    /// One more reference.
-    ZFXHandle(const ZFXHandle& other) : m_face(other.m_face) {
-        if (m_face != nullptr)
-            m_face->AddRef();
+    /// Copies the handle and adds a reference.
+    ZFXHandle(const ZFXHandle& other) : m_pointer(other.m_pointer) {
+        if (m_pointer != nullptr)
+            m_pointer->AddRef();
     }
-    /// Takes the reference of `other`, which is empty afterwards.
-    ZFXHandle(ZFXHandle&& other) noexcept : m_face(std::exchange(other.m_face, nullptr)) {}
+    /// Moves the reference of `other`, which is empty afterwards.
+    ZFXHandle(ZFXHandle&& other) noexcept : m_pointer(std::exchange(other.m_pointer, nullptr)) {}
+    /// Releases the reference.
     ~ZFXHandle() {
-        if (m_face != nullptr)
-            m_face->Release();
+        if (m_pointer != nullptr)
+            m_pointer->Release();
     }
 
-    /// One more reference on the other's object; gives back its own.
+    /// Copies `other` and releases the former reference.
     ZFXHandle& operator=(const ZFXHandle& other) {
-        ZFXHandle(other).Swap(*this); // the new reference first: both may be the last on one object
+        ZFXHandle(other).Swap(*this); // adds before it releases: both can refer to one object
         return *this;
     }
-    /// Takes the reference of `other`; gives back its own.
+    /// Moves the reference of `other`, which is empty afterwards, and releases the former reference.
     ZFXHandle& operator=(ZFXHandle&& other) noexcept {
         ZFXHandle(std::move(other)).Swap(*this);
         return *this;
     }
 
-    /// Takes over the reference that a platform operation handed back.
-    static ZFXHandle Attach(Interface* object) noexcept {
+    /// Returns a handle that owns the caller's reference to `object`, which can be null. Use it for the result of an
+    /// operation marked [new reference].
+    [[nodiscard]] static ZFXHandle Attach(Interface* object) noexcept {
         ZFXHandle handle;
-        handle.m_face = object;
+        handle.m_pointer = object;
         return handle;
     }
+    /// Returns the interface pointer with its reference, which the caller now owns. The handle is empty afterwards.
+    [[nodiscard]] Interface* Detach() noexcept { return std::exchange(m_pointer, nullptr); }
 
-    /// The face, or null. [borrowed]
-    operator Interface*() const noexcept { return m_face; }
-    /// The face. [borrowed]
-    Interface* operator->() const noexcept { return m_face; }
-    /// The face, or null. [borrowed]
-    Interface* Get() const noexcept { return m_face; }
+    /// Returns the interface pointer, or null if the handle is empty. [borrowed]
+    /// @{
+    operator Interface*() const noexcept { return m_pointer; }
+    Interface* Get() const noexcept { return m_pointer; }
+    /// @}
+    /// Returns the interface pointer. The handle must not be empty. [borrowed]
+    Interface* operator->() const noexcept {
+        assert(m_pointer != nullptr);
+        return m_pointer;
+    }
+    /// Exchanges the references of both handles.
+    void Swap(ZFXHandle& other) noexcept { std::swap(m_pointer, other.m_pointer); }
 
-    /// The reference goes to the caller; the handle is empty afterwards.
-    Interface* Detach() noexcept { return std::exchange(m_face, nullptr); }
-    /// Both change places.
-    void Swap(ZFXHandle& other) noexcept { std::swap(m_face, other.m_face); }
-
-    /// Whether both designate the same object; two empty ones are equal. All forms stand here, since before C++20 none
-    /// follows from another.
+    /// Returns true from == if both refer to the same object or both are empty. All forms are declared: before C++20
+    /// the compiler derives none from another.
     /// @{
     template <class Other>
     friend bool operator==(const ZFXHandle& a, const ZFXHandle<Other>& b) {
@@ -115,14 +132,14 @@ public:
     friend Comparison<Other> operator!=(Other* a, const ZFXHandle& b) {
         return !(b == a);
     }
-    friend bool operator==(const ZFXHandle& a, std::nullptr_t) noexcept { return a.m_face == nullptr; }
-    friend bool operator==(std::nullptr_t, const ZFXHandle& b) noexcept { return b.m_face == nullptr; }
-    friend bool operator!=(const ZFXHandle& a, std::nullptr_t) noexcept { return a.m_face != nullptr; }
-    friend bool operator!=(std::nullptr_t, const ZFXHandle& b) noexcept { return b.m_face != nullptr; }
+    friend bool operator==(const ZFXHandle& a, std::nullptr_t) noexcept { return a.m_pointer == nullptr; }
+    friend bool operator==(std::nullptr_t, const ZFXHandle& b) noexcept { return b.m_pointer == nullptr; }
+    friend bool operator!=(const ZFXHandle& a, std::nullptr_t) noexcept { return a.m_pointer != nullptr; }
+    friend bool operator!=(std::nullptr_t, const ZFXHandle& b) noexcept { return b.m_pointer != nullptr; }
     /// @}
 
-    /// Handles have no order: the conversion to a pointer would order the addresses of interfaces, and one object may
-    /// have several.
+    /// Handles have no order. The conversion to a pointer would compare addresses of interface pointers, and one object
+    /// has several.
     /// @{
     friend bool operator<(const ZFXHandle&, const ZFXHandle&) = delete;
     friend bool operator<=(const ZFXHandle&, const ZFXHandle&) = delete;
@@ -138,18 +155,19 @@ private:
     void Cast(Other* object) {
         if (object == nullptr)
             return;
-        if constexpr (kIsFace<Other>) {
-            m_face = object;
-            m_face->AddRef();
+        if constexpr (kIsSameOrBase<Other>) {
+            m_pointer = object;
+            m_pointer->AddRef();
         } else {
-            void* face = nullptr;
-            if (!Failed(object->QueryInterface(Interface::ClassId(), &face)))
-                m_face = static_cast<Interface*>(face);
+            void* result = nullptr;
+            if (!Failed(object->QueryInterface(Interface::ClassId(), &result)))
+                m_pointer = static_cast<Interface*>(result);
         }
     }
 
-    Interface* m_face = nullptr;
+    Interface* m_pointer = nullptr;
 };
 
+// The handle of an interface is named after it, with the ending _var.
 using ZFXBaseUnknown_var = ZFXHandle<ZFXBaseUnknown>;
 using ZFXListValZFXBaseUnknown_var = ZFXListVal<ZFXBaseUnknown_var>;

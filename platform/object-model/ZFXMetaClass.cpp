@@ -1,6 +1,7 @@
 #include "object-model/ZFXMetaClass.h"
 
 #include <algorithm>
+#include <cassert>
 #include <cstdint>
 #include <cstring>
 #include <map>
@@ -9,7 +10,7 @@
 
 namespace {
 
-/// An identifier made from the class's name: the same in every process.
+/// Returns an identifier computed from the class's name, equal in every process.
 GUID IdOfName(std::string_view name) noexcept {
     std::uint64_t halves[] = {0xCBF29CE484222325U, 0x84222325CBF29CE4U};
     for (const char c : name) {
@@ -22,7 +23,7 @@ GUID IdOfName(std::string_view name) noexcept {
     return id;
 }
 
-/// Never destroyed: modules and objects may outlive this library's own end.
+/// Never destroyed: modules and objects can outlive the static objects of this library.
 std::map<std::string, std::unique_ptr<ZFXMetaClass>>& Registry() {
     static auto* const registry = new std::map<std::string, std::unique_ptr<ZFXMetaClass>>;
     return *registry;
@@ -58,6 +59,7 @@ int ZFXMetaClass::IsExtensionOf(const ZFXMetaClass* extended) const noexcept {
 }
 
 void ZFXMetaClass::Declare(ENUMTypeOfClass kind, ZFXMetaClass* base) noexcept {
+    assert(!m_declared);
     m_kind = kind;
     m_base = base;
     m_declared = true;
@@ -72,6 +74,7 @@ ZFXAdaptorFactory ZFXMetaClass::FindAdaptorFactory(const IID& iid) const noexcep
 }
 
 void ZFXMetaClass::AddAdaptorFactory(const IID& iid, ZFXAdaptorFactory factory) {
+    assert(factory != nullptr);
     m_adaptors.push_back({iid, factory});
 }
 
@@ -92,6 +95,8 @@ ZFXMetaClass* fct_RetrieveMetaObject(const char* name, ENUMTypeOfClass kind, ZFX
 
 ZFXMetaClass* fct_RetrieveAdaptorMetaObject(const IID& iid, const char* interfaceName, ZFXMetaClass* interfaceClass,
                                             ZFXMetaClass* implementation) {
+    assert(interfaceName != nullptr);
+    assert(implementation != nullptr);
     std::unique_ptr<ZFXMetaClass>& metaClass = Registry()[std::string(implementation->IsA()) + "/" + interfaceName];
     if (metaClass == nullptr)
         metaClass = std::make_unique<ZFXMetaClass>(&iid, interfaceName, interfaceClass, implementation,

@@ -8,67 +8,74 @@
 
 class ZFXBaseUnknown;
 
-/// What a class is to the object model.
+/// The kind of a class in the object model.
 enum class ENUMTypeOfClass {
     Interface = 0,
     Implementation = 1,
     /// Adds interfaces to objects of other classes.
     DataExtension = 2,
-    /// The adaptor that offers an interface and forwards it to an implementation.
+    /// An adaptor: offers an interface and forwards its calls to an implementation.
     TIE = 6
 };
 
-/// Makes an adaptor that offers an interface on `object`, with one reference for the caller, or null.
+/// Creates an adaptor that offers an interface on `object`. Returns it with one reference for the caller, or null if
+/// there is no memory. `context` is for a host's own records.
 using ZFXAdaptorFactory = ZFXBaseUnknown* (*)(ZFXBaseUnknown* object, void* context);
 
-/// The description of a class or late type: its name, what it derives from, and what extends it.
+/// The description of a class or late type: name, kind, base, and the extensions and adaptors that modules add.
 ///
-/// Those that `fct_RetrieveMetaObject` and `fct_FindMetaObject` hand out belong to the platform and live
-/// until the process ends; there is one for each name.
+/// Meta classes returned by `fct_RetrieveMetaObject`, `fct_RetrieveAdaptorMetaObject` and `fct_FindMetaObject` belong
+/// to the platform and live until the process ends. There is one for each name of a class or late type.
 class ZFX_PLATFORM_EXPORT ZFXMetaClass {
 public:
-    /// A class of the given kind; an adaptor's names the interface that it offers and the class that
-    /// implements it. The name is copied.
+    /// Creates a meta class that is not yet declared.
+    /// @param classId         copied; if null, an identifier is computed from the name
+    /// @param name            copied; null counts as empty
+    /// @param base            the meta class of the base class, or null
+    /// @param implementation  for an adaptor the class that implements the interface, else null
+    /// @param kind            an ENUMTypeOfClass
     ZFXMetaClass(const IID* classId, const char* name, ZFXMetaClass* base, ZFXMetaClass* implementation, int kind);
     ZFXMetaClass(const ZFXMetaClass&) = delete;
     ZFXMetaClass& operator=(const ZFXMetaClass&) = delete;
     ~ZFXMetaClass();
 
-    /// The name. [borrowed]
+    /// Returns the name. [borrowed]
     const char* IsA() const noexcept { return m_name.c_str(); }
-    /// Nonzero when this class or one that it derives from has the name.
-    int IsAKindOf(const char* name) const noexcept;
-    /// The identifier: of an interface and of its adaptors the interface's, else one made out of the name.
+    /// Returns 1 if this class or one of its bases has the name, else 0; 0 if `name` is null.
+    [[nodiscard]] int IsAKindOf(const char* name) const noexcept;
+    /// Returns the identifier. An adaptor has that of its interface. A class created without an identifier has one
+    /// computed from its name, which is equal in every process.
     const GUID& GetClassId() const noexcept { return m_classId; }
-    /// What it is to the object model.
+    /// Returns the kind.
     ENUMTypeOfClass GetTypeOfClass() const noexcept { return m_kind; }
-    /// What it derives from, or null. [borrowed]
+    /// Returns the meta class of the base class, or null. [borrowed]
     ZFXMetaClass* GetBaseMetaClass() const noexcept { return m_base; }
-    /// Of an adaptor the class that implements it, else null. [borrowed]
+    /// Returns the class that implements the interface of an adaptor, or null for other kinds. [borrowed]
     ZFXMetaClass* GetImplementationMetaClass() const noexcept { return m_implementation; }
 
-    /// Declares that this class extends every object of the late type `extended`. Null and repeats are
-    /// ignored.
+    /// Makes this class an extension of all objects of the late type `extended`. Does nothing if it is one already or
+    /// if `extended` is null.
     void SetExtensionOf(ZFXMetaClass* extended);
-    /// Nonzero when this class extends objects of the late type.
-    int IsExtensionOf(const ZFXMetaClass* extended) const noexcept;
-    /// Whether anything extends objects of this late type.
-    bool IsExtended() const noexcept { return !m_extensions.empty(); }
-    /// The factory that offers an interface on objects of this late type through one of its extensions, or
-    /// null.
-    ZFXAdaptorFactory FindAdaptorFactory(const IID& iid) const noexcept;
+    /// Returns nonzero if this class is an extension of the late type `extended`, which can be null.
+    [[nodiscard]] int IsExtensionOf(const ZFXMetaClass* extended) const noexcept;
+    /// Returns true if any class is an extension of this late type.
+    [[nodiscard]] bool IsExtended() const noexcept { return !m_extensions.empty(); }
+    /// Returns the factory of the adaptor that offers the interface on objects of this late type, or null if no
+    /// extension has one. Extensions are searched in the order of SetExtensionOf, their factories in the order of
+    /// AddAdaptorFactory; the first match counts.
+    [[nodiscard]] ZFXAdaptorFactory FindAdaptorFactory(const IID& iid) const noexcept;
 
-    /// The dictionary's side: which interface this extension offers, and how its adaptor is made. Of several entries
-    /// for one interface the latest that stands counts: a module may be loaded twice.
+    /// Adds a factory, not null, for an interface that this extension offers. Several factories for one interface are
+    /// allowed: a module can be loaded twice.
     void AddAdaptorFactory(const IID& iid, ZFXAdaptorFactory factory);
-    /// Withdraws the entry for the interface that names this factory.
+    /// Removes this factory for the interface.
     void RemoveAdaptorFactory(const IID& iid, ZFXAdaptorFactory factory);
-    /// How many entries stand.
-    int CountAdaptorFactories() const noexcept { return static_cast<int>(m_adaptors.size()); }
+    /// Returns the number of factories of this extension.
+    [[nodiscard]] int CountAdaptorFactories() const noexcept { return static_cast<int>(m_adaptors.size()); }
 
-    /// Whether it was declared, and not only asked for by its name. A declaration settles kind and base.
-    bool IsDeclared() const noexcept { return m_declared; }
-    /// Declares it to be of this kind and derived from `base`, which may be null.
+    /// Returns true if Declare was called. A late type that modules only looked up by its name is not declared.
+    [[nodiscard]] bool IsDeclared() const noexcept { return m_declared; }
+    /// Sets the kind and the base, which can be null. The class must not be declared yet.
     void Declare(ENUMTypeOfClass kind, ZFXMetaClass* base) noexcept;
 
 private:
@@ -84,33 +91,42 @@ private:
     ENUMTypeOfClass m_kind;
     bool m_declared = false;
     std::vector<ZFXMetaClass*> m_extensions; // of this late type
-    std::vector<Adaptor> m_adaptors;         // offered by this extension
+    std::vector<Adaptor> m_adaptors;         // of this extension
 };
 
-/// The meta class of the name, made on the first call. `firstExtended` names a late type that it extends, or
-/// is null. `framework` and `level` are for a host's own records. [borrowed]
+/// Returns the meta class of this name and declares it if it is not declared yet: a later call does not change kind and
+/// base. Returns null if `name` is null. [borrowed]
+/// @param name           the name of the class or late type
+/// @param kind           the kind
+/// @param base           the meta class of the base class, or null
+/// @param firstExtended  the name of a late type that the class extends, or null
+/// @param framework      for a host's own records; ignored
+/// @param level          for a host's own records; ignored
 ZFX_PLATFORM_EXPORT ZFXMetaClass* fct_RetrieveMetaObject(const char* name, ENUMTypeOfClass kind, ZFXMetaClass* base,
                                                          const char* firstExtended, const char* framework, int level);
-/// The meta class of the adaptors that offer an interface for an implementation class, made on the first call.
-/// [borrowed]
+/// Returns the meta class of the adaptors that offer an interface for an implementation class. Creates it at the first
+/// call. `interfaceName` and `implementation` must not be null. [borrowed]
 ZFX_PLATFORM_EXPORT ZFXMetaClass* fct_RetrieveAdaptorMetaObject(const IID& iid, const char* interfaceName,
                                                                 ZFXMetaClass* interfaceClass,
                                                                 ZFXMetaClass* implementation);
-/// The meta class of a class or late type; one is made for a name that is not known yet, so that the order in
-/// which modules are loaded does not matter. Null for a null name. [borrowed]
+/// Returns the meta class of a class or late type, or null if `name` is null. Creates one for a name that is not known
+/// yet, so that the order in which modules are loaded does not matter. [borrowed]
 ZFX_PLATFORM_EXPORT ZFXMetaClass* fct_FindMetaObject(const char* name);
 
-/// A dictionary entry: tells the platform that an interface is offered on the objects which `extension`
-/// extends, by the adaptors that `factory` makes. A module keeps the entry for as long as it is loaded: the
-/// entry is made with the object and withdrawn with it. Adaptors are released before their module is unloaded: their
-/// code goes with it.
+/// A dictionary entry: while it exists, the interface of `interfaceClass` is offered, through the adaptors that
+/// `factory` creates, on the objects that `extension` extends.
+///
+/// A module defines the entry as a static object: it is added when the module is loaded and removed when the module is
+/// unloaded. The adaptors must be released before, because their code is unloaded too.
 class ZFX_PLATFORM_EXPORT ZFXFillDictionary {
 public:
-    /// A second factory and the flag are for a host's own records.
+    /// Adds the entry. `extension`, `interfaceClass` and `factory` must not be null. `secondFactory` and `flag` are for
+    /// a host's own records and are ignored.
     ZFXFillDictionary(ZFXMetaClass* extension, ZFXMetaClass* interfaceClass, ZFXAdaptorFactory factory,
                       ZFXAdaptorFactory secondFactory, int flag);
     ZFXFillDictionary(const ZFXFillDictionary&) = delete;
     ZFXFillDictionary& operator=(const ZFXFillDictionary&) = delete;
+    /// Removes the entry.
     ~ZFXFillDictionary();
 
 private:

@@ -1,8 +1,13 @@
 #include "object-model/ZFXTie.h"
 
+#include <cassert>
+
 ZFXBaseUnknown* Tie_Construct(ZFXBaseUnknown* adaptor, ZFXTie& tie, ZFXMetaClass* /*adaptorClass*/,
                               const CLSID& /*extension*/, ENUMTypeOfClass /*kind*/, ZFXBaseUnknown* /*previous*/,
                               ZFXImplementationMaker maker, ZFXBaseUnknown* object, void* /*context*/) {
+    assert(adaptor != nullptr);
+    assert(maker != nullptr);
+    assert(object != nullptr);
     tie.count = 1;
     tie.object = object;
     object->AddRef();
@@ -27,20 +32,22 @@ void Tie_Destruct(ZFXBaseUnknown* adaptor, ZFXTie& tie) {
 }
 
 HRESULT Tie_Query(ZFXBaseUnknown* adaptor, const ZFXTie& tie, const ZFXMetaClass* adaptorClass, const IID& iid,
-                  void** face) {
-    if (face == nullptr)
+                  void** interfacePointer) {
+    assert(tie.object != nullptr);
+    if (interfacePointer == nullptr)
         return E_POINTER;
-    *face = nullptr;
+    *interfacePointer = nullptr;
     if (iid != adaptorClass->GetClassId())
-        return tie.object->QueryInterface(iid, face);
+        return tie.object->QueryInterface(iid, interfacePointer);
     adaptor->AddRef();
-    *face = adaptor;
+    *interfacePointer = adaptor;
     return S_OK;
 }
 
 ULONG Tie_AddRef(ZFXTie& tie) { return ++tie.count; }
 
 ULONG Tie_Release(ZFXBaseUnknown* adaptor, ZFXTie& tie) {
+    assert(tie.count > 0);
     const ULONG left = --tie.count;
     if (left == 0)
         delete adaptor;

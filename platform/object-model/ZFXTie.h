@@ -4,52 +4,62 @@
 #include "object-model/ZFXBaseUnknown.h"
 #include "object-model/ZFXMetaClass.h"
 
-/// The bookkeeping that an adaptor holds: what it forwards to, and its count. An adaptor keeps the object
-/// that it was made on alive, and its implementation dies with it.
+/// The data of an adaptor: the object that it belongs to, the implementation that it forwards calls to, and its
+/// reference count. The adaptor keeps both alive.
+///
+/// An adaptor class contains a ZFXTie and implements its root operations with the functions below. Tie_Construct must
+/// have initialized the ZFXTie that is passed to the other functions.
 struct ZFXTie {
-    /// What calls are forwarded to, with one reference.
+    /// The implementation, with one reference. Null if it could not be created.
     ZFXBaseUnknown* implementation = nullptr;
-    /// What the adaptor was made on, with one reference.
+    /// The object that the adaptor was created for, with one reference.
     ZFXBaseUnknown* object = nullptr;
-    /// The references on the adaptor.
+    /// The number of references to the adaptor.
     ULONG count = 0;
 };
 
-/// Makes a new implementation object with one reference, or null when there is no memory.
+/// Creates an implementation object with one reference. Returns null if there is no memory.
 using ZFXImplementationMaker = ZFXBaseUnknown* (*)();
 
-/// Builds an adaptor: takes a reference on `object`, which is not null, makes the implementation and ties both
-/// together; the adaptor has one reference afterwards. Returns the implementation that the module's next adaptor may
-/// share: null, as each adaptor of this platform gets one of its own. When it cannot be made, `tie.implementation`
-/// stays null. `previous` and `context` are for a host that keeps its own.
+/// Initializes an adaptor: creates its implementation, connects both with `object`, and sets the adaptor's reference
+/// count to 1. Adds one reference to `object`. If the implementation cannot be created, `tie.implementation` is null.
+/// Returns the implementation that the module's next adaptor can share: always null, because each adaptor of this
+/// platform has an implementation of its own.
+/// @param adaptor       the adaptor; not null
+/// @param tie           the data of the adaptor
+/// @param maker         creates the implementation; not null
+/// @param object        the object that the adaptor extends; not null
+/// @param adaptorClass, extension, kind, previous, context  for a host's own records; ignored
 ZFX_PLATFORM_EXPORT ZFXBaseUnknown* Tie_Construct(ZFXBaseUnknown* adaptor, ZFXTie& tie, ZFXMetaClass* adaptorClass,
                                                   const CLSID& extension, ENUMTypeOfClass kind,
                                                   ZFXBaseUnknown* previous, ZFXImplementationMaker maker,
                                                   ZFXBaseUnknown* object, void* context);
-/// Gives the implementation and the object back; called by the adaptor's destructor.
+/// Releases the implementation and the object. The destructor of the adaptor calls it. Does nothing if Tie_Construct
+/// was not called.
 ZFX_PLATFORM_EXPORT void Tie_Destruct(ZFXBaseUnknown* adaptor, ZFXTie& tie);
-/// The adaptor itself for the interface that it offers, else what the object answers.
-ZFX_PLATFORM_EXPORT HRESULT Tie_Query(ZFXBaseUnknown* adaptor, const ZFXTie& tie, const ZFXMetaClass* adaptorClass,
-                                      const IID& iid, void** face);
-/// One reference more on the adaptor; their number.
+/// Casts to an interface: returns the adaptor if `iid` is its own interface, else the result of the object's
+/// QueryInterface. Returns E_POINTER if `interfacePointer` is null.
+[[nodiscard]] ZFX_PLATFORM_EXPORT HRESULT Tie_Query(ZFXBaseUnknown* adaptor, const ZFXTie& tie,
+                                                    const ZFXMetaClass* adaptorClass, const IID& iid,
+                                                    void** interfacePointer);
+/// Adds one reference to the adaptor. Returns the new number of references.
 ZFX_PLATFORM_EXPORT ULONG Tie_AddRef(ZFXTie& tie);
-/// Destroys the adaptor when the last reference goes.
+/// Removes one reference and destroys the adaptor if it was the last. Returns the number of references left.
 ZFX_PLATFORM_EXPORT ULONG Tie_Release(ZFXBaseUnknown* adaptor, ZFXTie& tie);
-/// What the implementation answers.
+/// Forwards the automation call of this name to the implementation.
+/// @{
 ZFX_PLATFORM_EXPORT HRESULT Tie_GetTypeInfoCount(const ZFXTie& tie, unsigned int* count);
-/// What the implementation answers.
 ZFX_PLATFORM_EXPORT HRESULT Tie_GetTypeInfo(const ZFXTie& tie, unsigned int index, unsigned long locale, void** info);
-/// What the implementation answers.
 ZFX_PLATFORM_EXPORT HRESULT Tie_GetIDsOfNames(const ZFXTie& tie, const IID& iid, char16_t** names, unsigned int count,
                                               unsigned long locale, long* ids);
-/// What the implementation answers.
 ZFX_PLATFORM_EXPORT HRESULT Tie_Invoke(const ZFXTie& tie, long id, const IID& iid, unsigned long locale,
                                        unsigned short flags, void* params, void* result, void* exception,
                                        unsigned int* argument);
+/// @}
 
 /// The context of a call through an adaptor.
 class ZFX_PLATFORM_EXPORT Tie_StackCtx {
 public:
-    /// The implementation that the call is for. [borrowed]
-    static ZFXBaseUnknown* Run(const ZFXTie& tie) noexcept;
+    /// Returns the implementation that a call through the adaptor is forwarded to. [borrowed]
+    [[nodiscard]] static ZFXBaseUnknown* Run(const ZFXTie& tie) noexcept;
 };
