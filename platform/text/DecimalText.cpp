@@ -11,13 +11,13 @@ namespace {
 
 bool IsDigit(char16_t unit) noexcept { return unit >= u'0' && unit <= u'9'; }
 
-constexpr std::size_t kSafeDigits = 9; // fit any int
+constexpr std::size_t kSafeDigits = 9; // any number of nine digits fits an int
 
 } // namespace
 
 std::optional<int> Read(std::u16string_view text) noexcept {
     std::size_t at = 0;
-    // Mostly nothing but a few digits.
+    // Most texts are a few digits and nothing else.
     int small = 0;
     for (const std::size_t end = std::min(text.size(), kSafeDigits); at < end && IsDigit(text[at]); ++at)
         small = small * 10 + (text[at] - u'0');
@@ -29,7 +29,7 @@ std::optional<int> Read(std::u16string_view text) noexcept {
     const bool negative = at < text.size() && text[at] == u'-';
     if (negative || (at < text.size() && text[at] == u'+'))
         ++at;
-    // The magnitude of the least int is one more than that of the largest.
+    // The magnitude of the smallest int is one more than that of the largest.
     const std::int64_t limit = std::int64_t{std::numeric_limits<int>::max()} + (negative ? 1 : 0);
     const std::size_t firstDigit = at;
     std::int64_t value = 0;

@@ -6,12 +6,13 @@
 #include "text/ZFXUnicodeString.h"
 
 #include <algorithm>
+#include <cassert>
 #include <cstdint>
 #include <cstring>
 
 namespace {
 
-/// Eight units side by side: compilers make one step of a vector unit of each operation on them.
+/// Eight code units. The compiler translates each operation on them to one vector instruction.
 using Block = std::uint16_t __attribute__((vector_size(16)));
 constexpr int kBlock = 8;
 constexpr std::uint16_t kCaseBit = 0x20;
@@ -28,9 +29,9 @@ bool IsZero(const Block& block) noexcept {
     return (halves[0] | halves[1]) == 0;
 }
 
-/// Whether two blocks part at nothing but the case of ASCII letters.
+/// Returns true if the blocks differ in the case of ASCII letters only.
 bool EqualAscii(const Block& left, const Block& right) noexcept {
-    const Block fromA = (left | kCaseBit) - 0x61; // the place in the alphabet
+    const Block fromA = (left | kCaseBit) - 0x61; // the position in the alphabet
     const auto isLetter = reinterpret_cast<Block>(fromA < 26);
     return IsZero((left ^ right) & ~(isLetter & kCaseBit));
 }
@@ -41,15 +42,15 @@ std::uint32_t FoldPair(const char16_t* pair) noexcept {
     return CaseMapping::kFold.OfPair(Surrogates::Decode(pair[0], pair[1]));
 }
 
-/// Returns true if both texts contain a surrogate pair at position i, in either half, and the pairs are equal apart
-/// from case.
+/// Returns true if each text has a surrogate pair that includes position i, and the pairs are equal apart from case.
 [[gnu::cold]] bool EqualPairsAt(const char16_t* left, const char16_t* right, int i, int length) noexcept {
     const int start = Surrogates::IsLow(left[i]) ? i - 1 : i;
     return start >= 0 && start + 1 < length && Surrogates::IsPair(left[start], left[start + 1]) &&
            Surrogates::IsPair(right[start], right[start + 1]) && FoldPair(left + start) == FoldPair(right + start);
 }
 
-/// Compares from position `from` on, unit by unit. `identical` is false if the units before it differ in case.
+/// Compares from position `from` on, unit by unit, as Compare does. `identical` is false if a difference is already
+/// known.
 // Not inlined, so that CompareUnits saves fewer registers.
 [[gnu::noinline]] int CompareFolded(const char16_t* left, const char16_t* right, int from, int length,
                                     bool identical) noexcept {
@@ -69,6 +70,7 @@ std::uint32_t FoldPair(const char16_t* pair) noexcept {
 } // namespace
 
 int ZFXUnicodeString::CompareUnits(const char16_t* left, const char16_t* right, int length) noexcept {
+    assert(length > 0);
     // For long identical texts memcmp is faster than a loop over blocks.
     if (length > 2 * kBlock && std::memcmp(left, right, static_cast<std::size_t>(length) * sizeof(char16_t)) == 0)
         return 2;

@@ -2,13 +2,15 @@
 
 #include "text/Surrogates.h"
 
+#include <cassert>
+
 namespace Utf8 {
 namespace {
 
 struct Lead {
     int bytes;
     std::uint32_t bits;
-    std::uint32_t least; // a smaller code would have been written with fewer bytes
+    std::uint32_t least; // a smaller code needs fewer bytes and is ill-formed
 };
 
 Lead LeadOf(unsigned char byte) noexcept {
@@ -24,6 +26,7 @@ Lead LeadOf(unsigned char byte) noexcept {
 } // namespace
 
 Decoded First(std::string_view text) noexcept {
+    assert(!text.empty());
     const auto front = static_cast<unsigned char>(text.front());
     if (front < 0x80)
         return {front, 1};

@@ -4,11 +4,11 @@
 #include <string>
 #include <string_view>
 
-/// Paths from UTF-8 text and back, whatever the process's locale and the system's own encoding.
+/// Conversion between UTF-8 and paths, independent of the process locale and of the system's encoding.
 namespace Utf8 {
 
-/// The path that UTF-8 text names.
-inline std::filesystem::path ToPath(std::string_view text) {
+/// Returns the path that the UTF-8 text names.
+[[nodiscard]] inline std::filesystem::path ToPath(std::string_view text) {
 #ifdef __cpp_char8_t
     return std::filesystem::path(std::u8string(text.begin(), text.end()));
 #else
@@ -16,8 +16,8 @@ inline std::filesystem::path ToPath(std::string_view text) {
 #endif
 }
 
-/// The path as UTF-8 text.
-inline std::string FromPath(const std::filesystem::path& path) {
+/// Returns the path as UTF-8 text.
+[[nodiscard]] inline std::string FromPath(const std::filesystem::path& path) {
     const auto text = path.u8string();
     return {text.begin(), text.end()};
 }

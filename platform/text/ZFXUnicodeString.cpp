@@ -5,6 +5,7 @@
 #include "text/Utf8.h"
 
 #include <algorithm>
+#include <cassert>
 #include <functional>
 #include <limits>
 #include <optional>
@@ -15,7 +16,10 @@ namespace {
 
 bool IsDecimalFormat(const char* format) noexcept { return format != nullptr && std::string_view(format) == "%d"; }
 
-std::size_t Size(int n) noexcept { return static_cast<std::size_t>(n); }
+std::size_t Size(int n) noexcept {
+    assert(n >= 0);
+    return static_cast<std::size_t>(n);
+}
 
 } // namespace
 
@@ -59,10 +63,10 @@ ZFXUnicodeString& ZFXUnicodeString::operator=(ZFXUnicodeString&& other) noexcept
 }
 
 ZFXUnicodeString& ZFXUnicodeString::operator=(const char* text) {
-    return *this = ZFXUnicodeString(text); // a copy first: the text may be this string's own narrow form
+    return *this = ZFXUnicodeString(text); // copies first: the text can be this string's own narrow form
 }
 
-/// Takes the other's text and leaves it empty. This object's own storage must be free.
+/// Moves the text of `other`, which is empty afterwards. This string must own no memory: what it has is overwritten.
 void ZFXUnicodeString::TakeFrom(ZFXUnicodeString& other) noexcept {
     std::memcpy(&m_storage, &other.m_storage, sizeof m_storage);
     m_length = std::exchange(other.m_length, 0);
@@ -74,11 +78,11 @@ void ZFXUnicodeString::FreeHeap() noexcept { delete[] m_storage.heap; }
 
 void ZFXUnicodeString::FreeNarrow() noexcept { delete[] m_narrow.exchange(nullptr, std::memory_order_relaxed); }
 
-/// Makes room for a number of units and keeps the text.
+/// Makes room for a number of code units. The text does not change.
 void ZFXUnicodeString::Reserve(int units) {
     if (units <= m_capacity)
         return;
-    // Half as much again, so that building a text piece by piece stays linear.
+    // Grows by half, so that building a text piece by piece takes linear time.
     const int grown = m_capacity > std::numeric_limits<int>::max() / 2 ? units : m_capacity + m_capacity / 2;
     const int capacity = std::max(units, grown);
     auto* heap = new char16_t[Size(capacity)];
@@ -89,17 +93,22 @@ void ZFXUnicodeString::Reserve(int units) {
     m_capacity = capacity;
 }
 
-/// The text becomes `units`, which belong to another object.
+/// Sets the text to `units`, which must not be part of this string.
 void ZFXUnicodeString::Assign(std::u16string_view units) {
+    assert(units.empty() || units.data() != Data());
+    assert(units.size() <= Size(std::numeric_limits<int>::max()));
     DropNarrow();
-    m_length = 0; // nothing to keep when room is made
+    m_length = 0; // Reserve then copies nothing
     Reserve(static_cast<int>(units.size()));
     std::copy(units.begin(), units.end(), Data());
     m_length = static_cast<int>(units.size());
 }
 
-/// Replaces a range that lies in the text by `text`, which may lie in the text as well.
+/// Replaces a range of the text by `text`, which can be part of this string.
 void ZFXUnicodeString::Replace(int start, int count, std::u16string_view text) {
+    assert(start >= 0);
+    assert(count >= 0);
+    assert(start <= m_length - count);
     DropNarrow();
     const std::less<> before;
     const bool own = !before(text.data(), Data()) && before(text.data(), Data() + m_length);
@@ -171,7 +180,7 @@ const char* ZFXUnicodeString::ConvertToChar() const {
     auto* made = new char[bytes + 1];
     Utf8::FromUtf16(Units(), made);
     made[bytes] = '\0';
-    // Two threads may make it at the same time; the first keeps its own, the other takes that.
+    // Two threads can convert at the same time: the first result is kept, the second is deleted.
     char* other = nullptr;
     if (m_narrow.compare_exchange_strong(other, made, std::memory_order_acq_rel))
         return made;

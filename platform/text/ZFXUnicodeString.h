@@ -9,38 +9,38 @@
 #include <cstring>
 #include <string_view>
 
-/// A text as a value: a sequence of UTF-16 code units of which every object owns its own.
+/// A text: a sequence of UTF-16 code units. A string is a value; a copy has its own text.
 ///
-/// Lengths and counts are in code units, positions count from 0. Up to 32 units are held in the object
-/// itself, so that reading and copying a name of ordinary length allocates nothing. Constant operations
-/// may run on several threads at a time, as may any operations on different objects.
-///
-/// Positions and counts that lie outside the text are cut to it; a negative count means "to the end". An
-/// argument may be the string that is changed. Narrow text is UTF-8: a byte that belongs to no well-formed
-/// character is read as U+FFFD, and half a surrogate pair is written as U+FFFD.
+/// - Lengths, counts and positions are in code units. Positions count from 0.
+/// - Positions and counts outside the text are clamped to it. A negative count means "to the end".
+/// - Narrow text (`const char*`) is UTF-8. When read, a byte that is no part of a well-formed character becomes U+FFFD;
+///   when written, half a surrogate pair becomes U+FFFD.
+/// - An argument can be the string that the operation changes.
+/// - A text of up to 32 code units is stored in the object: constructing or copying it allocates no memory.
+/// - Constant operations on one string can run on several threads at a time.
 class ZFX_PLATFORM_EXPORT ZFXUnicodeString {
 public:
-    /// Which occurrence is looked for.
+    /// The occurrence that a search returns: the first or the last.
     enum ZFXSearchMode { SearchForward = 1, SearchBackward = 2 };
-    /// Where a unit is taken away.
+    /// The places where Strip removes a character.
     enum ZFXStripMode { StripLeading = 1, StripTrailing = 2, StripBoth = 3, StripEverywhere = 4 };
 
-    /// The empty string.
+    /// Constructs an empty string.
     ZFXUnicodeString() noexcept { m_storage.inlined[0] = 0; }
-    /// A zero-terminated UTF-8 text; null gives the empty string.
+    /// Constructs a string from zero-terminated UTF-8. Null gives an empty string.
     ZFXUnicodeString(const char* text);
-    /// n times c.
+    /// Constructs a string of n times `c`.
     ZFXUnicodeString(const ZFXUnicodeChar& c, std::size_t n);
-    /// The units, copied.
+    /// Constructs a string from code units, which are copied.
     explicit ZFXUnicodeString(std::u16string_view units) : ZFXUnicodeString() { Assign(units); }
-    /// A text of its own.
+    /// Copies the text.
     ZFXUnicodeString(const ZFXUnicodeString& other) : ZFXUnicodeString() {
         if (other.m_length <= kInlineUnits && other.IsInline())
             CopyInline(other);
         else
             Assign(other.Units());
     }
-    /// Takes the text of `other`, which is empty afterwards.
+    /// Moves the text of `other`, which is empty afterwards.
     ZFXUnicodeString(ZFXUnicodeString&& other) noexcept { TakeFrom(other); }
     ~ZFXUnicodeString() {
         DropNarrow();
@@ -48,42 +48,42 @@ public:
             FreeHeap();
     }
 
-    /// As the copy.
+    /// Copies the text.
     ZFXUnicodeString& operator=(const ZFXUnicodeString& other);
-    /// As the move; moved to itself it stays.
+    /// Moves the text of `other`, which is empty afterwards. Does nothing if `other` is this string.
     ZFXUnicodeString& operator=(ZFXUnicodeString&& other) noexcept;
-    /// The text as the constructor reads it; may be its own narrow form.
+    /// Assigns zero-terminated UTF-8; null gives an empty text. `text` can be the result of this ConvertToChar.
     ZFXUnicodeString& operator=(const char* text);
 
-    /// The text becomes n in decimal. The format is "%d"; any other leaves the text as it is.
+    /// Sets the text to n in decimal. Does nothing if `format` is not "%d".
     void BuildFromNum(int n, const char* format);
-    /// The text becomes `count` code units read from `units`.
+    /// Sets the text to `count` code units read from `units`. The text is empty if `units` is null or `count` is not
+    /// positive.
     void BuildFromUCChar(const unsigned short* units, int count);
 
-    /// The length in units.
-    int GetLengthInChar() const noexcept { return m_length; }
-    /// Nonzero when the text is empty.
-    int IsNull() const noexcept { return m_length == 0; }
-    /// The code units, valid until the string changes.
-    std::u16string_view Units() const noexcept { return {Data(), static_cast<std::size_t>(m_length)}; }
+    /// Returns the number of code units.
+    [[nodiscard]] int GetLengthInChar() const noexcept { return m_length; }
+    /// Returns 1 if the text is empty, else 0.
+    [[nodiscard]] int IsNull() const noexcept { return m_length == 0; }
+    /// Returns the code units, valid until the string is changed or destroyed. [borrowed]
+    [[nodiscard]] std::u16string_view Units() const noexcept { return {Data(), static_cast<std::size_t>(m_length)}; }
 
-    /// Exact comparison, unit by unit; nonzero for true.
+    /// Compares unit by unit. Returns nonzero for true. Narrow text is converted first; null counts as empty.
+    /// @{
     int operator==(const ZFXUnicodeString& other) const noexcept;
-    /// The opposite.
     int operator!=(const ZFXUnicodeString& other) const noexcept { return !(*this == other); }
-    /// With the text as the constructor reads it.
     int operator==(const char* text) const noexcept;
-    /// The opposite.
     int operator!=(const char* text) const noexcept { return !(*this == text); }
-    /// Compare a narrow text on the left by content. Without these two operators, C++17 converts the string to
-    /// const char* and compares addresses.
+    /// @}
+    /// Compares a narrow text on the left by content. Without these two operators, C++17 would convert the string to
+    /// const char* and compare addresses.
     /// @{
     friend int operator==(const char* text, const ZFXUnicodeString& string) noexcept { return string == text; }
     friend int operator!=(const char* text, const ZFXUnicodeString& string) noexcept { return string != text; }
     /// @}
 
-    /// Strings have no order and no truth value: the conversion to const char* would order addresses, and every string
-    /// would be true. Order strings by Units(); test for an empty one with IsNull().
+    /// Strings have no order and no truth value. The conversion to const char* would compare addresses, and every
+    /// string would be true. Compare Units() to sort strings; call IsNull() to test for an empty one.
     /// @{
     friend bool operator<(const ZFXUnicodeString&, const ZFXUnicodeString&) = delete;
     friend bool operator<=(const ZFXUnicodeString&, const ZFXUnicodeString&) = delete;
@@ -95,11 +95,11 @@ public:
     explicit operator bool() const = delete;
     /// @}
 
-    /// 2 when the texts are identical, 1 when they are equal apart from letter case (Unicode simple case
-    /// folding), 0 otherwise.
-    int Compare(const ZFXUnicodeString& other) const noexcept {
+    /// Compares with `other`. Letter case is that of Unicode simple case folding, independent of the process locale.
+    /// Returns 2 if the texts are identical, 1 if they are equal apart from letter case, 0 if they differ.
+    [[nodiscard]] int Compare(const ZFXUnicodeString& other) const noexcept {
         if (m_length != other.m_length)
-            return 0; // folding keeps the number of units
+            return 0; // folding does not change the length
         if (m_length == 0)
             return 2;
         const char16_t* left = Data();
@@ -110,50 +110,57 @@ public:
         return CompareUnits(left, right, m_length);
     }
 
-    /// The `length` units from `start` on.
-    ZFXUnicodeString SubString(int start, int length) const;
-    /// The position of `sub` at or after `start` (forward: the first; backward: the last), or -1. The empty
-    /// text is found at `start` when searching forward, at the end when searching backward.
-    int SearchSubString(const ZFXUnicodeString& sub, int start, ZFXSearchMode mode) const noexcept;
-    /// The unit at position i; U+0000 outside the text.
-    ZFXUnicodeChar operator[](std::size_t i) const noexcept {
+    /// Returns the `length` code units from `start` on.
+    [[nodiscard]] ZFXUnicodeString SubString(int start, int length) const;
+    /// Returns the position of the first (SearchForward) or last (SearchBackward) occurrence of `sub` at or after
+    /// `start`, or -1 if there is none. An empty `sub` is found at `start` in a forward search, at the end in a
+    /// backward search.
+    [[nodiscard]] int SearchSubString(const ZFXUnicodeString& sub, int start, ZFXSearchMode mode) const noexcept;
+    /// Returns the code unit at position i, or U+0000 outside the text.
+    [[nodiscard]] ZFXUnicodeChar operator[](std::size_t i) const noexcept {
         return ZFXUnicodeChar::FromUnit(i < static_cast<std::size_t>(m_length) ? Data()[i] : char16_t{0});
     }
 
-    /// The text in UTF-8, zero-terminated (a U+0000 within ends it for its readers); valid until the string is
-    /// changed or destroyed.
+    /// Returns the text as zero-terminated UTF-8, valid until the string is changed or destroyed. A U+0000 in the text
+    /// ends it early. [borrowed]
+    /// @{
     const char* ConvertToChar() const;
-    /// As ConvertToChar.
     operator const char*() const { return ConvertToChar(); }
-    /// Reads a leading decimal integer in the manner of "%d": ASCII white space, one sign, digits; what
-    /// follows is ignored. Returns 1 and writes *n, or returns 0 and leaves *n when there is no number, when
-    /// it does not fit an int, or when the format is not "%d".
+    /// @}
+    /// Parses the decimal integer at the start of the text: ASCII white space, one optional sign, digits. The rest is
+    /// ignored. Sets *n and returns 1. Returns 0, with *n unchanged, in these cases:
+    /// - the text starts with no number,
+    /// - the number does not fit an int,
+    /// - `format` is not "%d",
+    /// - `n` is null.
     int ConvertToNum(int* n, const char* format) const noexcept;
 
-    /// The text without the space U+0020.
-    ZFXUnicodeString Strip(ZFXStripMode mode) const { return Strip(mode, ' '); }
-    /// The text without `c`: without the run of it at an end or both, or wherever it stands.
-    ZFXUnicodeString Strip(ZFXStripMode mode, const ZFXUnicodeChar& c) const;
-    /// Both texts, this one first.
-    ZFXUnicodeString operator+(const ZFXUnicodeString& other) const;
+    /// Returns the text without the spaces U+0020 at the places that `mode` selects.
+    [[nodiscard]] ZFXUnicodeString Strip(ZFXStripMode mode) const { return Strip(mode, ' '); }
+    /// Returns the text without `c` at the places that `mode` selects: all of it at the start, at the end, at both, or
+    /// everywhere.
+    [[nodiscard]] ZFXUnicodeString Strip(ZFXStripMode mode, const ZFXUnicodeChar& c) const;
+    /// Returns this text followed by `other`.
+    [[nodiscard]] ZFXUnicodeString operator+(const ZFXUnicodeString& other) const;
 
-    /// Puts the other behind this text and returns this string.
+    /// Appends `other`. Returns this string.
     ZFXUnicodeString& Append(const ZFXUnicodeString& other);
-    /// Replaces every occurrence from left to right; replaced text is not searched again. An empty `old`
-    /// changes nothing.
+    /// Replaces every occurrence of `old` by `text`, from left to right. Inserted text is not searched. Does nothing if
+    /// `old` is empty.
     void ReplaceAll(const ZFXUnicodeString& old, const ZFXUnicodeString& text);
-    /// Replaces the first occurrence and returns 1; returns 0 when there is none or `old` is empty.
+    /// Replaces the first occurrence of `old` by `text`. Returns 1, or 0 if there is none or `old` is empty.
     int ReplaceSubString(const ZFXUnicodeString& old, const ZFXUnicodeString& text);
-    /// Replaces `count` units from `start` on; always 1.
+    /// Replaces `count` code units from `start` on by `text`. Returns 1.
     int ReplaceSubString(int start, int count, const ZFXUnicodeString& text);
-    /// Takes `count` units from `start` on away.
+    /// Removes `count` code units from `start` on.
     void Remove(int start, int count);
-    /// Keeps the first n units; a longer or negative n changes nothing.
+    /// Shortens the text to its first n code units. Does nothing if n is negative or not below the length.
     void Resize(int n);
-    /// Unicode simple case mappings, character by character: the length stays.
+    /// Converts all letters by the Unicode simple case mappings. The length does not change.
+    /// @{
     void ToUpper();
-    /// The same the other way.
     void ToLower();
+    /// @}
 
 private:
     static constexpr int kInlineUnits = 32;
@@ -166,7 +173,7 @@ private:
     const char16_t* Data() const noexcept { return IsInline() ? m_storage.inlined : m_storage.heap; }
     char16_t* Data() noexcept { return IsInline() ? m_storage.inlined : m_storage.heap; }
     void CopyInline(const ZFXUnicodeString& other) noexcept {
-        // The whole array in one go is cheaper than asking how much of it is in use.
+        // Copying the whole array is faster than copying the part in use.
         std::memcpy(&m_storage, &other.m_storage, sizeof m_storage);
         m_length = other.m_length;
     }
@@ -185,6 +192,6 @@ private:
     Storage m_storage;
     std::int32_t m_length = 0;
     std::int32_t m_capacity = kInlineUnits;
-    /// The UTF-8 form, made when it is first asked for; dropped when the text changes.
+    /// The UTF-8 form: created by the first ConvertToChar, deleted when the text changes.
     mutable std::atomic<char*> m_narrow{nullptr};
 };
