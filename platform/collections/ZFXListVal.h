@@ -7,52 +7,58 @@
 #include <utility>
 #include <vector>
 
-/// The scope of the enumeration that all lists use.
+/// The scope of the enumeration that RemoveAll takes.
 class ZFXCollec {
 public:
-    /// What happens to a list's storage when its elements are removed: it is freed.
+    /// The treatment of the storage when all elements are removed: it is freed.
     enum MemoryHandling { ReleaseAllocation = 1 };
 };
 
 /// An ordered list of values, with indexes from 1 to Size(). Elements are in the order in which they were appended, and
 /// duplicates are allowed. An element cannot be changed in place. A copy contains copies of the elements: handles are
 /// copied, the objects that they refer to are not.
+///
+/// Use Append to fill a list, and an index or a range-based loop to read it:
+///
+///     for (int i = 1; i <= list.Size(); ++i)
+///         Print(list[i]);
 template <class Element>
 class ZFXListVal {
 public:
     /// Returns the number of elements.
-    int Size() const noexcept { return static_cast<int>(m_elements.size()); }
+    [[nodiscard]] int Size() const noexcept { return static_cast<int>(m_elements.size()); }
 
-    /// Returns the element at index i, or an empty element if i is not in 1 to Size().
-    const Element& operator[](int i) const {
+    /// Returns the element at index i, or an empty element if i is not in 1 to Size(). [borrowed]
+    [[nodiscard]] const Element& operator[](int i) const {
         static const Element kEmpty{};
         return IsIndex(i) ? m_elements[static_cast<std::size_t>(i - 1)] : kEmpty;
     }
 
     /// Returns an iterator to the first element. Elements can be moved out of a list through it.
     /// @{
-    auto begin() const noexcept { return m_elements.begin(); }
-    auto begin() noexcept { return m_elements.begin(); }
+    [[nodiscard]] auto begin() const noexcept { return m_elements.begin(); }
+    [[nodiscard]] auto begin() noexcept { return m_elements.begin(); }
     /// @}
     /// Returns an iterator past the last element.
     /// @{
-    auto end() const noexcept { return m_elements.end(); }
-    auto end() noexcept { return m_elements.end(); }
+    [[nodiscard]] auto end() const noexcept { return m_elements.end(); }
+    [[nodiscard]] auto end() noexcept { return m_elements.end(); }
     /// @}
 
     /// Appends a copy of x.
     void Append(const Element& x) { m_elements.push_back(x); }
-    /// Appends x.
+    /// Appends x by moving it.
     void Append(Element&& x) { m_elements.push_back(std::move(x)); }
 
-    /// Returns the index of the first element equal to x at or after index `from`, or 0 if there is none.
-    int Locate(const Element& x, int from = 1) const {
+    /// Returns the index of the first element equal to x at or after index `from`, or 0 if there is none. A `from`
+    /// below 1 counts as 1.
+    [[nodiscard]] int Locate(const Element& x, int from = 1) const {
         const auto start = m_elements.begin() + (std::clamp(from, 1, Size() + 1) - 1);
         const auto found = std::find(start, m_elements.end(), x);
         return found == m_elements.end() ? 0 : static_cast<int>(found - m_elements.begin()) + 1;
     }
     /// Returns the number of elements equal to x.
-    int NbOccur(const Element& x) const {
+    [[nodiscard]] int NbOccur(const Element& x) const {
         return static_cast<int>(std::count(m_elements.begin(), m_elements.end(), x));
     }
     /// Removes the element at index i; the later elements move up by one. Does nothing if i is not in 1 to Size().

@@ -22,7 +22,7 @@ std::filesystem::path FolderBesideThisLibrary() {
     const auto library = ZFXLibraryFileAt(reinterpret_cast<const void*>(&Find));
     if (library.empty())
         return "msgcatalog";
-    std::error_code ignored; // without a current folder the path stays as it is
+    std::error_code ignored; // if there is no current folder, the path stays relative
     return std::filesystem::absolute(library, ignored).parent_path() / "msgcatalog";
 }
 
@@ -46,37 +46,37 @@ Texts Read(const std::filesystem::path& file) {
     return texts;
 }
 
-/// Messages are asked for by any thread that got a refusal.
+/// The settings and the texts that have been read. Any thread can request a message.
 struct Catalogs {
     std::mutex guard;
     std::filesystem::path folder = FolderBesideThisLibrary();
-    std::string language;               ///< empty: English
-    std::map<std::string, Texts> known; ///< by the name of the file
+    std::string language;                ///< empty: English
+    std::map<std::string, Texts> loaded; ///< by the name of the file without its ending
 
     std::optional<ZFXUnicodeString> Find(const std::string& file, std::string_view key) {
-        auto found = known.find(file);
-        if (found == known.end())
-            found = known.emplace(file, Read(folder / Utf8::ToPath(file + kEnding))).first;
+        auto found = loaded.find(file);
+        if (found == loaded.end())
+            found = loaded.emplace(file, Read(folder / Utf8::ToPath(file + kEnding))).first;
         const auto text = found->second.find(key);
         return text == found->second.end() ? std::nullopt : std::optional(text->second);
     }
 };
 
 Catalogs& State() {
-    static auto* const state = new Catalogs; // refusals may be read until the process ends
+    static auto* const state = new Catalogs; // never destroyed: messages can be requested until the process ends
     return *state;
 }
 
-/// Made at load: the library's path may be relative to the folder that is current then.
+/// Created when the library is loaded: its path can be relative to the folder that is current then.
 [[maybe_unused]] const Catalogs& stateAtLoad = State();
 
-/// The language in the name of a translation, without its ending; empty for that of an English catalog.
+/// Returns the language in the name of a translation without its ending, or an empty text for an English catalog.
 std::string LanguageIn(const std::string& file) {
     const auto underscore = file.rfind('_');
     return underscore == std::string::npos ? std::string() : file.substr(underscore + 1);
 }
 
-/// "de" of "de-AT.UTF-8"; empty for English.
+/// Returns the language code in lower case, such as "de" for "de-AT.UTF-8", or an empty text for English.
 std::string LanguagePart(const std::string& language) {
     std::string part = language.substr(0, language.find_first_of("_-.@"));
     std::transform(part.begin(), part.end(), part.begin(),
@@ -99,24 +99,24 @@ void SetFolder(const std::string& folder) {
     Catalogs& state = State();
     const std::lock_guard lock(state.guard);
     state.folder = Utf8::ToPath(folder);
-    state.known.clear();
+    state.loaded.clear();
 }
 
 bool SetLanguage(const std::string& language) {
     std::string part = LanguagePart(language);
-    const std::vector<std::string> there = Languages();
-    const bool isThere = part.empty() || std::find(there.begin(), there.end(), part) != there.end();
+    const std::vector<std::string> all = Languages();
+    const bool isAvailable = part.empty() || std::find(all.begin(), all.end(), part) != all.end();
     Catalogs& state = State();
     const std::lock_guard lock(state.guard);
-    state.language = isThere ? std::move(part) : std::string();
-    return isThere;
+    state.language = isAvailable ? std::move(part) : std::string();
+    return isAvailable;
 }
 
 std::vector<std::string> Languages() {
     Catalogs& state = State();
     const std::lock_guard lock(state.guard);
     std::set<std::string> languages{"en"};
-    std::error_code ignored; // without a folder there is nothing but English
+    std::error_code ignored; // a folder that cannot be read has no translations
     for (std::filesystem::directory_iterator file(state.folder, ignored), end; file != end; file.increment(ignored))
         if (file->path().extension() == kEnding)
             if (std::string language = LanguageIn(file->path().stem().string()); !language.empty())

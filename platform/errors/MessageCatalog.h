@@ -8,30 +8,35 @@
 #include <string_view>
 #include <vector>
 
-/// The texts behind message ids: one UTF-8 file a catalog, named after it with the ending ".msg", and beside it
-/// its translations, such as "QVRNameUtility_de.msg"; a catalog's own name has no underscore.
+/// The texts of messages, by message id.
 ///
-/// A line is `key = text`, where a key is a message id followed by ".Request", ".Diagnostic" or ".Advice";
-/// lines that are blank or begin with "#" are skipped. The files lie in the folder "msgcatalog" beside the
-/// platform's shared library unless a host names another one. A file is read once, when its first text is
-/// asked for. Errors keep no texts: one that was raised before the language changed speaks the new one.
+/// A catalog is one UTF-8 file: its name with the ending ".msg". A translation is a file beside it with the language in
+/// its name, such as "QVRNameUtility_de.msg". The name of a catalog contains no underscore.
+///
+/// A line is `key = text`. A key is a message id followed by ".Request", ".Diagnostic" or ".Advice". Blank lines and
+/// lines that start with "#" are skipped. A file that does not exist or cannot be read has no texts.
+///
+/// The files are in the folder "msgcatalog" beside the platform's shared library, unless a host sets another folder.
+/// Each file is read once, at the first request for one of its texts.
 namespace MessageCatalog {
 
-/// The text of a key in the language that was set, or in English where the translation lacks it; nothing
-/// when the English catalog lacks it too.
-ZFX_PLATFORM_EXPORT std::optional<ZFXUnicodeString> Find(const std::string& catalog, std::string_view key);
+/// Returns the text of a key in the language that is set, or in English if the translation lacks it. Returns nothing if
+/// the English catalog lacks it too.
+[[nodiscard]] ZFX_PLATFORM_EXPORT std::optional<ZFXUnicodeString> Find(const std::string& catalog,
+                                                                       std::string_view key);
 
-/// Where the catalogs lie from now on, in UTF-8; those read already are forgotten. To be called before other
-/// threads run.
+/// Sets the folder of the catalogs. `folder` is UTF-8. Discards all texts that have been read.
+/// Call it before other threads run.
 ZFX_PLATFORM_EXPORT void SetFolder(const std::string& folder);
 
-/// The language of all texts of this process from now on, as its code alone or with a region, an encoding or
-/// both: "de", "de_AT", "de-AT.UTF-8". Empty, "en", "C" and "POSIX" stand for English, and so does a language
-/// that no catalog in the folder is translated into: then false. Until it is called texts are English; the
-/// process locale is never asked.
+/// Sets the language of all texts of the process. Texts are English until the first call; the process locale has no
+/// effect. Errors raised before the call are reported in the new language too.
+/// `language` is a language code, alone or with a region, an encoding or both: "de", "de_AT", "de-AT.UTF-8". Letter
+/// case has no effect. An empty text, "en", "C" and "POSIX" mean English. Returns true if the language is English or a
+/// catalog in the folder is translated into it. Otherwise returns false, and the language is English.
 ZFX_PLATFORM_EXPORT bool SetLanguage(const std::string& language);
 
-/// The codes of the languages that there are texts in, in alphabetic order, "en" among them.
-ZFX_PLATFORM_EXPORT std::vector<std::string> Languages();
+/// Returns the codes of all languages that a catalog in the folder is translated into, and "en", in alphabetical order.
+[[nodiscard]] ZFX_PLATFORM_EXPORT std::vector<std::string> Languages();
 
 } // namespace MessageCatalog

@@ -5,6 +5,7 @@
 
 #include <array>
 #include <atomic>
+#include <cassert>
 #include <cstdarg>
 #include <functional>
 #include <iostream>
@@ -13,7 +14,7 @@
 
 namespace {
 
-/// The last errors of one thread, the oldest overwritten first.
+/// The last kRegistered errors of one thread, in a ring: a new error replaces the oldest.
 class Registry {
 public:
     Registry() = default;
@@ -22,17 +23,18 @@ public:
     ~Registry() {
         for (ZFXError* error : m_errors)
             Free(error);
-        ended = true;
+        hasEnded = true;
     }
 
-    /// The thread's registry is gone: objects that outlive it may still be refused something.
-    static thread_local bool ended;
+    /// True once the registry of this thread is destroyed. Objects that outlive it can still raise errors.
+    static thread_local bool hasEnded;
 
-    void Keep(ZFXError* error) {
-        ZFXError*& place = m_errors[m_next];
+    void Add(ZFXError* error) {
+        assert(error != nullptr);
+        ZFXError*& slot = m_errors[m_next];
         m_next = (m_next + 1) % m_errors.size();
-        Free(place);
-        place = error;
+        Free(slot);
+        slot = error;
     }
     ZFXError* Find(HRESULT code) const noexcept {
         for (ZFXError* error : m_errors)
@@ -51,26 +53,28 @@ private:
     std::size_t m_next = 0;
 };
 
-thread_local bool Registry::ended = false;
+thread_local bool Registry::hasEnded = false;
 
-/// The registry of this thread, or null once it has ended.
-Registry* ThisThreadsErrors() {
-    if (Registry::ended)
+/// Returns the registry of this thread, or null once it is destroyed.
+Registry* ThreadRegistry() {
+    if (Registry::hasEnded)
         return nullptr;
     thread_local Registry registry;
     return &registry;
 }
 
-/// A code of its own for each error of the process, so that another thread's finds nothing here.
+/// Returns a code that no other error of the process has: the code of another thread's error finds nothing here.
 HRESULT NextCode() noexcept {
     static std::atomic<std::uint32_t> number{0};
-    // Failure bit and customer bit: apart from every code that a system defines, E_FAIL among them.
+    // With failure bit and customer bit, it differs from all codes that a system defines, including E_FAIL.
     return static_cast<HRESULT>(0xA0000000U | (number.fetch_add(1, std::memory_order_relaxed) % 0x0FFFFFFFU + 1));
 }
 
 const char* OrEmpty(const char* text) noexcept { return text == nullptr ? "" : text; }
 
+/// Returns copies of `count` strings: `first` and then those in `rest`. Null gives an empty string.
 std::vector<ZFXUnicodeString> Collect(int count, ZFXUnicodeString* first, va_list rest) {
+    assert(count >= 0);
     std::vector<ZFXUnicodeString> parameters;
     for (int i = 0; i < count; ++i) {
         const ZFXUnicodeString* parameter = i == 0 ? first : va_arg(rest, ZFXUnicodeString*);
@@ -86,7 +90,7 @@ std::size_t PlaceholderNumber(std::u16string_view text) noexcept {
     return isPlaceholder ? static_cast<std::size_t>(text[2] - u'0') : 0;
 }
 
-/// Replaces placeholders by their parameters in one pass, so that a parameter may contain "/P1". A placeholder without
+/// Replaces placeholders by their parameters in one pass, so that a parameter can contain "/P1". A placeholder without
 /// a parameter stays.
 ZFXUnicodeString Substitute(std::u16string_view text, const std::vector<ZFXUnicodeString>& parameters) {
     std::u16string result;
@@ -120,7 +124,7 @@ HRESULT ZFXError::GetReturn(int type, ZFXError* error, ZFXBaseUnknown* /*object*
                             int sourceLine) {
     if (error == nullptr)
         return type == ZFXErrorTypeSuccess ? S_OK : E_FAIL;
-    Registry* registry = ThisThreadsErrors();
+    Registry* registry = ThreadRegistry();
     if (registry == nullptr) {
         error->Release();
         return E_FAIL;
@@ -128,12 +132,12 @@ HRESULT ZFXError::GetReturn(int type, ZFXError* error, ZFXBaseUnknown* /*object*
     error->SetSourceFileName(sourceFile);
     error->SetSourceLineNumber(sourceLine);
     error->m_registeredCode = NextCode();
-    registry->Keep(error);
+    registry->Add(error);
     return error->m_registeredCode;
 }
 
 ZFXError* ZFXError::ZFXGetLastError(HRESULT code, ZFXBaseUnknown* /*object*/) {
-    const Registry* registry = ThisThreadsErrors();
+    const Registry* registry = ThreadRegistry();
     return registry == nullptr ? nullptr : registry->Find(code);
 }
 

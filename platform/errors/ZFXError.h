@@ -7,81 +7,96 @@
 #include <string>
 #include <vector>
 
-/// The two kinds of report that this platform knows.
+/// The two kinds of report of this platform.
 enum ZFXErrorType { ZFXErrorTypeSuccess = 1, ZFXErrorTypeInput = 2 };
 
-/// The name of an error class and of the one it derives from.
+/// The name of an error class, with its base class.
 struct ZFXErrorTable {
     /// The class. [borrowed]
     const char* errorClass;
-    /// The one it derives from, null for none. [borrowed]
+    /// The base class, or null. [borrowed]
     const ZFXErrorTable* base;
 };
 
-/// A failure that a user must understand: a message id in a message catalog, its parameters, where it was
-/// raised, and the code under which the platform registered it.
+/// A failure with a message for the user: a message id and its catalog, the parameters of the message, the source
+/// position that raised it, and the code under which it is registered.
+///
+/// Texts are looked up when they are requested, in the language that is set then (MessageCatalog::SetLanguage).
 class ZFX_PLATFORM_EXPORT ZFXError : public ZFXBaseUnknown {
 public:
-    /// Both texts are copied; null counts as empty.
+    /// Creates an error with one reference, not registered. Both texts are copied; null counts as empty.
     ZFXError(const char* msgId, const char* catalog);
     ~ZFXError() override;
 
-    /// The meta class. [borrowed]
+    /// Returns the meta class. [borrowed]
     static ZFXMetaClass* MetaObject();
     ZFXMetaClass* GetMetaObject() const override;
 
-    /// Registers `error`, of whatever type, for the calling thread and returns the code to hand back, which is
-    /// negative, not E_FAIL and no other error's. The registry takes over the caller's reference; it keeps the last
-    /// kRegistered errors of a thread, frees the oldest, and all of them when the thread ends (E_FAIL after that).
-    /// Without an error: S_OK for type 1, else E_FAIL. `object` is for a host's own records.
-    static HRESULT GetReturn(int type, ZFXError* error, ZFXBaseUnknown* object, const char* sourceFile, int sourceLine);
-    /// The error that this thread registered under the code, or null. [borrowed] It may be gone after the
-    /// next GetReturn.
-    static ZFXError* ZFXGetLastError(HRESULT code, ZFXBaseUnknown* object);
-    /// How many errors of a thread are kept.
+    /// Registers `error` for the calling thread and takes over the caller's reference. Returns the code to return to
+    /// the caller: negative, not E_FAIL, and of no other error of the process.
+    ///
+    /// The registry keeps the last kRegistered errors of each thread and releases the oldest when a further error is
+    /// registered. It releases all of them when the thread ends.
+    ///
+    /// Other results:
+    /// - S_OK if `error` is null and `type` is ZFXErrorTypeSuccess;
+    /// - E_FAIL if `error` is null and `type` is any other value;
+    /// - E_FAIL if the registry of the thread is already destroyed; `error` is released.
+    /// @param type        a ZFXErrorType; it only matters if `error` is null
+    /// @param error       the error, or null
+    /// @param object      for a host's own records; ignored
+    /// @param sourceFile  the source file that raised the error; null counts as empty
+    /// @param sourceLine  the line in it, from 1
+    [[nodiscard]] static HRESULT GetReturn(int type, ZFXError* error, ZFXBaseUnknown* object, const char* sourceFile,
+                                           int sourceLine);
+    /// Returns the error that this thread registered under the code, or null if there is none. The error is valid until
+    /// the next GetReturn of this thread. `object` is ignored. [borrowed]
+    [[nodiscard]] static ZFXError* ZFXGetLastError(HRESULT code, ZFXBaseUnknown* object);
+    /// The number of errors that the registry of a thread keeps.
     static constexpr int kRegistered = 32;
 
-    /// The code that GetReturn gave; 0 before that.
+    /// Returns the code that GetReturn gave this error, or 0 if it is not registered.
     virtual int GetId() const;
-    /// The message id. [borrowed]
+    /// Returns the message id. [borrowed]
     virtual const char* GetMsgId() const;
-    /// The catalog's name. [borrowed]
+    /// Returns the name of the catalog. [borrowed]
     virtual const char* GetMsgCatalog() const;
-    /// Where it was raised; empty before that. [borrowed]
+    /// Returns the source file that raised the error, or an empty text. [borrowed]
     virtual const char* GetSourceFileName() const;
-    /// Copied; null counts as empty.
+    /// Sets the source file. The text is copied; null counts as empty.
     virtual void SetSourceFileName(const char* file);
-    /// 0 before it was raised.
+    /// Returns the source line that raised the error, from 1, or 0 if it is not set.
     virtual int GetSourceLineNumber() const;
-    /// Counted from 1.
+    /// Sets the source line, from 1.
     virtual void SetSourceLineNumber(int line);
-    /// The message in UTF-8; valid until it is asked for again.
+    /// Returns GetNLSMessage as zero-terminated UTF-8, valid until the next call for this error. [borrowed]
     virtual const char* GetMessageText();
-    /// The whole message for the user: request, diagnostic and advice, each as the catalog gives it with the
-    /// parameters set in; the message id where the catalog has nothing. In the language that is set when it is asked
-    /// for, not when the error was raised.
+    /// Returns the message for the user: request, diagnostic and advice, separated by one space; those that the catalog
+    /// lacks are omitted. Returns the message id if the catalog has none of them.
     virtual ZFXUnicodeString GetNLSMessage();
-    /// What was asked for; empty where the catalog has nothing.
+    /// Returns the text of the request: what the user wanted. Empty if the catalog has none.
     virtual ZFXUnicodeString GetNLSRequest();
-    /// What is wrong; empty likewise.
+    /// Returns the text of the diagnostic: what is wrong. Empty if the catalog has none.
     virtual ZFXUnicodeString GetNLSDiagnostic();
-    /// What to do; empty likewise.
+    /// Returns the text of the advice: what to do. Empty if the catalog has none.
     virtual ZFXUnicodeString GetNLSAdvice();
-    /// Source file and line, with a colon between them.
+    /// Returns the source file and line, separated by a colon.
     virtual ZFXUnicodeString GetNLSSource();
-    /// Empty: there is no help file.
+    /// Returns an empty text: there is no help file.
     virtual ZFXUnicodeString GetNLSHelpFile();
-    /// 0: there is no help file.
+    /// Returns 0: there is no help file.
     virtual int GetNLSHelpContext();
-    /// Writes the message on standard error.
+    /// Writes the message and a line feed to standard error.
     virtual void Display();
-    /// Writes the class, the ids and the source position.
+    /// Writes one line with the class, the catalog, the message id and the source position to `out`.
     virtual void PrintHistory(std::ostream& out) const;
-    /// Throws a reference to this error, for a host that reports that way.
+    /// Sets the source position and throws a std::reference_wrapper of this error, for a host that reports errors by
+    /// exceptions.
     [[noreturn]] virtual void Throw(const char* sourceFile, int sourceLine);
     /// Sets the parameters that replace "/P1" to "/P9" in the request, the diagnostic and the advice. A placeholder
-    /// inside a parameter is not replaced.
-    /// `count` is the number of addresses, beginning with `first`. The strings are copied; null counts as empty.
+    /// without a parameter stays; a placeholder inside a parameter is not replaced.
+    /// `count` is the number of addresses that follow, beginning with `first`. The strings are copied; null counts as
+    /// an empty string.
     virtual void SetNLSParameters(int count, ZFXUnicodeString* first, ...);
     /// Sets the parameters of the request only.
     virtual void SetNLSRequestParams(int count, ZFXUnicodeString* first, ...);
@@ -89,30 +104,31 @@ public:
     virtual void SetNLSDiagnosticParams(int count, ZFXUnicodeString* first, ...);
     /// Sets the parameters of the advice only.
     virtual void SetNLSAdviceParams(int count, ZFXUnicodeString* first, ...);
-    /// For a host's own records.
+    /// Sets a text for a host's own records.
     virtual void SetSourceContext(const ZFXUnicodeString& context);
-    /// What SetSourceContext was given.
+    /// Returns the text that SetSourceContext has set, or an empty text.
     virtual ZFXUnicodeString GetSourceContext() const;
-    /// What SetReturnCode was given; 0 before that.
+    /// Returns the code that SetReturnCode has set, or 0.
     virtual HRESULT GetReturnCode() const;
-    /// A code for the caller beside the registered one, such as -100 of a refused name.
+    /// Sets a code for the caller beside the registered one, such as -100 for a name with illegal characters.
     virtual void SetReturnCode(HRESULT code);
-    /// A ZFXErrorType; 0 before it is set.
+    /// Returns the kind of report that SetInformationOnErrorType has set, or 0.
     virtual int GetInformationOnErrorType() const;
-    /// Tells what kind of report it is.
+    /// Sets the kind of report.
     virtual void SetInformationOnErrorType(ZFXErrorType type);
 
-    /// The diagnostic's parameters, in order. [borrowed]
+    /// Returns the parameters of the diagnostic, in order. [borrowed]
     const std::vector<ZFXUnicodeString>& DiagnosticParameters() const noexcept { return m_parameters[Diagnostic]; }
-    /// The code that GetReturn gave for this error; 0 before that.
+    /// Returns the code that GetReturn gave this error, or 0 if it is not registered.
     HRESULT RegisteredCode() const noexcept { return m_registeredCode; }
 
 protected:
-    /// All but the ids and the registered code.
+    /// Copies everything from `other` except the ids and the registered code.
     void CopyContentOf(const ZFXError& other);
 
 private:
     enum Section { Request, Diagnostic, Advice, SectionCount };
+    /// Returns the text of the section with its parameters, or an empty text if the catalog has none.
     ZFXUnicodeString Text(Section section) const;
 
     std::string m_msgId;
@@ -127,18 +143,18 @@ private:
     int m_type = 0;
 };
 
-/// An error in what a user gave.
+/// An error in the user's input.
 class ZFX_PLATFORM_EXPORT ZFXInputError : public ZFXError {
 public:
-    /// As ZFXError.
+    /// Creates an error with one reference, not registered. Both texts are copied; null counts as empty.
     ZFXInputError(const char* msgId, const char* catalog);
     ~ZFXInputError() override;
 
-    /// The meta class. [borrowed]
+    /// Returns the meta class. [borrowed]
     static ZFXMetaClass* MetaObject();
     ZFXMetaClass* GetMetaObject() const override;
-    /// A new error of the same content, not registered. [new reference]
-    virtual ZFXError* CloneSelf() const;
-    /// Its class, with the one it derives from. [borrowed]
+    /// Returns a copy of this error that is not registered, or null if there is no memory. [new reference]
+    [[nodiscard]] virtual ZFXError* CloneSelf() const;
+    /// Returns the name of the class with its base class. [borrowed]
     virtual const ZFXErrorTable* GetErrorTable() const;
 };

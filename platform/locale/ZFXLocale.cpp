@@ -7,12 +7,12 @@
 namespace {
 
 struct Row {
-    std::string_view name; // as a message locale begins
+    std::string_view name; // of the message locale, without encoding and variant
     LCID id;
 };
 
 constexpr LCID kEnglishUnitedStates = 0x0409;
-constexpr LCID kWithoutIdentifier = 0x1000;
+constexpr LCID kNoIdentifier = 0x1000;
 
 constexpr Row kEnglishLocales[] = {
     {"en_US", kEnglishUnitedStates},
@@ -35,34 +35,35 @@ struct Locales {
     HKL input;
 };
 
-std::optional<Locales>& Chosen() {
-    static std::optional<Locales> chosen;
-    return chosen;
+/// The values that a host has set, if any.
+std::optional<Locales>& HostLocales() {
+    static std::optional<Locales> locales;
+    return locales;
 }
 
 LCID MessageLocale() {
     const char* current = std::setlocale(LC_MESSAGES, nullptr);
     const std::string_view full(current == nullptr ? "C" : current);
-    const std::string_view name = full.substr(0, full.find_first_of(".@")); // without encoding and variant
+    const std::string_view name = full.substr(0, full.find_first_of(".@"));
     if (name == "C" || name == "POSIX")
         return kEnglishUnitedStates;
     for (const Row& row : kEnglishLocales)
         if (row.name == name)
             return row.id;
-    return kWithoutIdentifier;
+    return kNoIdentifier;
 }
 
 } // namespace
 
-LCID GetUserDefaultLCID() { return Chosen() ? Chosen()->user : MessageLocale(); }
+LCID GetUserDefaultLCID() { return HostLocales() ? HostLocales()->user : MessageLocale(); }
 
 HKL GetKeyboardLayout(std::uint32_t /*thread*/) {
-    if (Chosen())
-        return Chosen()->input;
+    if (HostLocales())
+        return HostLocales()->input;
     const HKL language = MessageLocale();
     return language << 16 | language;
 }
 
-void ZFXSetLocales(LCID userLocale, HKL inputLocale) { Chosen() = Locales{userLocale, inputLocale}; }
+void ZFXSetLocales(LCID userLocale, HKL inputLocale) { HostLocales() = Locales{userLocale, inputLocale}; }
 
-void ZFXFollowMessageLocale() { Chosen().reset(); }
+void ZFXFollowMessageLocale() { HostLocales().reset(); }
