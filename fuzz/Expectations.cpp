@@ -5,6 +5,7 @@
 #include <cstdio>
 #include <cstdlib>
 #include <iostream>
+#include <tuple>
 
 namespace {
 
@@ -36,7 +37,7 @@ void CountOperations(int count) noexcept { operations += static_cast<unsigned lo
 
 void OverwriteRegisteredErrors() {
     for (int i = 0; i < ZFXError::kRegistered; ++i)
-        std::ignore = ZFXError::GetReturn(ZFXErrorTypeInput, new ZFXInputError("", ""), nullptr, "", 0);;
+        std::ignore = ZFXError::GetReturn(ZFXErrorTypeInput, new ZFXInputError("", ""), nullptr, "", 0);
 }
 
 void ExpectTrue(bool condition, const char* what) {

@@ -1,6 +1,7 @@
 #include "support/Results.h"
 
 #include "errors/MessageCatalog.h"
+#include "object-model/ZFXHandle.h"
 #include "text/Utf8Path.h"
 
 #include <gtest/gtest.h>
@@ -9,80 +10,227 @@
 #include <functional>
 #include <thread>
 
+#ifdef __linux__
+#include <unistd.h>
+#endif
+
 namespace {
+
+using Error = ZFXHandle<ZFXError>;
 
 HRESULT Raise(const char* id) {
     return ZFXError::GetReturn(ZFXErrorTypeInput, new ZFXInputError(id, "Tests"), nullptr, "File.cpp", 7);
 }
 
-TEST(Error, IsFoundUnderItsOwnCodeUntilManyOthersCame) {
+TEST(Error, IsFoundUnderACodeOfItsOwn) {
     const HRESULT first = Raise("First");
     const HRESULT second = Raise("Second");
     EXPECT_LT(first, 0);
     EXPECT_NE(first, E_FAIL);
     EXPECT_EQ(ResultText(first), "First");
     EXPECT_EQ(ResultText(second), "Second");
+    EXPECT_EQ(ZFXError::ZFXGetLastError(first, nullptr)->GetId(), first);
     EXPECT_EQ(ZFXError::ZFXGetLastError(E_FAIL, nullptr), nullptr);
-    ZFXError* error = ZFXError::ZFXGetLastError(first, nullptr);
-    EXPECT_STREQ(error->GetSourceFileName(), "File.cpp");
-    EXPECT_EQ(error->GetSourceLineNumber(), 7);
-    EXPECT_TRUE(error->IsAKindOf("ZFXInputError") && error->IsAKindOf("ZFXError"));
+}
+
+TEST(Error, IsNotFoundFromAnotherThread) {
+    const HRESULT code = Raise("Here");
     std::thread([&] {
         EXPECT_EQ(ResultText(Raise("Elsewhere")), "Elsewhere");
-        EXPECT_EQ(ZFXError::ZFXGetLastError(first, nullptr), nullptr);
+        EXPECT_EQ(ZFXError::ZFXGetLastError(code, nullptr), nullptr);
     }).join();
+}
+
+TEST(Error, IsReleasedWhenThirtyTwoOthersWereRaised) {
+    const HRESULT code = Raise("First");
+    for (int i = 1; i < ZFXError::kRegistered; ++i)
+        static_cast<void>(Raise("Later"));
+    EXPECT_NE(ZFXError::ZFXGetLastError(code, nullptr), nullptr);
     const long before = ZFXBaseUnknown::LiveAllocations();
-    for (int i = 0; i < 10 * ZFXError::kRegistered; ++i)
-        Raise("Later");
-    EXPECT_LE(ZFXBaseUnknown::LiveAllocations(), before + ZFXError::kRegistered);
-    EXPECT_EQ(ZFXError::ZFXGetLastError(first, nullptr), nullptr);
+    static_cast<void>(Raise("Last"));
+    EXPECT_EQ(ZFXError::ZFXGetLastError(code, nullptr), nullptr);
+    EXPECT_EQ(ZFXBaseUnknown::LiveAllocations(), before);
+}
+
+TEST(Error, WithoutAnErrorObjectTheTypeGivesTheCode) {
     EXPECT_EQ(ZFXError::GetReturn(ZFXErrorTypeSuccess, nullptr, nullptr, "", 0), S_OK);
     EXPECT_EQ(ZFXError::GetReturn(ZFXErrorTypeInput, nullptr, nullptr, "", 0), E_FAIL);
 }
 
-TEST(Error, SpeaksAsItsCatalogSays) {
-    const auto folder = std::filesystem::temp_directory_path() / Utf8::ToPath("qvr-catalog-Träger");
-    std::filesystem::create_directories(folder);
-    std::ofstream(folder / "Tests.msg") << "# comment\n\nId.Diagnostic = Bad: /P1, /P2 \r\nId.Advice=Mend = it\n"
-                                        << "Once.Diagnostic = /P1 /P2 /P1 /P3 /P //P2\n";
-    std::ofstream(folder / "Tests_xy.msg") << "Id.Diagnostic = /P2, /P1: böse\n";
-    MessageCatalog::SetFolder(Utf8::FromPath(folder));
-    auto* error = new ZFXInputError("Id", "Tests");
-    ZFXUnicodeString a("ä");
-    ZFXUnicodeString b("b");
-    error->SetNLSDiagnosticParams(2, &a, &b);
-    error->SetReturnCode(-100);
-    a = "changed"; // parameters are copied
-    EXPECT_EQ(Text(error->GetNLSMessage()), "Bad: ä, b Mend = it");
-    EXPECT_STREQ(error->GetMessageText(), "Bad: ä, b Mend = it");
-    ZFXError* clone = error->CloneSelf();
-    EXPECT_EQ(Text(clone->GetNLSDiagnostic()), "Bad: ä, b");
-    EXPECT_EQ(clone->GetReturnCode(), -100);
-    clone->Release();
-    EXPECT_THROW(error->Throw("Other.cpp", 3), std::reference_wrapper<ZFXError>);
+TEST(Error, RecordsTheSourcePosition) {
+    const auto fresh = Error::Attach(new ZFXInputError("Id", "Tests"));
+    EXPECT_STREQ(fresh->GetSourceFileName(), "");
+    EXPECT_EQ(fresh->GetSourceLineNumber(), 0);
+    EXPECT_EQ(fresh->GetId(), 0);
+    ZFXError* raised = ZFXError::ZFXGetLastError(Raise("Id"), nullptr);
+    EXPECT_STREQ(raised->GetSourceFileName(), "File.cpp");
+    EXPECT_EQ(raised->GetSourceLineNumber(), 7);
+    EXPECT_EQ(Text(raised->GetNLSSource()), "File.cpp:7");
+    std::ostringstream history;
+    raised->PrintHistory(history);
+    EXPECT_EQ(history.str(), "ZFXInputError Tests.Id raised at File.cpp:7\n");
+}
+
+TEST(Error, ThrowsAReferenceToItself) {
+    const auto error = Error::Attach(new ZFXInputError("Id", "Tests"));
+    try {
+        error->Throw("Other.cpp", 3);
+    } catch (const std::reference_wrapper<ZFXError>& thrown) {
+        EXPECT_EQ(&thrown.get(), error.Get());
+    }
     EXPECT_EQ(Text(error->GetNLSSource()), "Other.cpp:3");
-    // Another language is spoken from now on, also by what was refused before; what it lacks is said in English.
+}
+
+TEST(Error, IsAnInputErrorAndAnError) {
+    const auto error = ZFXHandle<ZFXInputError>::Attach(new ZFXInputError("Id", "Tests"));
+    EXPECT_STREQ(error->IsA(), "ZFXInputError");
+    EXPECT_EQ(error->IsAKindOf("ZFXInputError"), 1);
+    EXPECT_EQ(error->IsAKindOf("ZFXError"), 1);
+    EXPECT_EQ(error->IsAKindOf("ZFXIAlias"), 0);
+    EXPECT_STREQ(error->GetErrorTable()->errorClass, "ZFXInputError");
+    EXPECT_STREQ(error->GetErrorTable()->base->errorClass, "ZFXError");
+    EXPECT_EQ(error->GetErrorTable()->base->base, nullptr);
+}
+
+TEST(Error, HasNoHelp) {
+    const auto error = Error::Attach(new ZFXInputError("Id", "Tests"));
+    EXPECT_EQ(Text(error->GetNLSHelpFile()), "");
+    EXPECT_EQ(error->GetNLSHelpContext(), 0);
+}
+
+TEST(Error, CloneHasTheContentButNotTheCode) {
+    const auto error = ZFXHandle<ZFXInputError>::Attach(new ZFXInputError("Id", "Tests"));
+    EXPECT_EQ(error->GetReturnCode(), 0);
+    EXPECT_EQ(error->GetInformationOnErrorType(), 0);
+    ZFXUnicodeString parameter("b");
+    error->SetNLSParameters(1, &parameter);
+    error->SetReturnCode(-100);
+    error->SetInformationOnErrorType(ZFXErrorTypeInput);
+    error->SetSourceContext("context");
+    error->AddRef(); // for the registry
+    static_cast<void>(ZFXError::GetReturn(ZFXErrorTypeInput, error, nullptr, "File.cpp", 7));
+    const auto clone = Error::Attach(error->CloneSelf());
+    EXPECT_STREQ(clone->GetMsgId(), "Id");
+    EXPECT_STREQ(clone->GetMsgCatalog(), "Tests");
+    EXPECT_EQ(Text(clone->DiagnosticParameters().at(0)), "b");
+    EXPECT_EQ(clone->GetReturnCode(), -100);
+    EXPECT_EQ(clone->GetInformationOnErrorType(), ZFXErrorTypeInput);
+    EXPECT_EQ(Text(clone->GetSourceContext()), "context");
+    EXPECT_EQ(Text(clone->GetNLSSource()), "File.cpp:7");
+    EXPECT_EQ(clone->GetId(), 0);
+}
+
+class CatalogTest : public ::testing::Test {
+protected:
+    CatalogTest() {
+        std::filesystem::create_directories(m_folder);
+        std::ofstream(m_folder / "Tests.msg")
+            << "# comment\n\nId.Diagnostic = Bad: /P1, /P2 \r\nId.Advice=Fix = it\n"
+            << "Once.Diagnostic = /P1 /P2 /P1 /P3 /P //P2\n"
+            << "All.Request = r /P1 /P2\nAll.Diagnostic = d /P1 /P2\nAll.Advice = a /P1 /P2\n";
+        std::ofstream(m_folder / "Tests_xy.msg") << "Id.Diagnostic = /P2, /P1: böse\n";
+        MessageCatalog::SetFolder(Utf8::FromPath(m_folder));
+    }
+    ~CatalogTest() override {
+        std::filesystem::remove_all(m_folder);
+        MessageCatalog::SetFolder("/nowhere");
+        MessageCatalog::SetLanguage("");
+    }
+    static std::filesystem::path Folder() {
+        const auto folder = std::filesystem::temp_directory_path() / Utf8::ToPath("qvr-catalog-Träger");
+        // Each test has a folder of its own: tests run in parallel.
+        return folder.parent_path() /
+               (folder.filename() += ::testing::UnitTest::GetInstance()->current_test_info()->name());
+    }
+    /// Returns the error "Id" with the parameters "ä" and "b".
+    static Error MakeError() {
+        auto error = Error::Attach(new ZFXInputError("Id", "Tests"));
+        ZFXUnicodeString a("ä");
+        ZFXUnicodeString b("b");
+        error->SetNLSParameters(2, &a, &b);
+        return error;
+    }
+
+    const std::filesystem::path m_folder = Folder();
+};
+
+TEST_F(CatalogTest, MessageJoinsTheSectionsWithTheirParameters) {
+    const Error error = MakeError();
+    EXPECT_EQ(Text(error->GetNLSRequest()), "");
+    EXPECT_EQ(Text(error->GetNLSDiagnostic()), "Bad: ä, b");
+    EXPECT_EQ(Text(error->GetNLSAdvice()), "Fix = it");
+    EXPECT_EQ(Text(error->GetNLSMessage()), "Bad: ä, b Fix = it");
+    EXPECT_STREQ(error->GetMessageText(), "Bad: ä, b Fix = it");
+}
+
+TEST_F(CatalogTest, EachSectionHasParametersOfItsOwn) {
+    const auto error = Error::Attach(new ZFXInputError("All", "Tests"));
+    ZFXUnicodeString a("A");
+    ZFXUnicodeString b("B");
+    error->SetNLSRequestParams(2, &a, &b);
+    error->SetNLSDiagnosticParams(2, &b, nullptr); // null counts as empty
+    error->SetNLSAdviceParams(1, &a);
+    EXPECT_EQ(Text(error->GetNLSMessage()), "r A B d B  a A /P2");
+    error->SetNLSParameters(2, nullptr, &b);
+    EXPECT_EQ(Text(error->GetNLSMessage()), "r  B d  B a  B");
+    error->SetNLSParameters(0, nullptr);
+    EXPECT_EQ(Text(error->GetNLSMessage()), "r /P1 /P2 d /P1 /P2 a /P1 /P2");
+}
+
+TEST_F(CatalogTest, PlaceholdersAreReplacedInOnePass) {
+    const auto error = Error::Attach(new ZFXInputError("Once", "Tests"));
+    ZFXUnicodeString a("x/P2y");
+    ZFXUnicodeString b("/P1");
+    error->SetNLSParameters(2, &a, &b);
+    EXPECT_EQ(Text(error->GetNLSDiagnostic()), "x/P2y /P1 x/P2y /P3 /P //P1");
+}
+
+TEST_F(CatalogTest, LanguageAppliesToErrorsRaisedBefore) {
+    const Error error = MakeError();
     for (const char* language : {"xy", "XY_ab", "xy-AB.UTF-8"}) {
         EXPECT_TRUE(MessageCatalog::SetLanguage(language)) << language;
-        EXPECT_EQ(Text(error->GetNLSMessage()), "b, ä: böse Mend = it") << language;
+        EXPECT_EQ(Text(error->GetNLSMessage()), "b, ä: böse Fix = it") << language; // the advice is not translated
     }
-    for (const std::string language : {"zz", "en_GB", ""}) {
-        EXPECT_EQ(MessageCatalog::SetLanguage(language), language != "zz") << language;
-        EXPECT_EQ(Text(error->GetNLSMessage()), "Bad: ä, b Mend = it") << language;
+    for (const char* english : {"en_GB", "C", "posix", ""}) {
+        EXPECT_TRUE(MessageCatalog::SetLanguage(english)) << english;
+        EXPECT_EQ(Text(error->GetNLSMessage()), "Bad: ä, b Fix = it") << english;
     }
-    auto* once = new ZFXInputError("Once", "Tests");
-    a = "x/P2y";
-    b = "/P1";
-    once->SetNLSParameters(2, &a, &b); // placeholders inside a parameter and those without a parameter stay
-    EXPECT_EQ(Text(once->GetNLSDiagnostic()), "x/P2y /P1 x/P2y /P3 /P //P1");
-    once->Release();
-    EXPECT_EQ(MessageCatalog::Languages(), (std::vector<std::string>{"en", "xy"}));
-    error->Release();
-    std::filesystem::remove_all(folder);
-    MessageCatalog::SetFolder("/nowhere");
-    auto* silent = new ZFXInputError("Id", "Tests");
-    EXPECT_EQ(Text(silent->GetNLSMessage()), "Id"); // without a catalog the id speaks for itself
-    silent->Release();
 }
+
+TEST_F(CatalogTest, UnknownLanguageMeansEnglish) {
+    EXPECT_TRUE(MessageCatalog::SetLanguage("xy"));
+    EXPECT_FALSE(MessageCatalog::SetLanguage("zz"));
+    EXPECT_EQ(Text(MakeError()->GetNLSMessage()), "Bad: ä, b Fix = it");
+    EXPECT_EQ(MessageCatalog::Languages(), (std::vector<std::string>{"en", "xy"}));
+}
+
+TEST_F(CatalogTest, WithoutACatalogTheMessageIsTheId) {
+    MessageCatalog::SetFolder("/nowhere");
+    EXPECT_EQ(Text(MakeError()->GetNLSMessage()), "Id");
+    EXPECT_EQ(MessageCatalog::Languages(), std::vector<std::string>{"en"});
+}
+
+#ifdef __linux__
+TEST_F(CatalogTest, FileOrFolderWithoutPermissionCountsAsMissing) {
+    using std::filesystem::perms;
+    const auto user = geteuid();
+    const auto other = user == 0 ? uid_t{65534} : user; // root can read every file
+    ASSERT_EQ(seteuid(other), 0);
+    const auto setPermissions = [&](const std::filesystem::path& path, perms permissions) {
+        ASSERT_EQ(seteuid(user), 0);
+        std::filesystem::permissions(path, permissions);
+        ASSERT_EQ(seteuid(other), 0);
+    };
+    EXPECT_EQ(Text(MakeError()->GetNLSDiagnostic()), "Bad: ä, b");
+    setPermissions(m_folder / "Tests.msg", perms::none);
+    MessageCatalog::SetFolder(Utf8::FromPath(m_folder)); // reads the file again
+    EXPECT_EQ(Text(MakeError()->GetNLSMessage()), "Id");
+    EXPECT_TRUE(MessageCatalog::SetLanguage("xy"));
+    setPermissions(m_folder, perms::none);
+    EXPECT_FALSE(MessageCatalog::SetLanguage("xy"));
+    setPermissions(m_folder, perms::owner_all);
+    EXPECT_EQ(seteuid(user), 0);
+}
+#endif
 
 } // namespace

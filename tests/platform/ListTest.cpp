@@ -3,13 +3,13 @@
 
 namespace {
 
-// A list consists of its elements only, and an index outside cannot be written to.
+// A list stores only its elements. An element at an index outside of it cannot be assigned.
 static_assert(sizeof(ZFXListValZFXUnicodeString) == sizeof(std::vector<ZFXUnicodeString>));
 static_assert(!std::is_assignable_v<decltype(std::declval<ZFXListValZFXUnicodeString&>()[9]), const char*>);
 
 class ListTest : public DocumentTest {};
 
-TEST_F(ListTest, CountsFromOneAndKeepsOrder) {
+TEST_F(ListTest, IndexesStartAtOneAndFollowTheOrderOfAppending) {
     ZFXListValZFXUnicodeString names;
     for (const char* name : {"a", "b", "a", "A"})
         names.Append(name);
@@ -22,20 +22,22 @@ TEST_F(ListTest, CountsFromOneAndKeepsOrder) {
     names.RemovePosition(0);
     names.RemovePosition(4);
     EXPECT_EQ(names.Size(), 3);
-    EXPECT_EQ(Text(names[0]), ""); // an index outside returns an empty element
+    EXPECT_EQ(Text(names[0]), ""); // an index outside of the list
     EXPECT_EQ(Text(names[9]), "");
     names.RemoveAll(ZFXCollec::ReleaseAllocation);
     EXPECT_EQ(names.Size(), 0);
 }
 
-TEST_F(ListTest, LocatesObjectsWhateverFaceTheyShow) {
+TEST_F(ListTest, LocatesAnObjectByAnyOfItsInterfacePointers) {
     MemoryFeature load = document.Model().Feature("QVRPressure", "Pressure-1");
     ZFXListValZFXISpecObject_var list;
     list.Append(ZFXISpecObject_var(document.Model()));
     list.Append(ZFXISpecObject_var(load));
     list.Append(ZFXISpecObject_var(load));
-    const ZFXIAlias_var otherFace(load);
-    EXPECT_EQ(list.Locate(ZFXISpecObject_var(otherFace), 1), 2);
+    const ZFXIAlias_var otherInterface(load);
+    EXPECT_EQ(list.Locate(ZFXISpecObject_var(otherInterface), 1), 2);
+    EXPECT_EQ(list.Locate(document.Model(), 1), 1);
+    EXPECT_EQ(list.Locate(document.Model(), 2), 0);
     EXPECT_EQ(list.Locate(load, 3), 3);
     EXPECT_EQ(list.Locate(load, 4), 0);
     EXPECT_EQ(list.Locate(load, -7), 2);

@@ -9,7 +9,7 @@
 
 namespace {
 
-TEST(Locale, FollowsTheMessageLocaleUntilAHostSetsIt) {
+TEST(Locale, FollowsTheMessageLocaleUnlessAHostSetsIt) {
     ZFXFollowMessageLocale();
     std::setlocale(LC_MESSAGES, "C");
     EXPECT_EQ(GetUserDefaultLCID(), 0x0409U);
@@ -21,7 +21,7 @@ TEST(Locale, FollowsTheMessageLocaleUntilAHostSetsIt) {
     EXPECT_EQ(GetUserDefaultLCID(), 0x0409U);
 }
 
-// The C library finds a locale by the name of its folder, so links to one locale stand for all.
+// The C library finds a locale by the name of its folder: links with other names to one locale are enough.
 TEST(Locale, ThirteenEnglishLocalesHaveIdentifiers) {
     const std::filesystem::path content = "/usr/lib/locale/C.utf8";
     if (!std::filesystem::exists(content))

@@ -1,4 +1,4 @@
-// Run under the thread sanitizer as well: what may happen on several threads at a time.
+// Operations that can run on several threads at a time. The thread sanitizer checks them too.
 
 #include "QVRGenZFXUnicodeStringUtils.h"
 #include "QVRNameUtil.h"
@@ -26,14 +26,14 @@ void OnFourThreads(Work work) {
         thread.join();
 }
 
-TEST(Threads, CopiesOfOneTextOrListBelongToTheirThreads) {
+TEST(Threads, CopiesOfOneTextOrListAreIndependent) {
     for (const ZFXUnicodeString& shared : {ZFXUnicodeString("Träger.1"), Repeated('.', 100)}) {
         ZFXListValZFXUnicodeString names;
         names.Append(shared);
         const ZFXListValZFXUnicodeString& list = names;
         OnFourThreads([&](int thread) {
             ZFXUnicodeString copy(shared);
-            EXPECT_STREQ(copy.ConvertToChar(), shared.ConvertToChar()); // made by whoever asks first
+            EXPECT_STREQ(copy.ConvertToChar(), shared.ConvertToChar()); // the first thread converts
             EXPECT_EQ(copy.Append("x").Compare(shared), 0);
             ZFXListValZFXUnicodeString own(list);
             own.Append(ZFXUnicodeString(ZFXUnicodeChar('a'), static_cast<std::size_t>(thread)));
@@ -43,7 +43,7 @@ TEST(Threads, CopiesOfOneTextOrListBelongToTheirThreads) {
     }
 }
 
-TEST(Threads, EachHasItsOwnLastErrorsAndMayJudgeTexts) {
+TEST(Threads, EachHasItsOwnRegistryOfErrors) {
     std::vector<HRESULT> last(4);
     OnFourThreads([&](int thread) {
         ZFXUnicodeString name(thread % 2 == 0 ? "1st" : "a.b");

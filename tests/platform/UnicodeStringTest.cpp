@@ -12,9 +12,9 @@ using String = ZFXUnicodeString;
 
 namespace {
 
-const String kLong = Repeated('x', 100); // beyond what the object holds itself
+const String kLong = Repeated('x', 100); // too long for the storage in the object
 
-TEST(UnicodeString, CopiesOwnTheirText) {
+TEST(UnicodeString, ACopyHasATextOfItsOwn) {
     for (const String& original : {String(""), String("Step-1"), Repeated('a', 32), Repeated('a', 33), kLong}) {
         String copy(original);
         String assigned("something else that is longer than the inline storage of a string");
@@ -26,7 +26,7 @@ TEST(UnicodeString, CopiesOwnTheirText) {
         assigned.ToUpper();
         copy = moved; // NOLINT(bugprone-use-after-move)
         EXPECT_EQ(original.GetLengthInChar() + 1, copy.GetLengthInChar());
-        EXPECT_TRUE(assigned == original || assigned.Compare(original) == 1);
+        EXPECT_NE(assigned.Compare(original), 0);
     }
 }
 
@@ -50,26 +50,41 @@ TEST(UnicodeString, NarrowTextIsUtf8BothWays) {
         EXPECT_EQ(text == in, 1) << in;
         EXPECT_EQ(text == (std::string(in) + "x").c_str(), 0);
     }
-    const unsigned short lone[] = {u'a', 0xD800, u'b'};
-    String half;
-    half.BuildFromUCChar(lone, 3);
-    EXPECT_EQ(half.GetLengthInChar(), 3);
-    EXPECT_STREQ(half.ConvertToChar(), "a\xEF\xBF\xBD"
-                                       "b");
-    EXPECT_EQ(half[1].ConvertToUC2Bytes(), 0xD800);
-    half.Append("c"); // the narrow form follows the text
-    EXPECT_STREQ(half, "a\xEF\xBF\xBD"
-                       "bc");
+}
+
+TEST(UnicodeString, HalfASurrogatePairIsKeptAndWrittenAsReplacement) {
+    const std::tuple<std::u16string_view, const char*> rows[] = {
+        {u"A\xD800", "A\xEF\xBF\xBD"},
+        {u"\xDC00Z", "\xEF\xBF\xBDZ"},
+        {u"\xDC00\xD800", "\xEF\xBF\xBD\xEF\xBF\xBD"},                 // low before high
+        {u"\xD800\xD800\xDC00", "\xEF\xBF\xBD\xF0\x90\x80\x80"},       // high before a pair
+        {u"\xD800\xDC00\xDC00", "\xF0\x90\x80\x80\xEF\xBF\xBD"},       // low after a pair
+        {u"\xDBFF\xDFFF\xE000\xD7FF", "\xF4\x8F\xBF\xBF\uE000\uD7FF"}, // neighbours of the halves
+    };
+    for (const auto& [units, narrow] : rows) {
+        String text(units);
+        EXPECT_EQ(text.Units(), units);
+        EXPECT_STREQ(text, narrow);
+        text.ToUpper();
+        EXPECT_EQ(text.Units(), units);
+    }
+}
+
+TEST(UnicodeString, NarrowFormFollowsTheText) {
+    String text("a");
+    EXPECT_STREQ(text, "a");
+    text.Append("c");
+    EXPECT_STREQ(text, "ac");
     for (void (String::*change)() : {&String::ToUpper, &String::ToLower}) {
-        String text("aA");
-        text.ConvertToChar();
-        (text.*change)();
-        EXPECT_EQ(text, text.ConvertToChar());
+        String letters("aA");
+        EXPECT_STREQ(letters, "aA");
+        (letters.*change)();
+        EXPECT_EQ(letters, letters.ConvertToChar());
     }
     String moved("long before");
-    moved.ConvertToChar();
+    EXPECT_STREQ(moved, "long before");
     String source("new");
-    source.ConvertToChar();
+    EXPECT_STREQ(source, "new");
     moved = std::move(source);
     EXPECT_STREQ(moved, "new");
     EXPECT_STREQ(source, ""); // NOLINT(bugprone-use-after-move): a moved-from string is empty
@@ -78,7 +93,7 @@ TEST(UnicodeString, NarrowTextIsUtf8BothWays) {
     EXPECT_STREQ(moved, "new");
 }
 
-TEST(UnicodeString, CompareTellsIdenticalFromEqualApartFromCase) {
+TEST(UnicodeString, CompareReturns2IfIdentical1IfEqualApartFromCase) {
     // clang-format off
     const std::tuple<const char*, const char*, int> rows[] = {
         {"", "", 2}, {"Load-1", "Load-1", 2}, {"Load-1", "LOAD-1", 1}, {"Load-1", "Load-2", 0},
@@ -89,7 +104,7 @@ TEST(UnicodeString, CompareTellsIdenticalFromEqualApartFromCase) {
         {"𐐀x", "𐐨X", 1}, {"𐐀", "𐐩", 0}, {"𐐧", "𐑏", 1}, {"𐐧x", "𐑐x", 0}, {"İ", "i", 0}, {"日", "日", 2},
         {"\xF1\x80\x80\x80", "\xF1\x80\x80\x81", 0},
         {"Bolt load at flange", "Bolt lead at flange", 0}, {"Bolt Load at flange", "Bolt lead at flange", 0},
-        {"Load-001", "LOAD-001", 1}, {"Load-001", "Load-002", 0}, {"Load[001", "Load{001", 0}, // eight are read at a time
+        {"Load-001", "LOAD-001", 1}, {"Load-001", "Load-002", 0}, {"Load[001", "Load{001", 0}, // eight units are compared at a time
     };
     // clang-format on
     for (const auto& [a, b, expected] : rows) {
@@ -100,28 +115,40 @@ TEST(UnicodeString, CompareTellsIdenticalFromEqualApartFromCase) {
     }
     EXPECT_EQ(String(u"a\0b"sv).Compare(String(u"A\0B"sv)), 1); // U+0000 ends no text
     EXPECT_EQ(String(u"a\0b"sv).Compare(String(u"a\0c"sv)), 0);
-    EXPECT_EQ(String(u"\xD800").Compare(String(u"\xD801")), 0); // halves differ, though both are written U+FFFD
+    // Halves of pairs differ, although all are written as U+FFFD.
+    EXPECT_EQ(String(u"\xD800").Compare(String(u"\xD801")), 0);
+    EXPECT_EQ(String(u"\xDC00").Compare(String(u"\xDC28")), 0);
+    EXPECT_EQ(String(u"\xDC00\xD801").Compare(String(u"\xDC28\xD801")), 0);
+    EXPECT_EQ(String(u"\xD801\xD801\xDC00").Compare(String(u"\xD801\xD801\xDC28")), 1);
+    EXPECT_EQ(String(u"\xD801\xDC00\xDC00").Compare(String(u"\xD801\xDC28\xDC28")), 0);
     String cut("abc");
     cut.Remove(0, 3);
-    EXPECT_EQ(cut.Compare(""), 2); // what stands in the storage of an empty text means nothing
+    EXPECT_EQ(cut.Compare(""), 2); // the storage of an empty text has no meaning
 }
 
-TEST(UnicodeString, SearchesStripsAndCuts) {
-    const auto forward = String::SearchForward;
-    const auto backward = String::SearchBackward;
-    EXPECT_EQ(String("").SearchSubString("a", 0, forward), -1);
-    EXPECT_EQ(String("Step-3").SearchSubString("Step-", 0, forward), 0);
-    EXPECT_EQ(String("1,2,3").SearchSubString(",", 0, backward), 3);
-    EXPECT_EQ(String("1,2,3").SearchSubString(",", 0, forward), 1);
-    EXPECT_EQ(String("1,2,3").SearchSubString("", 0, forward), 0);
-    EXPECT_EQ(String("1,2,3").SearchSubString("", 0, backward), 5);
+TEST(UnicodeString, SearchReturnsThePositionOrMinus1) {
+    constexpr auto kForward = String::SearchForward;
+    constexpr auto kBackward = String::SearchBackward;
+    const std::tuple<const char*, const char*, int, String::ZFXSearchMode, int> rows[] = {
+        {"", "a", 0, kForward, -1},      {"Step-3", "Step-", 0, kForward, 0}, {"1,2,3", ",", 0, kForward, 1},
+        {"1,2,3", ",", 2, kForward, 3},  {"1,2,3", ",", 4, kForward, -1},     {"1,2,3", "", 0, kForward, 0},
+        {"1,2,3", "", 2, kForward, 2},   {"1,2,3", ",", 0, kBackward, 3},     {"Step-3", "Step-", 0, kBackward, 0},
+        {"1,2,3", ",", 3, kBackward, 3}, {"1,2,3", ",", 4, kBackward, -1},    {"1,2,3", "", 0, kBackward, 5},
+        {"1,2,3", "1", -7, kForward, 0}, {"1,2,3", "3", 99, kForward, -1},
+    };
+    for (const auto& [text, sub, start, mode, expected] : rows)
+        EXPECT_EQ(String(text).SearchSubString(sub, start, mode), expected) << text << " " << sub << " " << start;
+}
 
+TEST(UnicodeString, StripRemovesACharacterAtTheEndsOrEverywhere) {
     const char* stripped[] = {"a-b--", "--a-b", "a-b", "ab"};
     for (int mode = 1; mode <= 4; ++mode)
         EXPECT_EQ(Text(String("--a-b--").Strip(static_cast<String::ZFXStripMode>(mode), '-')), stripped[mode - 1]);
     EXPECT_EQ(Text(String(" \t a ").Strip(String::StripBoth)), "\t a");
     EXPECT_EQ(Text(String("---").Strip(String::StripBoth, '-')), "");
+}
 
+TEST(UnicodeString, PositionsOutsideTheTextAreClamped) {
     const std::tuple<int, int, const char*, const char*> rows[] = {
         {1, 2, "bc", "ad"}, {0, -1, "abcd", ""}, {2, -1, "cd", "ab"}, {2, 99, "cd", "ab"},
         {9, 1, "", "abcd"}, {-5, 1, "a", "bcd"}, {4, 0, "", "abcd"},  {1, 0, "", "abcd"},
@@ -144,13 +171,14 @@ TEST(UnicodeString, SearchesStripsAndCuts) {
     EXPECT_EQ(String("ab")[7].ConvertToUC2Bytes(), 0);
     String pair("😀");
     pair.Resize(1);
-    EXPECT_STREQ(pair, "\xEF\xBF\xBD"); // what stood behind the end is not read
+    EXPECT_STREQ(pair, "\xEF\xBF\xBD"); // units after the end are not read
 }
 
-TEST(UnicodeString, ReplacesAlsoWithItself) {
+TEST(UnicodeString, ReplacesAllOrTheFirstOccurrence) {
     const std::tuple<const char*, const char*, const char*, const char*, const char*> rows[] = {
         {"a.b.c", ".", "-", "a-b-c", "a-b.c"}, {"aaa", "aa", "a", "aa", "aa"}, {"aaaa", "a", "aa", "aaaaaaaa", "aaaaa"},
         {"abc", "x", "y", "abc", "abc"},       {"abc", "", "y", "abc", "abc"}, {"a a", " ", "", "aa", "aa"},
+        {"abab", "ab", "c", "cc", "cab"}, // the first occurrence is at 0
     };
     for (const auto& [text, old, with, expectedAll, expectedFirst] : rows) {
         String all(text);
@@ -163,6 +191,9 @@ TEST(UnicodeString, ReplacesAlsoWithItself) {
     String inserted("ac");
     inserted.ReplaceSubString(1, 0, "b");
     EXPECT_EQ(Text(inserted), "abc");
+}
+
+TEST(UnicodeString, AnArgumentCanBeTheStringItself) {
     for (String text : {String("ab"), kLong}) {
         const String copy(text);
         text.Append(text).Append("|");
@@ -179,13 +210,13 @@ TEST(UnicodeString, ReplacesAlsoWithItself) {
     }
 }
 
-TEST(UnicodeString, ReadsAndWritesDecimalNumbers) {
+TEST(UnicodeString, ParsesAndFormatsDecimalNumbers) {
     constexpr int kMost = std::numeric_limits<int>::max();
     constexpr int kLeast = std::numeric_limits<int>::min();
     struct Row {
         const char* text;
         int result;
-        int number; // 77 when the integer must stay as it was
+        int number; // 77: unchanged
     };
     // clang-format off
     const Row rows[] = {
@@ -202,7 +233,7 @@ TEST(UnicodeString, ReadsAndWritesDecimalNumbers) {
         EXPECT_EQ(number, row.number) << row.text;
     }
     int untouched = 77;
-    EXPECT_EQ(String("12").ConvertToNum(&untouched, "%x") + untouched, 77); // no other format is known
+    EXPECT_EQ(String("12").ConvertToNum(&untouched, "%x") + untouched, 77); // any other format
     for (const int number : {0, 7, -5, kMost, kLeast}) {
         String text("before");
         text.BuildFromNum(number, "%d");
@@ -210,7 +241,7 @@ TEST(UnicodeString, ReadsAndWritesDecimalNumbers) {
     }
 }
 
-TEST(UnicodeString, ChangesLettersOfAllScripts) {
+TEST(UnicodeString, ConvertsTheCaseOfAllScripts) {
     String text("aZ é ß ÿ ǆ 𐐨𐑏𐑐 日 ω");
     text.ToUpper();
     EXPECT_EQ(Text(text), "AZ É ß Ÿ Ǆ 𐐀𐐧𐑐 日 Ω");
@@ -218,7 +249,7 @@ TEST(UnicodeString, ChangesLettersOfAllScripts) {
     EXPECT_EQ(Text(text), "az é ß ÿ ǆ 𐐨𐑏𐑐 日 ω");
 }
 
-TEST(UnicodeChar, KnowsDigitsAndWhiteSpace) {
+TEST(UnicodeChar, DigitsAreAsciiAndWhiteSpaceIsThatOfUnicode) {
     for (unsigned unit = 0; unit < 0x10000; ++unit) {
         const auto c = ZFXUnicodeChar::FromUnit(static_cast<char16_t>(unit));
         EXPECT_EQ(c.IsDigit() != 0, unit >= '0' && unit <= '9') << unit;
@@ -226,12 +257,18 @@ TEST(UnicodeChar, KnowsDigitsAndWhiteSpace) {
     const String white("\t \xC2\x85\xC2\xA0\u1680\u2003\u2028\u202F\u205F\u3000");
     for (std::size_t i = 0; i < white.Units().size(); ++i)
         EXPECT_TRUE(white[i].IsSpace()) << i;
-    const String black("a_-\u200B\u180E\uFEFF"); // the last three only look empty
+    const String black("a_-\u200B\u180E\uFEFF"); // the last three are invisible
     for (std::size_t i = 0; i < black.Units().size(); ++i)
         EXPECT_FALSE(black[i].IsSpace()) << i;
+}
+
+TEST(UnicodeChar, AssignsTheFirstCodeUnitOfANarrowText) {
     ZFXUnicodeChar c('x');
     EXPECT_EQ((c = "\\") == ZFXUnicodeChar('\\'), 1);
     EXPECT_EQ((c = "é").ConvertToUC2Bytes(), 0xE9);
+    EXPECT_EQ((c = "😀").ConvertToUC2Bytes(), 0xD83D); // the high half of the pair
+    EXPECT_EQ((c = "\x80").ConvertToUC2Bytes(), 0xFFFD);
+    EXPECT_EQ((c = static_cast<const char*>(nullptr)).ConvertToUC2Bytes(), 0);
     EXPECT_EQ((c = "").ConvertToUC2Bytes(), 0);
 }
 
