@@ -8,7 +8,6 @@
 
 #include <fstream>
 #include <functional>
-#include <thread>
 
 #ifdef __linux__
 #include <unistd.h>
@@ -31,14 +30,6 @@ TEST(Error, IsFoundUnderACodeOfItsOwn) {
     EXPECT_EQ(ResultText(second), "Second");
     EXPECT_EQ(ZFXError::ZFXGetLastError(first, nullptr)->GetId(), first);
     EXPECT_EQ(ZFXError::ZFXGetLastError(E_FAIL, nullptr), nullptr);
-}
-
-TEST(Error, IsNotFoundFromAnotherThread) {
-    const HRESULT code = Raise("Here");
-    std::thread([&] {
-        EXPECT_EQ(ResultText(Raise("Elsewhere")), "Elsewhere");
-        EXPECT_EQ(ZFXError::ZFXGetLastError(code, nullptr), nullptr);
-    }).join();
 }
 
 TEST(Error, IsReleasedWhenThirtyTwoOthersWereRaised) {
@@ -138,7 +129,7 @@ protected:
     }
     static std::filesystem::path Folder() {
         const auto folder = std::filesystem::temp_directory_path() / Utf8::ToPath("qvr-catalog-Träger");
-        // Each test has a folder of its own: tests run in parallel.
+        // One folder for each test: tests run in parallel.
         return folder.parent_path() /
                (folder.filename() += ::testing::UnitTest::GetInstance()->current_test_info()->name());
     }
