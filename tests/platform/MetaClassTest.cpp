@@ -98,6 +98,10 @@ public:
 
 class AdaptorTest : public DocumentTest {
 protected:
+    void TearDown() override {
+        EXPECT_EQ(ZFXBaseUnknown::LiveAllocations(), m_blocks) << "an adaptor or implementation was not released";
+        DocumentTest::TearDown();
+    }
     static ZFXFillDictionary Entry(ZFXAdaptorFactory factory) {
         return {Adaptor::Extension(), ZFXIAlias::MetaObject(), factory, nullptr, 1};
     }
@@ -107,6 +111,7 @@ protected:
     }
 
     MemoryFeature load = document.Model().Feature("AdaptorTestLT", "object");
+    const long m_blocks = ZFXBaseUnknown::LiveAllocations();
 };
 
 TEST_F(AdaptorTest, IsOfferedWhileADictionaryEntryExists) {
@@ -126,9 +131,7 @@ TEST_F(AdaptorTest, IsOfferedWhileADictionaryEntryExists) {
 
 TEST_F(AdaptorTest, CastFailsIfTheImplementationCannotBeCreated) {
     const auto entry = Entry(Adaptor::Make<Adaptor::NoMemory>);
-    const long before = ZFXBaseUnknown::LiveAllocations();
     EXPECT_EQ(Alias(), "no interface");
-    EXPECT_EQ(ZFXBaseUnknown::LiveAllocations(), before);
 }
 
 TEST_F(AdaptorTest, BelongsToItsObject) {

@@ -121,9 +121,18 @@ TEST(UnicodeString, CompareReturns2IfIdentical1IfEqualApartFromCase) {
     EXPECT_EQ(String(u"\xDC00\xD801").Compare(String(u"\xDC28\xD801")), 0);
     EXPECT_EQ(String(u"\xD801\xD801\xDC00").Compare(String(u"\xD801\xD801\xDC28")), 1);
     EXPECT_EQ(String(u"\xD801\xDC00\xDC00").Compare(String(u"\xD801\xDC28\xDC28")), 0);
+}
+
+TEST(UnicodeString, CompareReadsNoUnitOutsideTheTexts) {
     String cut("abc");
     cut.Remove(0, 3);
-    EXPECT_EQ(cut.Compare(""), 2); // the storage of an empty text has no meaning
+    EXPECT_EQ(cut.Compare(""), 2);
+    String left("Pressure-pin.1");
+    String right("Pressure-pin#2");
+    left.Resize(12);
+    right.Resize(12);
+    EXPECT_EQ(left.Compare(right), 2);
+    EXPECT_EQ((String(u"\xDC00") + kLong).Compare(String(u"\xDC28") + kLong), 0);
 }
 
 TEST(UnicodeString, SearchReturnsThePositionOrMinus1) {
