@@ -10,6 +10,8 @@
 #include <cassert>
 #include <utility>
 
+/// Appends the results of GetObjectsInStep for each step of the case, except `object`. Steps that fail contribute
+/// nothing. Returns the code of the last step, or of the request for the steps if there are none.
 HRESULT QVRNameUtil::GetAllPropagatingObjects(ZFXISamAnalysisCase_var& analysisCase,
                                               ZFXListValZFXBaseUnknown_var& objects,
                                               ZFXISpecObject_var& object) noexcept {

@@ -36,6 +36,10 @@ HRESULT QVRNameUtil::GetParentStepName(const ZFXISpecObject_var& object, ZFXUnic
     return code;
 }
 
+/// Appends the members of those sets of the step that have the late type of the first set that contains `object`. Skips
+/// propagated features except initial temperatures.
+/// - E_FAIL: no set contains `object`, or the step does not offer ZFXISamAnalysisScan.
+/// - The code of the search for the sets: the search failed.
 HRESULT QVRNameUtil::GetObjectsInStep(ZFXISpecObject_var& step, ZFXListValZFXBaseUnknown_var& objects,
                                       const ZFXISpecObject_var& object) noexcept {
     const ZFXISpecObject_var parentSet(Navigation::FirstParentSetOf(object).set);
