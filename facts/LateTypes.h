@@ -6,7 +6,8 @@
 /// that runs while a module is loaded may use them.
 namespace LateTypes {
 
-/// What a feature of a late type normally is. The rows of LateTypeKinds.def.
+/// What a feature of a late type normally is. The rows of LateTypeKinds.def. (In ARCHITECTURE.md and in contracts, the
+/// kind of a feature is the late type of its set.)
 enum class Kind {
 #define KIND(kind, checks, proposals) kind,
 #include "LateTypeKinds.def"
