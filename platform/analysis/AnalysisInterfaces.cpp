@@ -2,7 +2,8 @@
 
 #include "object-model/ZFXMetaClass.h"
 
-// Each interface's destructor and meta class, here once: so its type stands in this library and in no other.
+// Defines the destructor and the meta class of each interface. A destructor defined here keeps the interface's type
+// information in this library only.
 #define ZFX_INTERFACE(name)                                                                                            \
     name::~name() = default;                                                                                           \
     ZFXMetaClass* name::MetaObject() {                                                                                 \

@@ -1,6 +1,6 @@
 #pragma once
 
-// Every interface of an analysis document.
+// Includes the header of each interface of an analysis document.
 #include "analysis/QVRIPropagatingFeature.h"
 #include "analysis/QVRISamAnalysisConnectionDesign.h"
 #include "analysis/QVRISamGroupExt.h"

@@ -6,8 +6,14 @@
 #include "analysis/ZFXISamAnalysisModel.h"
 #include "analysis/ZFXISpecObject.h"
 
-/// The questions about a document that only its model can answer. A host implements them and installs one
-/// instance; the static utilities of `analysis/WorkbenchUtilities.h` forward to it.
+/// Requests about a document that no single object can fulfil. A host implements this class and installs one instance;
+/// the static utilities of `analysis/WorkbenchUtilities.h` forward to it.
+///
+/// Rules for all operations:
+/// - A negative code is a failure. On failure the outputs stay unchanged, unless stated otherwise.
+/// - Lists are filled by appending and have indexes from 1 to Size(). The caller passes an empty list or handle.
+/// - A null `document` is the document that is current in the application.
+/// - No operation throws.
 class ZFX_PLATFORM_EXPORT AnalysisServices {
 public:
     AnalysisServices() = default;
@@ -15,31 +21,38 @@ public:
     AnalysisServices& operator=(const AnalysisServices&) = delete;
     virtual ~AnalysisServices();
 
-    /// Null takes the installed instance away. The instance stays the caller's and must be taken away before
-    /// it is destroyed. [borrowed]
+    /// Installs the services of the process. They replace those installed before.
+    /// @param services  [borrowed] Must be uninstalled before it is destroyed. Null uninstalls.
     static void Install(AnalysisServices* services) noexcept;
-    /// The installed instance, or null. [borrowed]
-    static AnalysisServices* Installed() noexcept;
+    /// Returns the installed services, or null if there are none. [borrowed]
+    [[nodiscard]] static AnalysisServices* Installed() noexcept;
 
-    /// The analysis cases of the document, or of the current one when null is passed. [appends]
+    /// Appends the analysis cases of a document. [appends]
+    ///
+    /// The naming module does not read the code: on failure, cases that are in the list count.
     virtual HRESULT GetAllAnalysisCases(ZFXListValZFXBaseUnknown_var& cases, ZFXDocument* document) = 0;
-    /// The jobs of these cases, in order. [appends]
+    /// Appends the jobs of these cases, in the order of the cases. [appends]
+    ///
+    /// The naming module does not read the code: on failure, jobs that are in the list count.
     virtual HRESULT GetJobs(const ZFXListValZFXBaseUnknown_var& cases, ZFXListValZFXISpecObject_var& jobs) = 0;
-    /// The analysis model of the document; a failure when it has none.
+    /// Sets `model` to the analysis model of a document. Fails if the document has none; then no name can be proposed
+    /// for properties and amplitudes.
     virtual HRESULT GetAnalysisModel(ZFXISamAnalysisModel_var& model, const ZFXDocument* document) = 0;
-    /// The mesh manager of the document; a failure when it has none.
+    /// Sets `manager` to the mesh manager of a document. Fails if the document has none; then no name can be proposed
+    /// for mesh parts.
     virtual HRESULT GetMeshManager(ZFXIMSHMeshManager_var& manager, const ZFXDocument* document) = 0;
-    /// Nonzero when the case is one of the solver's own.
+    /// Returns a nonzero value if the case belongs to the solver. For other cases no step names are proposed.
     virtual unsigned char IsTarnisAnalysisCase(ZFXISamAnalysisCase_var& analysisCase) = 0;
-    /// The step that holds the feature; success with an empty handle when it lies in none.
+    /// Sets `step` to the step that contains the feature. If no step contains it, succeeds and leaves `step` empty.
     virtual HRESULT GetParentStep(const ZFXISpecObject_var& feature, ZFXISpecObject_var& step) = 0;
-    /// The analysis case that holds the feature; a failure when it lies in none.
+    /// Sets `parent` to the analysis case that contains the feature. Fails if no case contains it; then the current
+    /// case of the feature's document is used instead.
     virtual HRESULT GetParentCaseFromObject(const ZFXISpecObject_var& feature, ZFXISpecObject_var& parent) = 0;
-    /// Nonzero for what is numbered in the property set.
+    /// Returns a nonzero value if the feature is a property. New names of properties are numbered in the property set.
     virtual unsigned char IsObjectAProperty(ZFXISpecObject_var& feature) = 0;
-    /// Nonzero for an amplitude, which is numbered there too.
+    /// Returns a nonzero value if the feature is an amplitude. New names of amplitudes are numbered in the property
+    /// set.
     virtual unsigned char IsObjectAnAmplitude(ZFXISpecObject_var& feature) = 0;
-    /// The case that is current in the document, or in the application when null is passed; success with an
-    /// empty handle when there is none.
+    /// Sets `analysisCase` to the current case of a document. If no case is current, succeeds and leaves it empty.
     virtual HRESULT GetCurrentAnalysisCaseSP(ZFXISamAnalysisCase_var& analysisCase, ZFXDocument* document) = 0;
 };

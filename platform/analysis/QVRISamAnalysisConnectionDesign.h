@@ -6,7 +6,10 @@
 class ZFX_PLATFORM_EXPORT QVRISamAnalysisConnectionDesign : public ZFXBaseUnknown {
     ZFX_DECLARE_INTERFACE(QVRISamAnalysisConnectionDesign)
 
-    /// The connectors of the master side and of the slave side. [appends]
+    /// Appends the connectors of each side to its list. [appends]
+    ///
+    /// The naming module does not read the code: on failure, connectors that are in the lists count. It reads the group
+    /// names only if each side has exactly one connector.
     virtual HRESULT GetMasterAndSlaveConnectors(ZFXListValZFXBaseUnknown_var& master,
                                                 ZFXListValZFXBaseUnknown_var& slave) = 0;
 };

@@ -2,7 +2,7 @@
 
 #include "object-model/ZFXInterfaces.h"
 
-/// A group: its display name is the group name.
+/// Marks a group. Its alias is the group name.
 class ZFX_PLATFORM_EXPORT QVRISamGroupExt : public ZFXBaseUnknown {
     ZFX_DECLARE_INTERFACE(QVRISamGroupExt)
 };

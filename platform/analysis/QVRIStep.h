@@ -2,7 +2,7 @@
 
 #include "object-model/ZFXInterfaces.h"
 
-/// A step of a simulation history.
+/// Marks a step of a simulation history. No other object may offer this interface: it selects the rules for step names.
 class ZFX_PLATFORM_EXPORT QVRIStep : public ZFXBaseUnknown {
     ZFX_DECLARE_INTERFACE(QVRIStep)
 };

@@ -2,40 +2,40 @@
 
 #include "analysis/AnalysisServices.h"
 
-// The workbench's utilities, called by name. Each answers what the installed AnalysisServices answers, and
-// E_FAIL (or 0) with its outputs untouched when none is installed.
+// The static utilities of the workbench. Each forwards to the operation of AnalysisServices that has its name, and
+// returns the result. If no services are installed, it returns E_FAIL or 0 and leaves the outputs unchanged.
 
-/// What a document holds. Without installed services each answers E_FAIL or 0, its outputs untouched.
+/// Finds the objects of a document.
 class ZFX_PLATFORM_EXPORT QVRAnalysisDocUtils {
 public:
-    /// As AnalysisServices::GetAllAnalysisCases.
+    /// Forwards to AnalysisServices::GetAllAnalysisCases. [appends]
     static HRESULT GetAllAnalysisCases(ZFXListValZFXBaseUnknown_var& cases, ZFXDocument* document);
-    /// As AnalysisServices::GetJobs.
+    /// Forwards to AnalysisServices::GetJobs. [appends]
     static HRESULT GetJobs(const ZFXListValZFXBaseUnknown_var& cases, ZFXListValZFXISpecObject_var& jobs);
-    /// As AnalysisServices::GetAnalysisModel.
+    /// Forwards to AnalysisServices::GetAnalysisModel.
     static HRESULT GetAnalysisModel(ZFXISamAnalysisModel_var& model, const ZFXDocument* document);
-    /// As AnalysisServices::GetMeshManager.
+    /// Forwards to AnalysisServices::GetMeshManager.
     static HRESULT GetMeshManager(ZFXIMSHMeshManager_var& manager, const ZFXDocument* document);
-    /// As AnalysisServices::IsTarnisAnalysisCase.
-    static unsigned char IsTarnisAnalysisCase(ZFXISamAnalysisCase_var& analysisCase);
+    /// Forwards to AnalysisServices::IsTarnisAnalysisCase.
+    [[nodiscard]] static unsigned char IsTarnisAnalysisCase(ZFXISamAnalysisCase_var& analysisCase);
 };
 
-/// What a feature is, and what holds it. Without installed services: likewise.
+/// Finds the parents of a feature and classifies it.
 class ZFX_PLATFORM_EXPORT QVRAnalysisEntityUtils {
 public:
-    /// As AnalysisServices::GetParentStep.
+    /// Forwards to AnalysisServices::GetParentStep.
     static HRESULT GetParentStep(const ZFXISpecObject_var& feature, ZFXISpecObject_var& step);
-    /// As AnalysisServices::GetParentCaseFromObject.
+    /// Forwards to AnalysisServices::GetParentCaseFromObject.
     static HRESULT GetParentCaseFromObject(const ZFXISpecObject_var& feature, ZFXISpecObject_var& parent);
-    /// As AnalysisServices::IsObjectAProperty.
-    static unsigned char IsObjectAProperty(ZFXISpecObject_var& feature);
-    /// As AnalysisServices::IsObjectAnAmplitude.
-    static unsigned char IsObjectAnAmplitude(ZFXISpecObject_var& feature);
+    /// Forwards to AnalysisServices::IsObjectAProperty.
+    [[nodiscard]] static unsigned char IsObjectAProperty(ZFXISpecObject_var& feature);
+    /// Forwards to AnalysisServices::IsObjectAnAmplitude.
+    [[nodiscard]] static unsigned char IsObjectAnAmplitude(ZFXISpecObject_var& feature);
 };
 
-/// Which case is current. Without installed services: likewise.
+/// Finds the current analysis case.
 class ZFX_PLATFORM_EXPORT QVRStepUtils {
 public:
-    /// As AnalysisServices::GetCurrentAnalysisCaseSP.
+    /// Forwards to AnalysisServices::GetCurrentAnalysisCaseSP.
     static HRESULT GetCurrentAnalysisCaseSP(ZFXISamAnalysisCase_var& analysisCase, ZFXDocument* document);
 };

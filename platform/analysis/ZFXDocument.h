@@ -2,7 +2,7 @@
 
 #include "object-model/ZFXBaseUnknown.h"
 
-/// An analysis document. The platform's utilities know what it holds.
+/// Identifies an analysis document. AnalysisServices finds its contents.
 class ZFX_PLATFORM_EXPORT ZFXDocument : public ZFXBaseUnknown {
 public:
     ~ZFXDocument() override;

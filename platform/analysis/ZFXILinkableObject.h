@@ -7,7 +7,7 @@
 class ZFX_PLATFORM_EXPORT ZFXILinkableObject : public ZFXBaseUnknown {
     ZFX_DECLARE_INTERFACE(ZFXILinkableObject)
 
-    /// The document, or null. [borrowed]
+    /// Returns the document that contains the object, or null. [borrowed]
     virtual ZFXDocument* GetOwningDocument() = 0;
 };
 

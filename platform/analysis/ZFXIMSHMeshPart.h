@@ -2,7 +2,7 @@
 
 #include "object-model/ZFXInterfaces.h"
 
-/// A mesh part.
+/// Marks a mesh part.
 class ZFX_PLATFORM_EXPORT ZFXIMSHMeshPart : public ZFXBaseUnknown {
     ZFX_DECLARE_INTERFACE(ZFXIMSHMeshPart)
 };

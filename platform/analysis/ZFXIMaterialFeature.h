@@ -7,7 +7,7 @@
 class ZFX_PLATFORM_EXPORT ZFXIMaterialFeature : public ZFXBaseUnknown {
     ZFX_DECLARE_INTERFACE(ZFXIMaterialFeature)
 
-    /// The material's name, which may differ from the display name.
+    /// Returns the name of the material, which may differ from the alias.
     virtual ZFXUnicodeString GetMaterialFeatureName() = 0;
 };
 

@@ -2,7 +2,7 @@
 
 #include "object-model/ZFXInterfaces.h"
 
-/// An analysis case: a feature under the model that holds one simulation history and its job containers.
+/// Marks an analysis case: a child of the analysis model that contains one simulation history and the job containers.
 class ZFX_PLATFORM_EXPORT ZFXISamAnalysisCase : public ZFXBaseUnknown {
     ZFX_DECLARE_INTERFACE(ZFXISamAnalysisCase)
 };

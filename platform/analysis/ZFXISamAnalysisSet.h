@@ -3,14 +3,19 @@
 #include "analysis/ZFXISpecObject.h"
 #include "object-model/ZFXInterfaces.h"
 
-/// An analysis set: a container of member features of one kind.
+/// An analysis set: a container of features of one kind, such as the loads of a step.
 class ZFX_PLATFORM_EXPORT ZFXISamAnalysisSet : public ZFXBaseUnknown {
     ZFX_DECLARE_INTERFACE(ZFXISamAnalysisSet)
 
-    /// The `flag` of every call of ListMembers. No other value is passed.
+    /// The `flag` of every request. The naming module passes no other value.
     static constexpr int kMemberFlag = 0;
 
-    /// The member features, in order; CLSID_ZFXBaseUnknown takes them all, `flag` is kMemberFlag. [appends]
+    /// Appends the member features, in document order. [appends]
+    ///
+    /// On failure, the operation of the naming module fails. For the objects of a step, it uses the features that are
+    /// in the list.
+    /// @param filter  always CLSID_ZFXBaseUnknown: all members, without a filter
+    /// @param flag    always kMemberFlag
     virtual HRESULT ListMembers(ZFXListValZFXISpecObject_var& members, const IID& filter, int flag) = 0;
 };
 

@@ -7,7 +7,9 @@
 class ZFX_PLATFORM_EXPORT ZFXISamExplicit : public ZFXBaseUnknown {
     ZFX_DECLARE_INTERFACE(ZFXISamExplicit)
 
-    /// Fills in the explicit child; `flag` is 1.
+    /// Makes `child` a view of the explicit data of this object. On failure the naming module does not read `child`.
+    ///
+    /// @param flag  always 1
     virtual HRESULT GetExplicitChild(ZFXAnalysisExplicitChild& child, int flag) = 0;
 };
 

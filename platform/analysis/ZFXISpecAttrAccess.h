@@ -4,15 +4,20 @@
 #include "object-model/ZFXInterfaces.h"
 #include "text/ZFXUnicodeString.h"
 
-/// A feature whose attributes can be read and written by key.
+/// Reads and writes the string attributes of a feature. The attribute "Alias" stores the alias that the naming module
+/// guards.
 class ZFX_PLATFORM_EXPORT ZFXISpecAttrAccess : public ZFXBaseUnknown {
     ZFX_DECLARE_INTERFACE(ZFXISpecAttrAccess)
 
-    /// The key of the attribute of this name, or null when the feature has none. [new reference]
+    /// Returns the key of an attribute, or null if the feature has no attribute of this name. [new reference]
     virtual ZFXISpecAttrKey* GetAttrKey(const char* name) = 0;
-    /// Stores a string under a key of this feature; `index` is 0.
+    /// Stores a string as the value of an attribute.
+    /// @param key    a key that this feature returned
+    /// @param index  always 0
     virtual void SetString(ZFXISpecAttrKey* key, const ZFXUnicodeString& value, int index) = 0;
-    /// The stored string; empty when it was never written. `index` is 0.
+    /// Returns the value of an attribute, or an empty string if it was never stored.
+    /// @param key    a key that this feature returned
+    /// @param index  always 0
     virtual ZFXUnicodeString GetString(ZFXISpecAttrKey* key, int index) = 0;
 };
 

@@ -2,7 +2,7 @@
 
 #include "object-model/ZFXInterfaces.h"
 
-/// Names one attribute of a feature. It has no operations; its feature reads it.
+/// Identifies one attribute of a feature. Only the feature that returned the key interprets it.
 class ZFX_PLATFORM_EXPORT ZFXISpecAttrKey : public ZFXBaseUnknown {
 public:
     ~ZFXISpecAttrKey() override;

@@ -2,11 +2,11 @@
 
 #include "object-model/ZFXInterfaces.h"
 
-/// An attribute of one feature that points at another.
+/// An attribute of one feature that points at another feature.
 class ZFX_PLATFORM_EXPORT ZFXISpecAttribute : public ZFXBaseUnknown {
     ZFX_DECLARE_INTERFACE(ZFXISpecAttribute)
 
-    /// The feature that holds the attribute, or null. [new reference]
+    /// Returns the feature that has the attribute, or null. [new reference]
     virtual ZFXBaseUnknown* GetOwner() = 0;
 };
 

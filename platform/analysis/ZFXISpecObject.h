@@ -4,18 +4,26 @@
 #include "object-model/ZFXInterfaces.h"
 #include "text/ZFXUnicodeString.h"
 
-/// A feature: a node of the analysis document, with a late type that tells its kind and a father that
-/// contains it.
+/// A feature: any named node of the analysis document, such as a case, a step, a load, a material or a mesh part. It
+/// has a late type (the name of its type) and a father (the object that contains it).
 class ZFX_PLATFORM_EXPORT ZFXISpecObject : public ZFXBaseUnknown {
     ZFX_DECLARE_INTERFACE(ZFXISpecObject)
 
-    /// Returns the name of the feature's type, such as "QVRStaticLPStepLT". It is constant for the lifetime of the
-    /// object: callers may request it once and keep it.
+    /// Returns the late type, such as "QVRStaticLPStepLT". It is constant for the lifetime of the object: callers may
+    /// request it once and keep it.
     virtual ZFXUnicodeString GetLateType() = 0;
-    /// The containing object, or null. [new reference]
+    /// Returns the father, or null if there is none. [new reference]
+    ///
+    /// The father of a set of jobs must be the analysis model, although a search finds the set below its case: the
+    /// check of a job's name across cases starts at that father.
     virtual ZFXBaseUnknown* GetFather() = 0;
-    /// The attributes of other features that point at this one, or null. The arguments narrow the search;
-    /// pass "ZFXISpecObject" and two empty strings for all of them. [read only] Valid until the next call.
+    /// Returns a list of the attributes of other features that point at this one, or null. [read only]
+    ///
+    /// The list belongs to this object and is valid until the next call. The attributes of a simulation history point
+    /// at each of its steps.
+    /// @param interfaceName  always "ZFXISpecObject"
+    /// @param type           always empty
+    /// @param name           always empty
     virtual ZFXListValZFXISpecAttribute_var*
     ListPointingAttributes(const char* interfaceName, const ZFXUnicodeString& type, const ZFXUnicodeString& name) = 0;
 };

@@ -1,7 +1,7 @@
 #pragma once
 
-/// A 128-bit identifier of an interface or class. Two of them are the same when their bits are. On Windows it is the
-/// system's own type, elsewhere one of the same shape.
+/// A 128-bit identifier of an interface or class. On Windows it is the system's type. Elsewhere its layout is that of
+/// the type on Windows.
 #ifdef _WIN32
 #include <guiddef.h>
 #else
@@ -10,7 +10,7 @@
 #include <cstring>
 
 struct GUID {
-    /// The bits, in the parts that are written with hyphens between them.
+    /// The bits, in the parts that the text form separates with hyphens.
     /// @{
     std::uint32_t Data1;
     std::uint16_t Data2;
@@ -19,7 +19,7 @@ struct GUID {
     /// @}
 };
 
-/// Whether all bits are the same.
+/// Compares all bits.
 /// @{
 inline bool operator==(const GUID& a, const GUID& b) noexcept { return std::memcmp(&a, &b, sizeof a) == 0; }
 inline bool operator!=(const GUID& a, const GUID& b) noexcept { return !(a == b); }

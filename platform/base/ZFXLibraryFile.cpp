@@ -12,7 +12,7 @@ std::filesystem::path ZFXLibraryFileAt(const void* address) {
                            static_cast<const wchar_t*>(address), &library) == 0)
         return {};
     std::wstring file(MAX_PATH, L'\0');
-    for (;;) { // a path that does not fit fills the buffer
+    for (;;) { // the buffer grows until the path does not fill it
         const auto length = GetModuleFileNameW(library, file.data(), static_cast<DWORD>(file.size()));
         if (length < file.size())
             return file.substr(0, length);

@@ -4,4 +4,4 @@
 
 /// Returns the file of the library or program that contains `address`, as the system's loader found it: the path may be
 /// relative to the folder that was current then. Returns an empty path if the system does not know the file.
-std::filesystem::path ZFXLibraryFileAt(const void* address);
+[[nodiscard]] std::filesystem::path ZFXLibraryFileAt(const void* address);

@@ -6,7 +6,7 @@
 
 #include <winerror.h> // defines the codes
 
-using HRESULT = long; // repeats the system's declaration, whichever header comes first
+using HRESULT = long; // identical to the system's declaration, so the order of headers does not matter
 using ULONG = unsigned long;
 
 #else
@@ -35,4 +35,4 @@ inline constexpr HRESULT E_UNEXPECTED = static_cast<HRESULT>(0x8000FFFFU);
 #endif
 
 /// Returns true if the code means failure.
-constexpr bool Failed(HRESULT code) noexcept { return code < 0; }
+[[nodiscard]] constexpr bool Failed(HRESULT code) noexcept { return code < 0; }
