@@ -11,7 +11,7 @@ public:
     explicit MemoryAttrKey(std::string keyName) : name(std::move(keyName)), isAlias(name == "Alias") {}
     const std::string name;
     const bool isAlias; // compared once, because most requests are for the alias
-    /// Returns the number of references beside the session's own.
+    /// Returns the number of references, without the session's own.
     long References() { return static_cast<long>(Count()) - 1; }
 };
 
@@ -26,7 +26,7 @@ public:
 
     /// Clears the owner. GetOwner returns null from now on.
     void ForgetOwner() noexcept { m_owner = nullptr; }
-    /// Returns the number of references beside that of the object that it points at.
+    /// Returns the number of references, without that of the object that it points at.
     long References() { return static_cast<long>(Count()) - 1; }
 
 private:

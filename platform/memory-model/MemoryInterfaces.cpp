@@ -114,7 +114,7 @@ HRESULT MemoryInterface<ZFXISamAnalysisScan>::FindObjectsOfType(const ZFXUnicode
         return response.code;
     const MemoryLateType* wanted = &MemoryLateType::Of(lateType);
     const MemoryObjects& children = Object().ExtrasOrNone().children;
-    MemoryObjects ahead(children.rbegin(), children.rend()); // the next one last
+    MemoryObjects ahead(children.rbegin(), children.rend()); // a stack: the next object is the last
     while (!ahead.empty()) {
         MemoryObject* next = ahead.back();
         ahead.pop_back();

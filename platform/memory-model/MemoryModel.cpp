@@ -3,7 +3,6 @@
 #include "LateTypes.h"
 #include "memory-model/MemorySession.h"
 
-#include <algorithm>
 #include <cassert>
 #include <string_view>
 
@@ -212,7 +211,8 @@ const char* MemoryModel::FirstUnexpectedArgument() const noexcept {
 }
 
 void MemoryModel::FailNth(MemoryRequest request, long n, MemoryResponse response) {
-    m_session->faults.Add(request, nullptr, std::max(n, 1L), response);
+    assert(n >= 1);
+    m_session->faults.Add(request, nullptr, n, response);
 }
 
 void MemoryModel::FailAlways(MemoryRequest request, MemoryResponse response) {
@@ -223,7 +223,7 @@ void MemoryModel::ClearFaults() { m_session->faults.Clear(); }
 long MemoryModel::LiveObjects() noexcept { return MemoryObject::live; }
 
 long MemoryModel::References() const {
-    long references = -1; // the session's own on the key of the alias
+    long references = -1; // the session has a second reference on the key of "Alias"
     for (MemoryDocumentObject* document : m_session->documents)
         references += document->References();
     for (const auto& [name, key] : m_session->keys)

@@ -5,10 +5,10 @@
 
 #include <memory>
 
-/// Marks what the model offers to programs.
+/// Exports a class from the library of the in-memory model. Everything else is hidden.
 #if !defined(_WIN32)
 #define ZFX_MEMORY_EXPORT __attribute__((visibility("default")))
-#elif defined(ZFXMemoryModel_EXPORTS) // its own sources are compiled
+#elif defined(ZFXMemoryModel_EXPORTS) // defined while the library itself is compiled
 #define ZFX_MEMORY_EXPORT __declspec(dllexport)
 #else
 #define ZFX_MEMORY_EXPORT __declspec(dllimport)
@@ -18,18 +18,19 @@ class MemoryDocument;
 class MemoryModel;
 class MemoryObject;
 
-/// What an object of a document is. The kind gives the interfaces that it offers at first; `With` and
-/// `Without` change them. All offer ZFXISpecObject, ZFXIAlias, ZFXISpecAttrAccess and ZFXILinkableObject.
+/// The kind of an object. It determines the interfaces that the object offers at first; `With` and `Without` change
+/// them. Every object offers ZFXISpecObject, ZFXIAlias, ZFXISpecAttrAccess and ZFXILinkableObject. A member of a set
+/// also offers ZFXISamAnalysisEntity. Searchable kinds also offer ZFXISamAnalysisScan.
 enum class MemoryKind {
-    Feature,          ///< in a set also an entity; in a set of a step also a propagating feature
-    Model,            ///< the analysis model: scan
-    Case,             ///< an analysis case: scan
-    History,          ///< a simulation history: scan; points at each step that is added to it
-    Step,             ///< a step: scan
-    Set,              ///< an analysis set: scan
-    JobContainer,     ///< an analysis set whose father is the model although it lies under a case
-    MeshManager,      ///< an analysis set: scan
-    MeshPart,         ///< with explicit data
+    Feature,          ///< a plain feature; in a set of a step it also offers QVRIPropagatingFeature
+    Model,            ///< the analysis model: searchable
+    Case,             ///< an analysis case: searchable
+    History,          ///< a simulation history: searchable; an attribute of it points at each child
+    Step,             ///< a step: searchable
+    Set,              ///< an analysis set: searchable
+    JobContainer,     ///< an analysis set of jobs: searchable; its father is the model, not its parent
+    MeshManager,      ///< the mesh manager, an analysis set: searchable
+    MeshPart,         ///< a mesh part, with explicit data
     Material,         ///< a material feature
     Group,            ///< a group
     Support,          ///< a support
@@ -38,7 +39,7 @@ enum class MemoryKind {
     Count             ///< the number of kinds
 };
 
-/// A request that a document can be told to answer otherwise.
+/// A request that can be made to fail. `Any` matches all requests.
 enum class MemoryRequest {
     Any,
 #define MEMORY_REQUEST(name) name,
@@ -46,104 +47,112 @@ enum class MemoryRequest {
 #undef MEMORY_REQUEST
 };
 
-/// How a request answers that was told to: with this code, and with its outputs filled or left as they were.
-/// A request without a code reads only `filled`: unfilled gives null, zero, an empty string or an empty
-/// handle, and makes SetAlias and SetString store nothing.
+/// The response injected for a request. By default the request fails with E_UNEXPECTED.
 struct MemoryResponse {
-    /// The code; nothing to a request without one.
+    /// The result code. Requests that return none ignore it.
     HRESULT code = E_UNEXPECTED;
-    /// Whether its outputs are filled.
+    /// True if the request fills its outputs. Otherwise it leaves them unchanged; if it returns a value, the value is
+    /// null, zero or an empty string; a cast gives an empty handle; SetAlias and SetString store nothing.
     bool filled = false;
 };
 
-/// One object of a document, to be built sentence by sentence. A value that holds no reference: good for as
-/// long as the model lives. An empty one answers every question with nothing and changes nothing.
+/// One object of a document, or none. The operations that change it return *this, so that calls can be chained.
+///
+/// It has the size of a pointer, owns no reference, and is valid for as long as the model exists. If there is no
+/// object, all operations do nothing and return empty values.
 class ZFX_MEMORY_EXPORT MemoryFeature {
 public:
+    /// Creates an empty feature.
     MemoryFeature() = default;
-    /// For the model's own use.
+    /// Used by the model only.
     explicit MemoryFeature(MemoryObject* object) : m_object(object) {}
 
-    /// @name Objects below this one, in order; each returns what it made.
+    /// @name Adding objects
+    /// Each operation adds an object as the last child of this one and returns it.
     /// @{
 
-    /// An object of any kind.
+    /// Adds an object of any kind. Below a set, an object that is not itself a set becomes a member of the set.
     MemoryFeature Add(MemoryKind kind, const ZFXUnicodeString& lateType, const ZFXUnicodeString& alias);
-    /// On a case (in its history) or on a history.
+    /// Adds a step. If this object is a case, adds it to the case's simulation history.
     MemoryFeature Step(const ZFXUnicodeString& lateType, const ZFXUnicodeString& alias);
-    /// A new analysis set.
+    /// Adds an analysis set without an alias.
     MemoryFeature Set(const ZFXUnicodeString& lateType);
-    /// A feature; in a set, a member of it.
+    /// Adds an object of kind MemoryKind::Feature.
     MemoryFeature Feature(const ZFXUnicodeString& lateType, const ZFXUnicodeString& alias);
-    /// On a case: a job in its first job container, which is made when there is none.
+    /// Adds a job to the first job container of this case. Creates the container if there is none.
     MemoryFeature Job(const ZFXUnicodeString& alias);
-    /// On a case: its simulation history; empty when it has none.
+    /// Returns the first simulation history of this case, or an empty feature. Adds nothing.
     MemoryFeature History() const;
     /// @}
 
-    /// @name What the object says of itself; each returns the object.
+    /// @name Changing the object
+    /// These operations make no request, so that no fault and no check of names applies to them.
     /// @{
 
-    /// The stored name, past all checks.
+    /// Sets the stored alias.
     MemoryFeature& Alias(const ZFXUnicodeString& alias);
-    /// As if the alias was never written: empty.
+    /// Makes the stored alias empty.
     MemoryFeature& Unnamed();
-    /// A string attribute; a feature has the attribute "Alias" from the start.
+    /// Sets a string attribute. "Alias" is the stored alias; every object has this attribute at first.
     MemoryFeature& Attribute(const char* name, const ZFXUnicodeString& value);
-    /// There is no key for the attribute any more.
+    /// Removes an attribute: GetAttrKey returns null for it. The stored alias is kept.
     MemoryFeature& WithoutAttribute(const char* name);
-    /// It offers the interface from now on.
+    /// Offers an interface. No object can offer ZFXISpecAttribute.
     MemoryFeature& With(const IID& interfaceId);
-    /// It offers the interface no more, nor do extensions of it.
+    /// Offers an interface no longer, not even through an extension of the late type.
     MemoryFeature& Without(const IID& interfaceId);
-    /// Empty for none. The place in the tree stays: the father is what GetFather answers, no more.
+    /// Sets the father, which GetFather returns. An empty feature means none. The parent in the tree does not change.
     MemoryFeature& Father(MemoryFeature father);
-    /// It only came into its step from an earlier one.
+    /// Sets the result of IsPropagated. Default: false.
     MemoryFeature& Propagated(bool propagated = true);
-    /// A property, or none; a feature of the property set that is no amplitude is one by itself.
+    /// Sets the result of IsObjectAProperty. Default: true if the object's first set is the property set and the object
+    /// is not an amplitude.
     MemoryFeature& Property(bool property = true);
-    /// An amplitude, or none; the two amplitude types are by themselves.
+    /// Sets the result of IsObjectAnAmplitude. Default: true for the late types of amplitudes.
     MemoryFeature& Amplitude(bool amplitude = true);
-    /// On a case: one of the solver's own (the default) or not.
+    /// Sets the result of IsTarnisAnalysisCase for this case. Default: true.
     MemoryFeature& SolverCase(bool solver);
-    /// The integer tag of explicit data.
+    /// Sets the tag of the explicit data. Without a tag, GetTag returns E_FAIL.
     MemoryFeature& Tag(int tag);
-    /// What ZFXIMaterialFeature answers.
+    /// Sets the result of GetMaterialFeatureName.
     MemoryFeature& MaterialName(const ZFXUnicodeString& name);
-    /// Makes `member` a member of this set as well; the sets that hold it keep their order.
+    /// Makes `member` also a member of this set. It then offers ZFXISamAnalysisEntity. This set becomes the last of the
+    /// sets that GetParentSets returns for it.
     MemoryFeature& AddMember(MemoryFeature member);
-    /// `owner` gets an attribute that points at this object.
+    /// Adds an attribute of `owner` that points at this object.
     MemoryFeature& PointedAtBy(MemoryFeature owner);
-    /// On a support: one more connector.
+    /// Adds a connector to this support.
     MemoryFeature& AddConnector(MemoryFeature connector);
-    /// On a connector: its group.
+    /// Sets the group of this connector.
     MemoryFeature& SetGroup(MemoryFeature group);
-    /// On a connection design: one more connector of that side.
+    /// Adds a connector to the master side of this connection design.
     MemoryFeature& AddMaster(MemoryFeature connector);
-    /// The same of the other side.
+    /// Adds a connector to the slave side of this connection design.
     MemoryFeature& AddSlave(MemoryFeature connector);
-    /// Every such request on this object answers so from now on.
+    /// Injects `response` into all requests of this kind on this object, until MemoryModel::ClearFaults.
     MemoryFeature& FailAlways(MemoryRequest request, MemoryResponse response = {});
     /// @}
 
-    /// @name Looking back, past all faults and without a request.
+    /// @name Reading the object
+    /// These operations make no request, so that no fault applies to them.
     /// @{
 
-    /// The stored name.
+    /// Returns the stored alias.
     ZFXUnicodeString StoredAlias() const;
-    /// The late type.
+    /// Returns the late type.
     ZFXUnicodeString LateType() const;
-    /// References that others hold on the object.
+    /// Returns the number of references on the object and on the attributes that point at it, without the model's own.
     long References() const;
-    /// [borrowed]
+    /// Returns the object, or null. [borrowed]
     ZFXBaseUnknown* Object() const;
-    /// Whether there is an object.
+    /// Returns true if there is an object.
     explicit operator bool() const noexcept { return m_object != nullptr; }
-    /// Whether both are one object; two empty ones are equal.
+    /// Returns true if both refer to one object or both are empty.
     friend bool operator==(MemoryFeature a, MemoryFeature b) noexcept { return a.m_object == b.m_object; }
     /// @}
 
-    /// The object as a handle of any type: the interface cast.
+    /// Casts the object to an interface. The cast is a request. The handle is empty if the object does not offer the
+    /// interface or there is no object.
     template <class Interface>
     operator ZFXHandle<Interface>() const {
         return ZFXHandle<Interface>(Object());
@@ -151,29 +160,31 @@ public:
 
 private:
     friend class MemoryDocument;
-    /// Calls `action` with the object, if there is one. Returns this feature.
+    /// Calls `action` with the object, if there is one. Returns *this.
     template <class Action>
     MemoryFeature& Change(Action action);
 
     MemoryObject* m_object = nullptr;
 };
 
-/// One document: an analysis model with its cases, a property set and a mesh manager. A value like a feature.
+/// One document: an analysis model with its cases, a property set and a mesh manager. It owns no reference and is valid
+/// for as long as the model exists.
 class ZFX_MEMORY_EXPORT MemoryDocument {
 public:
-    /// The analysis model, there from the start.
+    /// Returns the analysis model, which every document has.
     MemoryFeature Model() const;
-    /// A new case with a simulation history. The first one is current.
+    /// Adds a case with a simulation history. The case becomes the current case if there is none.
     MemoryFeature Case(const ZFXUnicodeString& alias);
-    /// The first of the document, made when there is none.
+    /// Returns the first property set of the model. Adds one if there is none.
     MemoryFeature PropertySet();
-    /// There from the start.
+    /// Returns the mesh manager, which every document has.
     MemoryFeature MeshManager();
-    /// A new part of the mesh manager.
+    /// Adds a part with this tag to the mesh manager.
     MemoryFeature MeshPart(const ZFXUnicodeString& alias, int tag);
-    /// Empty for none.
+    /// Makes a case the current case. An empty feature means that no case is current.
     void MakeCurrent(MemoryFeature analysisCase);
-    ZFXDocument* Document() const; ///< [borrowed]
+    /// Returns the document as the services and GetOwningDocument use it. [borrowed]
+    ZFXDocument* Document() const;
 
 private:
     friend class MemoryModel;
@@ -181,9 +192,11 @@ private:
     class MemoryDocumentObject* m_document;
 };
 
-/// Analysis documents in memory, installed as the analysis services for as long as the model lives: one model
-/// at a time. It owns every object with one reference; an object that others still hold when the model goes
-/// stays, alone, until they let go.
+/// Analysis documents in memory. The constructor installs them as the AnalysisServices, the destructor uninstalls them;
+/// use one model at a time.
+///
+/// The model owns one reference on each object. An object that is still referenced when the model is destroyed keeps
+/// its own data, such as its alias, but its links to other objects and to the document are removed.
 ///
 ///     MemoryModel model;
 ///     MemoryFeature step = model.NewDocument().Case("Static").Step("QVRStaticLPStepLT", "Step-1");
@@ -195,36 +208,42 @@ public:
     MemoryModel& operator=(const MemoryModel&) = delete;
     ~MemoryModel();
 
-    /// The first one is current.
+    /// Adds a document. The first one becomes the current document.
     MemoryDocument NewDocument();
-    /// The document is current from now on.
+    /// Makes a document the current one.
     void MakeCurrent(MemoryDocument document);
-    /// No document is current from now on.
+    /// Leaves no document current. The documents and their objects remain.
     void CloseCurrent();
 
-    /// @name Requests and faults. A request is one operation of an interface or of the services, or one cast.
+    /// @name Requests and faults
+    /// A request is one call of an operation of an interface or of the services, or one cast. Each fault counts the
+    /// requests that it matches. If several faults are due for one request, the one that was added first applies.
     /// @{
 
-    /// How many were made so far.
+    /// Returns the number of requests made so far.
     long Requests() const noexcept;
-    /// The n-th request from now on (n from 1) answers so, once; earlier ones of its kind are passed.
+    /// Injects `response` into the n-th matching request from now on, once. n starts at 1.
     void FailNth(MemoryRequest request, long n = 1, MemoryResponse response = {});
-    /// Every such request, of any object, answers so.
+    /// Injects `response` into all matching requests, on any object, until ClearFaults.
     void FailAlways(MemoryRequest request, MemoryResponse response = {});
-    /// The name of the request that was last told what to answer; empty when none was since ClearFaults.
+    /// Returns the name of the last request into which a response was injected, or "" if there was none since
+    /// ClearFaults. [borrowed]
     const char* LastFault() const noexcept;
-    /// Returns the name of the first request that was rejected because of an argument, or "" if there is none. The
-    /// model supports only the arguments that the module passes: scan mode 3, member flag 0 without a filter, all
-    /// pointing attributes, explicit child flag 1 and string index 0. With any other value a request returns
-    /// E_INVALIDARG or nothing. ClearFaults does not reset the name.
-    const char* FirstUnexpectedArgument() const noexcept;
-    /// All faults are forgotten, those of single objects too.
+    /// Removes all faults, including those of single objects, and resets LastFault.
     void ClearFaults();
+    /// Returns the name of the first request that was rejected because of an argument, or "" if there is none.
+    /// ClearFaults does not reset it. [borrowed]
+    ///
+    /// Some arguments have one supported value, which the naming module always passes: scan mode 3; filter
+    /// CLSID_ZFXBaseUnknown and member flag 0; "ZFXISpecObject" and two empty strings for pointing attributes; explicit
+    /// child flag 1; string index 0. For any other value a request fills nothing and returns E_INVALIDARG, if it
+    /// returns a code.
+    const char* FirstUnexpectedArgument() const noexcept;
     /// @}
 
-    /// Objects of documents that exist in this process, those that outlived their model included.
+    /// Returns the number of objects in this process, including those that outlived their model.
     static long LiveObjects() noexcept;
-    /// References on the model's objects that others hold.
+    /// Returns the number of references on the objects, documents and attribute keys of this model, without its own.
     long References() const;
 
 private:

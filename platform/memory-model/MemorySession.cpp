@@ -33,13 +33,14 @@ constexpr KindRow kKinds[] = {
     {MemoryKind::ConnectionDesign, {IID_QVRISamAnalysisConnectionDesign}},
 };
 
-constexpr bool HasOneRowForEachKind() {
-    std::size_t row = 0;
-    while (row < std::size(kKinds) && kKinds[row].kind == static_cast<MemoryKind>(row))
-        ++row;
-    return row == std::size(kKinds) && row == static_cast<std::size_t>(MemoryKind::Count);
+constexpr bool AreRowsInOrder() {
+    for (std::size_t i = 0; i < std::size(kKinds); ++i)
+        if (kKinds[i].kind != static_cast<MemoryKind>(i))
+            return false;
+    return true;
 }
-static_assert(HasOneRowForEachKind(), "kKinds needs one row for each kind, in the order of MemoryKind");
+static_assert(std::size(kKinds) == static_cast<std::size_t>(MemoryKind::Count) && AreRowsInOrder(),
+              "kKinds needs one row for each kind, in the order of MemoryKind");
 
 bool IsSet(const MemoryObject& object) { return object.IsOffered(ZFXInterfaceNumber::ZFXISamAnalysisSet); }
 
@@ -48,7 +49,8 @@ bool IsAmplitude(const MemoryObject& object) {
     return object.ExtrasOrNone().amplitude.value_or(isOfKind);
 }
 
-/// A property lies in a property set, unless the document says otherwise.
+/// Returns true if the object is a property: by default, if its first set is the property set and it is not an
+/// amplitude.
 bool IsProperty(const MemoryObject& object) {
     const bool inPropertySet =
         !object.parentSets.empty() && object.parentSets.front()->lateType->name == LateTypes::QVRTarnisPropertySetLT;
@@ -131,8 +133,8 @@ MemoryAttrKey* MemorySession::AliasKey() {
     return m_aliasKey;
 }
 
-MemoryObject* MemorySession::Find(const ZFXBaseUnknown* face) const {
-    auto* object = face == nullptr ? nullptr : dynamic_cast<MemoryObject*>(face->GetImpl());
+MemoryObject* MemorySession::Find(const ZFXBaseUnknown* interfacePointer) const {
+    auto* object = interfacePointer == nullptr ? nullptr : dynamic_cast<MemoryObject*>(interfacePointer->GetImpl());
     return object != nullptr && object->document != nullptr && &object->document->session == this ? object : nullptr;
 }
 
@@ -147,12 +149,12 @@ MemoryDocumentObject* MemorySession::DocumentOr(const ZFXDocument* document) con
 
 HRESULT MemorySession::GetAllAnalysisCases(ZFXListValZFXBaseUnknown_var& cases, ZFXDocument* document) {
     const MemoryResponse response = faults.BeginRequest(MemoryRequest::GetAllAnalysisCases, nullptr);
-    const MemoryDocumentObject* asked = DocumentOr(document);
+    const MemoryDocumentObject* found = DocumentOr(document);
     if (!response.filled)
         return response.code;
-    if (asked == nullptr)
+    if (found == nullptr)
         return E_FAIL;
-    for (MemoryObject* child : asked->model->ExtrasOrNone().children)
+    for (MemoryObject* child : found->model->ExtrasOrNone().children)
         if (child->kind == MemoryKind::Case)
             cases.Append(ZFXBaseUnknown_var(child));
     return response.code;
@@ -176,23 +178,23 @@ HRESULT MemorySession::GetJobs(const ZFXListValZFXBaseUnknown_var& cases, ZFXLis
 
 HRESULT MemorySession::GetAnalysisModel(ZFXISamAnalysisModel_var& model, const ZFXDocument* document) {
     const MemoryResponse response = faults.BeginRequest(MemoryRequest::GetAnalysisModel, nullptr);
-    const MemoryDocumentObject* asked = DocumentOr(document);
+    const MemoryDocumentObject* found = DocumentOr(document);
     if (!response.filled)
         return response.code;
-    if (asked == nullptr)
+    if (found == nullptr)
         return E_FAIL;
-    model = InterfaceOf<ZFXISamAnalysisModel>(asked->model);
+    model = InterfaceOf<ZFXISamAnalysisModel>(found->model);
     return response.code;
 }
 
 HRESULT MemorySession::GetMeshManager(ZFXIMSHMeshManager_var& manager, const ZFXDocument* document) {
     const MemoryResponse response = faults.BeginRequest(MemoryRequest::GetMeshManager, nullptr);
-    const MemoryDocumentObject* asked = DocumentOr(document);
+    const MemoryDocumentObject* found = DocumentOr(document);
     if (!response.filled)
         return response.code;
-    if (asked == nullptr)
+    if (found == nullptr)
         return E_FAIL;
-    manager = InterfaceOf<ZFXIMSHMeshManager>(asked->meshManager);
+    manager = InterfaceOf<ZFXIMSHMeshManager>(found->meshManager);
     return response.code;
 }
 
@@ -240,8 +242,8 @@ unsigned char MemorySession::IsObjectAnAmplitude(ZFXISpecObject_var& feature) {
 
 HRESULT MemorySession::GetCurrentAnalysisCaseSP(ZFXISamAnalysisCase_var& analysisCase, ZFXDocument* document) {
     const MemoryResponse response = faults.BeginRequest(MemoryRequest::GetCurrentAnalysisCaseSP, nullptr);
-    const MemoryDocumentObject* asked = DocumentOr(document);
+    const MemoryDocumentObject* found = DocumentOr(document);
     if (response.filled)
-        analysisCase = InterfaceOf<ZFXISamAnalysisCase>(asked == nullptr ? nullptr : asked->currentCase);
+        analysisCase = InterfaceOf<ZFXISamAnalysisCase>(found == nullptr ? nullptr : found->currentCase);
     return response.code;
 }

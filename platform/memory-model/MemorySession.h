@@ -8,12 +8,14 @@ class MemoryDocumentObject final : public ZFXDocument {
 public:
     explicit MemoryDocumentObject(MemorySession& owner);
 
-    /// The model goes: every object is let go, and what others still hold stands alone.
+    /// Detaches and releases all objects. Objects that are still referenced remain, without links.
     void Close();
 
-    /// A new object below `parent`, with what its kind brings.
+    /// Adds an object of a kind as the last child of `parent`. Below a set, an object that is not a set becomes a
+    /// member.
     MemoryObject* Make(MemoryKind kind, const ZFXUnicodeString& lateType, const ZFXUnicodeString& alias,
                        MemoryObject* parent);
+    /// Returns the number of references on the document and its objects, without its own.
     long References();
 
     MemorySession& session;
@@ -23,7 +25,7 @@ public:
     MemoryObject* currentCase = nullptr;
 };
 
-/// What a model holds: its documents, its faults, its attribute keys, and the services on them.
+/// The contents of a model: its documents, faults and attribute keys, and the services that use them.
 class MemorySession final : public AnalysisServices {
 public:
     MemorySession();
@@ -40,12 +42,13 @@ public:
     unsigned char IsObjectAnAmplitude(ZFXISpecObject_var& feature) override;
     HRESULT GetCurrentAnalysisCaseSP(ZFXISamAnalysisCase_var& analysisCase, ZFXDocument* document) override;
 
-    /// The key of an attribute name. [new reference]
+    /// Returns the key of an attribute name. There is one for each name. [new reference]
     MemoryAttrKey* KeyOf(const std::string& name);
+    /// Returns the key of "Alias" without a search. [new reference]
     MemoryAttrKey* AliasKey();
-    /// The object behind a face, or null when it is none of this session's.
-    MemoryObject* Find(const ZFXBaseUnknown* face) const;
-    /// A document by its pointer; the current one for null. Null when there is none.
+    /// Returns the object that implements an interface pointer, or null if it is not in a document of this session.
+    MemoryObject* Find(const ZFXBaseUnknown* interfacePointer) const;
+    /// Returns `document` if it belongs to this session, and the current document for null. Otherwise returns null.
     MemoryDocumentObject* DocumentOr(const ZFXDocument* document) const;
 
     MemoryFaults faults;
@@ -54,5 +57,5 @@ public:
     std::map<std::string, MemoryAttrKey*> keys;
 
 private:
-    MemoryAttrKey* m_aliasKey = KeyOf("Alias"); // one reference of its own
+    MemoryAttrKey* m_aliasKey = KeyOf("Alias"); // a second reference of the session
 };
