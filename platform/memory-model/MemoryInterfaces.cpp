@@ -9,8 +9,6 @@ namespace {
 
 // The values of arguments that the module never varies. The model rejects all others.
 constexpr std::string_view kPointingInterface = "ZFXISpecObject";
-constexpr int kScanMode = 3;
-constexpr int kMemberFlag = 0;
 constexpr int kExplicitChildFlag = 1;
 constexpr int kStringIndex = 0;
 
