@@ -59,9 +59,10 @@ endforeach()
 list(LENGTH ids count)
 set(text "# The messages
 
-The ${count} messages that a user can get when an operation rejects a name or cannot propose one, and the operations that raise
-them. An operation raises a message if it or an operation that it calls does so. Most operations return the code of the
-error; [operations.md](operations.md) lists those that only register it. `/P1` is a parameter.
+The ${count} messages that explain to a user why a name is rejected or cannot be proposed, and the operations that raise them.
+An operation raises a message if it registers the error itself, or if an operation that it calls registers it. Most
+operations return the code of the error. [operations.md](operations.md) lists those that only register it. `/P1` is
+replaced by a text, such as the characters that are not allowed.
 
 This page is written by `cmake -P docs/messages.cmake` from the message catalog and `MessageIds.def`.
 ")

@@ -39,30 +39,32 @@ This page is written by `cmake -P docs/types.cmake` from `facts/LateTypes.def` a
 
 ## How the scopes follow
 
-The scope of a name follows from the interfaces that the feature offers, not from its late type. The columns of the table
-apply to a feature that offers what features of its type normally offer.
+The scope of a name follows from the interfaces that the feature offers, not from its late type. The table shows the
+scopes of features that offer the usual interfaces of their type.
 
 Checks (`IsNameUnique`, `CheckName`) compare the name with the first of these that applies:
 
 - The feature offers `QVRIStep`: the steps of its simulation history.
 - It offers `QVRIPropagatingFeature`: the features of its kind in all steps of the case.
-- It is in a set: the members of the first set that contains it. In no set, every name is unique.
+- It is in a set: the members of the first set that contains it.
+- It is in no set: nothing. Every name is unique.
 
-Proposals (`GetUniqueName`) number over the first of these that applies:
+Proposals (`GetUniqueName`) count the numbers in the first of these that applies:
 
 - The feature offers `QVRIStep`: the steps of the case except the first.
 - The host reports it as a property or an amplitude: the members of the property set.
 - Any other feature: the features of its kind in all steps of the case.
 
-The kind of a feature is the late type of the first set that contains it. Propagated features are skipped, except those of
-the late type `QVRInitialTemperatureLT`.
+The kind of a feature is the late type of the first set that contains it. The features of a kind in all steps do not
+include propagated features, except those of the late type `QVRInitialTemperatureLT`.
 
-Where the late type itself decides:
+The late type itself determines the following results:
 
 - `CreateBaseName` returns the base name in the table.
-- The library guards the names of some types: `QVREFeatureAlias::SetAlias` stores a name only if `CheckName` allows it.
-  For `QVRJobLT`, `IsNameUniqueAcrossCases` decides instead. For `QVRShellSectionEnhLT`, a leading digit is allowed.
-- `GetMorvelObjectName` compares the name of a bolt tightening with the names of all children of its father.
+- The library guards the names of some types: `QVREFeatureAlias::SetAlias` stores a name only if `CheckName` accepts it.
+  For `QVRJobLT`, `IsNameUniqueAcrossCases` must accept it instead. For `QVRShellSectionEnhLT`, a leading digit is
+  allowed.
+- `GetMorvelObjectName` compares the name of a bolt tightening with the names of the other children of its father.
 - The simulation history, the property set and the job containers are found by their late types.
 
 For jobs and mesh parts, the table shows the scopes of `GetUniqueNameForJob`, which always uses the base name \"Job-\",
