@@ -7,8 +7,8 @@
 /// Offers ZFXIAlias on the features of 29 late types. An interface cast of such a feature to ZFXIAlias creates an
 /// adaptor that forwards to an object of this class. The adaptor owns this object.
 ///
-/// The late types and the adaptor are declared to the object model when the module is loaded. docs/types.md lists them
-/// as guarded.
+/// The late types and the adaptor are declared to the object model when the module is loaded. In docs/types.md these
+/// late types are marked as guarded.
 class QVR_NAME_UTILITY_EXPORT QVREFeatureAlias : public QVRBaseFeatureAlias {
 public:
     /// Creates an object that extends no feature.

@@ -7,14 +7,14 @@
 
 #include <memory>
 
-/// Detects whether the workbench runs in English mode, and issues names for features and materials that need another
-/// one in the solver deck.
+/// Detects whether the workbench runs in English mode, and issues the names of features and materials that need a
+/// different name in the solver deck.
 ///
 /// There is one object. It has three lists: of features with the names issued to them, of materials, and of used
-/// generic names. A feature or material keeps its place in the list, and a feature its name, until ResetAllLists. The
+/// generic names. Until ResetAllLists, a feature or material keeps its place in the list, and a feature its name. The
 /// lists own references: call ResetAllLists when a document is closed.
 ///
-/// Terms are defined at QVRNameUtil. Unless documented otherwise:
+/// ARCHITECTURE.md defines the terms. Unless documented otherwise:
 /// - Byte booleans are 0 or 1. Result codes are S_OK, or negative for a failure.
 /// - A failure with E_FAIL registers no error. `name` and the lists are unchanged on failure.
 /// - The caller keeps the ownership of the handles that it passes.
@@ -69,13 +69,13 @@ public:
     ///   listed, or the feature is not among them. Registers an error of this id, as at QVRNameUtil.
     HRESULT GetGenericEnglishName(const ZFXISpecObject_var& feature, ZFXUnicodeString& name) noexcept;
     /// Sets `name` to the name of the feature in the list of features. Before that, appends a feature that is not in
-    /// the list, with this name: the late type, "-" and one more than the number of listed features of this late type,
-    /// without full stops.
+    /// the list. Its name is the late type, "-" and one more than the number of listed features of this late type, with
+    /// full stops removed.
     /// - E_FAIL: the handle is empty.
     HRESULT GetGenericEnglishFeatureName(const ZFXISpecObject_var& feature, ZFXUnicodeString& name) noexcept;
     /// Sets `name` to the name of the feature in the list of features. Before that, appends a feature that is not in
-    /// the list, with this name: its current name, followed by "-n" if n > 0 listed features have it now, without full
-    /// stops.
+    /// the list. Its name is its alias, followed by "-n" if n > 0 listed features have this alias now, with full stops
+    /// removed.
     /// - E_FAIL: the handle is empty, or the feature has no name now, even if it is listed.
     /// - E_FAIL: the feature is not listed, and a listed feature has no name now.
     HRESULT GetFeatureName(const ZFXISpecObject_var& feature, ZFXUnicodeString& name) noexcept;
@@ -84,7 +84,7 @@ public:
 
     /// Sets `name` to the current name of the material, followed by "-n" if n > 0 materials before it in the list of
     /// materials have this name now, with hyphens for full stops. Appends a material that is not listed. The name of a
-    /// material is the one of ZFXIMaterialFeature or, without that interface, its alias.
+    /// material is that of ZFXIMaterialFeature. Without this interface it is the alias.
     /// - E_FAIL: the handle is empty, or the material has no name.
     /// - E_FAIL: a material before it in the list has no name now. If the material is listed, `name` becomes its
     ///   current name without a number, with full stops.

@@ -23,7 +23,7 @@ ZFXMetaClass* AdaptorClass() {
 
 class AliasAdaptor final : public ZFXIAlias {
 public:
-    /// Creates an adaptor on `object` with one reference. Returns null without an object or without memory.
+    /// Creates an adaptor on `object` with one reference. Returns null if `object` is null or no memory is available.
     [[nodiscard]] static AliasAdaptor* Make(ZFXBaseUnknown* object, void* context) {
         auto* adaptor = object == nullptr ? nullptr : new AliasAdaptor;
         if (adaptor == nullptr)
@@ -70,7 +70,7 @@ private:
         return static_cast<QVREFeatureAlias*>(implementation);
     }
 
-    /// The result of the last Tie_Construct, which the next one takes.
+    /// The result of the last call of Tie_Construct. The next call gets it as an argument.
     static inline ZFXBaseUnknown* previousImplementation = nullptr;
 
     ZFXTie m_tie;

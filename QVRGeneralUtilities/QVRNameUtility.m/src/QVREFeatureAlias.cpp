@@ -13,7 +13,7 @@ ZFXUnicodeString QVREFeatureAlias::GetAlias() noexcept { return QVRBaseFeatureAl
 ZFXMetaClass* QVREFeatureAlias::MetaObject() noexcept {
     if (meta_object != nullptr)
         return meta_object;
-    constexpr int kLevel = 32; // for a host's records, like the name of the framework
+    constexpr int kLevel = 32; // the level and the name of the framework are only for the records of a host
     meta_object = fct_RetrieveMetaObject("QVREFeatureAlias", ENUMTypeOfClass::DataExtension, ZFXnull::MetaObject(),
                                          LateTypes::QVRARSurfLT, "QVRGeneralUtilities", kLevel);
     for (const LateTypes::Row& row : LateTypes::kRows)

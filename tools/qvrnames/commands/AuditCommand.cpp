@@ -43,7 +43,7 @@ struct Finding {
 struct Findings {
     std::size_t checked = 0;       ///< number of features
     std::vector<Finding> refusals; ///< names of features that break a rule
-    std::vector<Finding> deck;     ///< names in the deck, although the audit accepts the feature
+    std::vector<Finding> deck;     ///< names in the deck that break a rule or clash
 };
 
 std::string AliasOf(const ZFXISpecObject_var& feature) {
@@ -87,8 +87,8 @@ nlohmann::ordered_json AsJson(const LoadedDocument& loaded, const std::vector<Fi
     return list;
 }
 
-/// Appends the refusals of the stored name of a feature. If both checks refuse it with the same message id, appends the
-/// first only.
+/// Appends the refusals of the stored name of a feature. If both checks refuse it with one message id, appends only the
+/// first refusal.
 void CheckFeature(const LoadedDocument& loaded, std::uint32_t entry, std::vector<Finding>& refusals) {
     const ZFXISpecObject_var feature = loaded.entries[entry].feature;
     const std::string name = AliasOf(feature);

@@ -85,6 +85,7 @@ private:
         return "unknown command \"" + unknown.front() + "\"; " + Suggestion(unknown.front(), known);
     }
 
+    /// Adds the options that are allowed before and after every command.
     void AddCommon(CLI::App* app) {
         app->add_flag("--json", m_console.isJson, "Print the result as JSON");
         app->add_option("--color", m_colour,
@@ -94,6 +95,8 @@ private:
         app->add_option("--language", m_language, "Language of messages: en (default), de, fr or ja")
             ->type_name("LANG");
     }
+    /// Adds a command with its help text, an example of its arguments, and the common options. Parse calls `command` if
+    /// the command line contains the name.
     CLI::App* Add(const char* name, const char* description, const char* example, const std::function<int()>& command) {
         CLI::App* added = m_app.add_subcommand(name, description);
         AddCommon(added);

@@ -10,7 +10,7 @@
 #include <string>
 #include <vector>
 
-// The commands. Each returns an ExitCode and throws BadInput for unusable input.
+// The commands, which CommandLine.cpp calls. Each returns an ExitCode and throws BadInput for unusable input.
 
 struct Console {
     std::ostream& out;
@@ -45,7 +45,7 @@ struct RenameRequest {
     std::string document;
     std::string feature;
     std::string name;
-    std::string output; ///< a file, or "-" for standard output, which sends messages to `err`; empty: `document`
+    std::string output; ///< a file; "-": standard output, with messages on `err`; empty: the file of `document`
 };
 int RenameFeature(const RenameRequest& request, Console console);
 

@@ -11,7 +11,7 @@ namespace {
 
 using Names = std::vector<std::optional<std::string>>;
 
-/// The text when the operation that gave it succeeded.
+/// Returns the text if the operation that set it succeeded, else nothing.
 std::optional<std::string> ValueIf(HRESULT code, const ZFXUnicodeString& text) {
     return Failed(code) ? std::nullopt : std::optional<std::string>(text.ConvertToChar());
 }
@@ -62,7 +62,7 @@ Names MaterialNames(const ZFXISpecObject_var& feature) {
     return {DisplayName(feature), ValueIf(named, name), ValueIf(generated, generic)};
 }
 
-/// Returns nothing for the empty name of a group that is ambiguous or has no legal name.
+/// Returns nothing if the name is empty: the group is ambiguous or has no legal name.
 std::optional<std::string> GroupName(HRESULT code, const ZFXUnicodeString& name) {
     return name.IsNull() != 0 ? std::nullopt : ValueIf(code, name);
 }
@@ -149,8 +149,8 @@ std::size_t SectionOf(const ZFXISpecObject_var& feature) {
     return rest;
 }
 
-/// Returns true if the object is written into the deck: it has a name, belongs to a section other than the features, or
-/// is a step or a member of a set, which may still get a name.
+/// Returns true if the object is written into the deck: it has a name, or it belongs to a section other than the
+/// features. A step or a member of a set is written without a name too, because it gets a generic name.
 bool IsInDeck(const DocumentEntry& entry, const ZFXISpecObject_var& feature) {
     return feature != nullptr && (entry.isNamed || SectionTypes()[SectionOf(feature)].matches != nullptr ||
                                   Offers<QVRIStep_var>(feature) || Offers<ZFXISamAnalysisEntity_var>(feature));

@@ -33,7 +33,8 @@ struct DeckSection {
 /// depends on the document only.
 [[nodiscard]] std::vector<DeckSection> BuildDeck(const LoadedDocument& loaded);
 
-/// A name in the deck that breaks a rule of the solver or is used for two objects, although the audit accepts it.
+/// A name in the deck that breaks a rule of the solver or is used for two objects. The audit may accept the name of the
+/// object nevertheless, because the deck contains another form of it.
 struct DeckFinding {
     std::uint32_t entry;
     std::string column;

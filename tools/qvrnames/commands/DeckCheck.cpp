@@ -8,8 +8,8 @@
 
 namespace {
 
-/// Returns a text that is equal for two names if they are equal apart from letter case. The converse need not be true:
-/// names with equal texts are compared again.
+/// Returns equal texts for names that differ only in letter case. Names with equal texts must be compared again,
+/// because other names may also have equal texts.
 std::string CaseInsensitiveKey(const std::string& name) {
     ZFXUnicodeString text(name.c_str());
     text.ToUpper();

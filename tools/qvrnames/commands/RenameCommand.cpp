@@ -36,8 +36,8 @@ struct Outcome {
     Verdict verdict; ///< on the requested name
 };
 
-/// Checks the name as the alias extension does: it stores the candidate first, and an empty name means the stored one.
-/// Restores the old name afterwards.
+/// Checks the name as the alias extension does: stores it first, because the check reads an empty name as the stored
+/// name. Restores the old name afterwards.
 Verdict CheckAsStored(const ZFXISpecObject_var& feature, const ZFXUnicodeString& name) {
     const ZFXISpecAttrAccess_var attributes(feature);
     if (attributes == nullptr)
@@ -131,7 +131,7 @@ int RenameFeature(const RenameRequest& request, Console console) {
     const std::string feature = DisplayPath(*loaded, entry);
     const Outcome outcome = ApplyName(loaded->entries[entry].feature, name);
     const std::string& target = request.output.empty() ? request.document : request.output;
-    // Writes the file before printing the result, so that no renaming is reported that failed.
+    // The file is written before the result is printed, so that a renaming that cannot be written is not reported.
     const bool needsOutput = outcome.newName != outcome.oldName || !request.output.empty() || target == kStandardStream;
     const bool mustWrite = !outcome.isRefused && needsOutput;
     if (mustWrite)

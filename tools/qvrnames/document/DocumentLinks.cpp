@@ -50,8 +50,8 @@ public:
     }
     void Set(std::uint32_t child, std::uint32_t father) { m_father[child] = father; }
 
-    /// Returns true if the fathers of `from` lead back to an object among them. All calls together visit each object
-    /// once.
+    /// Returns true if the chain of fathers that begins at `from` contains an object twice. All calls together visit
+    /// each object once.
     bool IsOnCycle(std::uint32_t from) {
         ++m_walk;
         for (std::uint32_t at = from; at != DocumentEntry::kNone; at = m_father[at]) {

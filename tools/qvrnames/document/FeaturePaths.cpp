@@ -33,7 +33,8 @@ std::string LastSegments(const std::string& reference, const std::string& path) 
     return begin == std::string::npos ? path : path.substr(begin + 1);
 }
 
-/// Returns the objects whose id, or whose path or the end of it, is similar to the reference, the most similar first.
+/// Returns the objects whose id, or the last segments of whose path, are similar to the reference. The most similar
+/// object comes first.
 Entries ClosestEntries(const LoadedDocument& loaded, std::string reference) {
     reference.erase(reference.find_last_not_of('/') + 1);
     const double limit = 1 + static_cast<double>(reference.size()) / 3;

@@ -5,9 +5,9 @@
 #include <string>
 #include <string_view>
 
-// JSON without a tree. A document of many megabytes is parsed once and one name of it is patched, so a value is only an
-// offset into the text: errors can report its position, and the rest of the file stays as it is, byte for byte.
-// Offsets are in bytes from the beginning of the text.
+// JSON without a tree. A document of many megabytes is parsed once, and one name in it is replaced. A value is
+// therefore only an offset into the text: errors can report the position, and all other bytes of the file are
+// unchanged. Offsets are in bytes from the beginning of the text.
 
 class JsonText;
 

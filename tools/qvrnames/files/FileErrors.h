@@ -11,7 +11,7 @@ inline constexpr std::size_t kMaxDocumentBytes = std::size_t{256} << 20;
 /// The path that means standard input or standard output.
 inline constexpr const char* kStandardStream = "-";
 
-/// Returns the path as a message about reading names it.
+/// Returns the path for messages: "standard input" for kStandardStream.
 inline std::string DisplayFileName(const std::string& path) {
     return path == kStandardStream ? "standard input" : path;
 }

@@ -10,8 +10,8 @@
 [[nodiscard]] std::string ReadWholeFile(const std::string& path);
 
 /// Replaces the content of a file, or creates the file. The bytes are written to a temporary file in the same folder,
-/// flushed to the disk and moved over the file in one step, so that a reader or a crash never sees half of them. Throws
-/// BadInput if any step fails; the file then has its former content.
+/// flushed to the disk and moved over the file in one step, so that the file always has either the former or the new
+/// content, even after a crash. Throws BadInput if any step fails; the file then has its former content.
 /// - An existing file keeps its permissions. A new file gets those of `model`, or the default permissions if `model` is
 ///   "-". On Windows, a new file gets those of its folder.
 /// - If `path` is a symbolic link, its target is replaced.

@@ -16,7 +16,8 @@ constexpr std::size_t kMaxColumnWidth = 48;
 constexpr std::size_t kMaxUnwrappedWidth = 24;
 /// The minimum width of a wrapped column.
 constexpr std::size_t kMinColumnWidth = 16;
-/// The minimum width of a wrapped column of sentences, that is, one wider than kMaxColumnWidth.
+/// The minimum width of a wrapped column of sentences. A column is one of sentences if it needs more than
+/// kMaxColumnWidth.
 constexpr std::size_t kMinTextWidth = 30;
 
 using Widths = std::vector<std::size_t>;

@@ -10,7 +10,8 @@
 
 namespace {
 
-/// Returns the material name of an object that offers one, else its alias. Returns nothing if it offers neither.
+/// Returns the material name of an object that offers ZFXIMaterialFeature. Returns the alias of any other object, or
+/// nothing if it has none.
 std::optional<ZFXUnicodeString> MaterialNameOf(const ZFXISpecObject_var& material) {
     if (const ZFXIMaterialFeature_var named(material); named != nullptr)
         return named->GetMaterialFeatureName();

@@ -52,7 +52,7 @@ public:
 
 private:
     int m_highest = 0;
-    std::vector<bool> m_isUsed;  // by number; up to `count` + 1, because `count` numbers cannot use all of these
+    std::vector<bool> m_isUsed;  // the index is the number; at least one of the numbers 1 to `count` + 1 is unused
     std::ptrdiff_t m_lowest = 1; // all lower numbers are used
 };
 

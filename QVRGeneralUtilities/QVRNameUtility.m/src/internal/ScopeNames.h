@@ -21,8 +21,8 @@
 
 /// Calls `visit` with the objects of a scope in their order, until it returns false.
 ///
-/// Prefetches each object a few calls ahead. The objects of a large scope are spread over more memory than the
-/// processor's caches contain, so most of the time without it is spent waiting for memory.
+/// Prefetches each object a few calls ahead. Without this, a scan of a large scope mostly waits for memory, because the
+/// objects do not fit into the caches of the processor.
 template <class Visit>
 void ForEachPrefetched(const ZFXListValZFXBaseUnknown_var& scope, Visit visit) {
     constexpr std::ptrdiff_t kAhead = 6;
