@@ -175,7 +175,7 @@ public:
     /// - "MeshPartUniqueNameERR": the handle is empty, or the part has no document whose mesh manager lists members.
     static HRESULT GetUniqueNameForMeshPart(ZFXISpecObject_var& meshPart, ZFXUnicodeString& name) noexcept;
 
-    // ---- General entry points: the scope by kind of feature ----
+    // ---- General entry points: the feature's interfaces select the scope ----
 
     /// Checks a name in the feature's scope. If the feature is not a step, also fails as IsNameUniqueInSet does.
     /// - Step (QVRIStep): the scope is the children of its simulation history.
@@ -183,9 +183,9 @@ public:
     ///   - "StepParentERR_02": the children of the history cannot be listed.
     ///   - "DuplicateNameERR_01" for a clash, "ZFXIAliasERR_01" for a missing name: registered after the error of the
     ///     comparison. If that error could not be registered, the result is 1, a success.
-    /// - Other propagating feature: the scope is the features of its kind in all steps of its case or, in no case, of
-    ///   the current case of its document. Without a current case, returns the code of the request for it. Skips
-    ///   propagated features except initial temperatures, and steps that cannot be searched except the last.
+    /// - Other propagating feature: the scope is the features of its kind in all steps of its case or, outside every
+    ///   case, of the current case of its document. Without a current case, returns the code of the request for it.
+    ///   Skips propagated features except initial temperatures, and steps that cannot be searched except the last.
     ///   - "ObjectParentERR_01": the case or its simulation history does not offer ZFXISamAnalysisScan.
     ///   - "AnalysisCaseERR_03": the simulation history is not found.
     ///   - E_FAIL: there are steps, but no set of the feature, or the last step does not offer ZFXISamAnalysisScan.
