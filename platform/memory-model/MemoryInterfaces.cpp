@@ -94,8 +94,8 @@ HRESULT MemoryInterface<ZFXISamAnalysisModel>::ListAnalysisCases(ZFXListValZFXBa
 
 HRESULT MemoryInterface<ZFXISamAnalysisSet>::ListMembers(ZFXListValZFXISpecObject_var& members, const IID& filter,
                                                          int flag) {
-    const MemoryResponse response =
-        Object().BeginRequest(MemoryRequest::ListMembers, filter == CLSID_ZFXBaseUnknown && flag == kMemberFlag);
+    const MemoryResponse response = Object().BeginRequest(
+        MemoryRequest::ListMembers, filter == CLSID_ZFXBaseUnknown && flag == ZFXISamAnalysisSet::kMemberFlag);
     if (!response.filled)
         return response.code;
     const MemoryObjects& objects = Object().ExtrasOrNone().members;
@@ -107,7 +107,8 @@ HRESULT MemoryInterface<ZFXISamAnalysisSet>::ListMembers(ZFXListValZFXISpecObjec
 
 HRESULT MemoryInterface<ZFXISamAnalysisScan>::FindObjectsOfType(const ZFXUnicodeString& lateType,
                                                                 ZFXListValZFXBaseUnknown_var& found, int mode) {
-    const MemoryResponse response = Object().BeginRequest(MemoryRequest::FindObjectsOfType, mode == kScanMode);
+    const MemoryResponse response =
+        Object().BeginRequest(MemoryRequest::FindObjectsOfType, mode == ZFXISamAnalysisScan::kScanMode);
     if (!response.filled)
         return response.code;
     const MemoryLateType* wanted = &MemoryLateType::Of(lateType);
@@ -125,7 +126,8 @@ HRESULT MemoryInterface<ZFXISamAnalysisScan>::FindObjectsOfType(const ZFXUnicode
 }
 
 HRESULT MemoryInterface<ZFXISamAnalysisScan>::ListChildren(ZFXListValZFXBaseUnknown_var& children, int mode) {
-    const MemoryResponse response = Object().BeginRequest(MemoryRequest::ListChildren, mode == kScanMode);
+    const MemoryResponse response =
+        Object().BeginRequest(MemoryRequest::ListChildren, mode == ZFXISamAnalysisScan::kScanMode);
     if (response.filled)
         AppendAll(Object().ExtrasOrNone().children, children);
     return response.code;
