@@ -8,10 +8,10 @@
 
 namespace {
 
-TEST(CharacterSets, OffendingUnitsAreListedForTheUser) {
+TEST(CharacterSets, AppendEveryForbiddenCharacterToTheList) {
     struct Row {
         const char* name;
-        const char* before; // what the list holds already
+        const char* before; // the text that the list already contains
         const char* above255;
         const char* above127;
     };
@@ -23,33 +23,29 @@ TEST(CharacterSets, OffendingUnitsAreListedForTheUser) {
         {"aαbα", "x", "xα  α ", "xα  α "},
         {"\u00FF\u0100", "", "\u0100 ", "\u00FF  \u0100 "},
         {"\u007F\u0080", "", "", "\u0080 "},
-        {"😀", "", "\xEF\xBF\xBD  \xEF\xBF\xBD ", "\xEF\xBF\xBD  \xEF\xBF\xBD "}, // both halves, each by itself
+        {"😀", "", "\xEF\xBF\xBD  \xEF\xBF\xBD ", "\xEF\xBF\xBD  \xEF\xBF\xBD "}, // each surrogate counts as one unit
     };
-    for (const Row& row : rows) {
-        ZFXUnicodeString wide(row.before);
-        ZFXUnicodeString high(row.before);
-        const HRESULT wideCode = QVRNameUtil::DoesNameContainDoubleByteChar(row.name, wide);
-        const HRESULT highCode = QVRNameUtil::DoesNameContainSignedChar(row.name, high);
-        EXPECT_EQ(Text(wide), row.above255) << row.name;
-        EXPECT_EQ(Text(high), row.above127) << row.name;
-        EXPECT_EQ(ResultText(wideCode), wide == row.before ? "S_OK" : "DoubleByteCharErr_01") << row.name;
-        EXPECT_EQ(ResultText(highCode), high == row.before ? "S_OK" : "DoubleByteCharErr_01") << row.name;
-        if (const ZFXError* error = ZFXError::ZFXGetLastError(wideCode, nullptr)) {
-            ASSERT_EQ(error->DiagnosticParameters().size(), 1U);
-            EXPECT_EQ(error->DiagnosticParameters()[0], wide);
+    for (const Row& row : rows)
+        for (const auto& [operation, expected] : {std::pair(&QVRNameUtil::DoesNameContainDoubleByteChar, row.above255),
+                                                  std::pair(&QVRNameUtil::DoesNameContainSignedChar, row.above127)}) {
+            ZFXUnicodeString offending(row.before);
+            const HRESULT code = operation(row.name, offending);
+            EXPECT_EQ(Narrow(offending), expected) << row.name;
+            EXPECT_EQ(ResultText(code), offending == row.before ? "S_OK" : "DoubleByteCharErr_01") << row.name;
+            if (const ZFXError* error = ZFXError::ZFXGetLastError(code, nullptr)) {
+                EXPECT_EQ(error->DiagnosticParameters(), std::vector{offending}) << row.name;
+            }
         }
-    }
-    ZFXUnicodeString both("aα");
-    QVRNameUtil::DoesNameContainDoubleByteChar(both, both); // the list may be the name
-    EXPECT_EQ(Text(both), "aαα ");
+    ZFXUnicodeString both("aα"); // one object for the name and the list
+    QVRNameUtil::DoesNameContainDoubleByteChar(both, both);
+    EXPECT_EQ(Narrow(both), "aαα ");
 }
 
-TEST(CharacterSets, NamesAreStrippedAndQuoted) {
+TEST(CharacterSets, StripAndQuoteFileNames) {
     const std::tuple<const char*, const char*, const char*> rows[] = {
         {"my job (1).inp", "myjob1.inp", "\"my job (1).inp\""},
         {" $*?,#!&~()[]{}|:;'`/><", "", "\" $*?,#!&~()[]{}|:;'`/><\""},
         {"a\"b\\c.d", "a\"b\\c.d", "a\"b\\c.d"},
-        {"Step-1", "Step-1", "Step-1"},
         {"\"half quoted", "\"halfquoted", "\"half quoted"},
         {"x \"y", "x\"y", "\"x \"y\""},
         {"", "", ""},
@@ -59,31 +55,28 @@ TEST(CharacterSets, NamesAreStrippedAndQuoted) {
         ZFXUnicodeString quoted(name);
         EXPECT_EQ(QVRNameUtil::StripIllegalCharsFromFileName(stripped), S_OK);
         QVRNameUtil::QuoteIfNeeded(quoted);
-        EXPECT_EQ(Text(stripped), expectedStripped);
-        EXPECT_EQ(Text(quoted), expectedQuoted);
+        EXPECT_EQ(Narrow(stripped), expectedStripped) << name;
+        EXPECT_EQ(Narrow(quoted), expectedQuoted) << name;
     }
 }
 
-TEST(CharacterSets, PadStringsJoinsWhatItWasGiven) {
-    ZFXUnicodeString name("Mesh 1");
-    ZFXUnicodeString suffix("a b");
-    ZFXUnicodeString prefix("P ");
-    EXPECT_EQ(QVRNameUtil::PadStrings(name, suffix, prefix), S_OK);
-    EXPECT_EQ(Text(name) + "|" + Text(suffix) + "|" + Text(prefix), "PMesh1_ab|ab|P ");
-
-    name = Repeated('n', 85);
-    QVRNameUtil::PadStrings(name, suffix, prefix);
-    EXPECT_EQ(name, ZFXUnicodeString("P") + Repeated('n', 79));
-
-    const unsigned short half[] = {u'a', 0xD800};
-    suffix.BuildFromUCChar(half, 2);
-    name = "n";
-    QVRNameUtil::PadStrings(name, suffix, prefix);
-    EXPECT_EQ(Text(name), "Pn_a\xEF\xBF\xBD"); // by way of the narrow form
-
-    ZFXUnicodeString all("a (b)");
+TEST(CharacterSets, PadStringsJoinsPrefixNameAndSuffix) {
+    const std::tuple<ZFXUnicodeString, ZFXUnicodeString, const char*, ZFXUnicodeString> rows[] = {
+        {"Mesh 1", "a b", "PMesh1_ab", "ab"},
+        {Repeated('n', 80), "ab", "Pnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnn",
+         "ab"},
+        {"n", ZFXUnicodeString(u"\xD800"), "Pn_\uFFFD", ZFXUnicodeString(u"\xD800")}, // converted through UTF-8
+    };
+    for (auto [name, suffix, expectedName, expectedSuffix] : rows) {
+        ZFXUnicodeString prefix("P ");
+        EXPECT_EQ(QVRNameUtil::PadStrings(name, suffix, prefix), S_OK);
+        EXPECT_EQ(name, expectedName);
+        EXPECT_EQ(suffix, expectedSuffix);
+        EXPECT_EQ(prefix, "P ");
+    }
+    ZFXUnicodeString all("a (b)"); // one object for all three
     QVRNameUtil::PadStrings(all, all, all);
-    EXPECT_EQ(Text(all), "a(b)a(b)_ab");
+    EXPECT_EQ(all, "a(b)a(b)_ab");
 }
 
 } // namespace

@@ -1,9 +1,8 @@
 #include "QVREFeatureAlias.h"
 #include "QVRGenI18NUtils.h"
 #include "QVRGenInstanceName.h"
-#include "QVRNameUtil.h"
 
-#include "support/DocumentTest.h"
+#include "support/ScopeTest.h"
 
 #include <algorithm>
 #include <cctype>
@@ -18,9 +17,11 @@ namespace {
 using Util = QVRNameUtil;
 using I18N = QVRGenI18NUtils;
 
-/// A document that contains what every operation needs, and one call of each operation.
-class Requests : public DocumentTest {
+/// A document with an object for every operation, and one call of each operation.
+class Requests : public ScopeTest {
 public:
+    using ScopeTest::Call, ScopeTest::Propose, ScopeTest::Rename;
+
     MemoryFeature analysisCase = document.Case("Static");
     MemoryFeature step = analysisCase.Step("QVRStaticLPStepLT", "Step-1");
     MemoryFeature step2 = analysisCase.Step("QVRStaticLPStepLT", "Step-2");
@@ -45,75 +46,34 @@ public:
     MemoryFeature support = root.Add(MemoryKind::Support, "S", "s").AddConnector(connector);
     MemoryFeature design = root.Add(MemoryKind::ConnectionDesign, "D", "d").AddMaster(connector).AddSlave(connector);
     I18N* utils = I18N::Instance();
-    static constexpr MemoryResponse kOther{3, true};
+    static constexpr MemoryResponse kOtherSuccess{3, true};
 
-    /// Calls an operation. Returns its code, and the text that it stores unless `text` is unchanged.
-    template <class Operation>
-    static std::string Call(const char* text, Operation operation) {
-        ZFXUnicodeString name(text);
-        const HRESULT code = operation(name);
-        return (code == kCode ? "code" : ResultText(code)) + (name == text ? "" : "|" + Text(name));
-    }
-    template <class Operation>
-    static std::string Call(MemoryFeature feature, const char* text, Operation operation) {
-        ZFXISpecObject_var handle(feature);
-        return Call(text, [&](ZFXUnicodeString& name) { return operation(handle, name); });
-    }
-    /// Names two features. The caches remember the first when the second is named.
+    /// Names two features. The first one is in the caches when the second one is named.
     template <class Operation>
     std::string Both(MemoryFeature first, MemoryFeature second, Operation operation) {
         const auto call = std::bind_front(operation, utils);
         const std::string result = Call(first, "", call);
         return result + ", " + Call(second, "", call);
     }
-    std::string Propose(MemoryFeature feature, const char* base, MemoryFeature scope) {
-        return Call(feature, base, [&](auto& handle, auto& name) {
-            ZFXISamAnalysisCase_var given(scope);
-            Util::GetUniqueName(name, handle, given);
-            return S_OK;
-        });
-    }
-    /// Renames a feature. Returns the stored name and the beginning of the console line.
-    static std::string Rename(MemoryFeature feature, const char* former, const char* name) {
-        feature.Alias(former);
-        const std::string console = CapturedOutput([&] {
-            if (const ZFXIAlias_var alias(feature); alias != nullptr)
-                alias->SetAlias(name);
-        });
-        return Text(feature.StoredAlias()) + "|" + console.substr(0, console.find(':'));
-    }
-    std::string Group() {
-        return Call(support, "x", [](auto& handle, auto& name) { return Util::GetSupportGroupName(handle, name); });
-    }
     std::string Sides() {
         QVRISamAnalysisConnectionDesign_var handle(design);
         ZFXUnicodeString slave("s");
-        const std::string master =
-            Call("m", [&](auto& name) { return Util::GetGrpNameofMasterAndSlave(handle, name, slave); });
-        return master + "|" + Text(slave);
-    }
-    std::string Next() {
-        const ZFXISamAnalysisSet_var handle(set);
-        return Call("P-", [&](auto& name) { return Util::GetNextUniqueName(name, handle); });
-    }
-    std::string Generate() {
-        return Call(wide, "x", [](auto& handle, auto& name) {
-            return handle == nullptr ? E_FAIL : Util::GenerateUniqueName(*handle.Get(), name);
-        });
+        const auto call = [&](auto& name) { return Util::GetGrpNameofMasterAndSlave(handle, name, slave); };
+        const std::string master = Call("m", call);
+        return master + "|" + Narrow(slave);
     }
     std::string InSet() {
-        const auto scope = ListOf({bolt, step, twin});
+        const auto scope = MakeList({bolt, step, twin});
         return Call(bolt, "", [&](auto& handle, auto& name) { return Util::IsNameUniqueInSet(handle, scope, name); });
-    }
-    std::string Checked() {
-        return Call(step, "", [](auto& handle, auto& name) { return Util::CheckName(handle, name, 1); });
     }
     std::string Instance() {
         const ZFXIMSHMeshPart_var handle(widePart);
-        ZFXUnicodeString second("p");
-        const std::string first =
-            Call("i", [&](auto& name) { return QVRGenInstanceName::GetUniqueLegalInstanceName(handle, name, second); });
-        return first + "|" + Text(second);
+        ZFXUnicodeString partName("p");
+        const auto call = [&](auto& name) {
+            return QVRGenInstanceName::GetUniqueLegalInstanceName(handle, name, partName);
+        };
+        const std::string instance = Call("i", call);
+        return instance + "|" + Narrow(partName);
     }
 };
 
@@ -122,15 +82,17 @@ struct Operation {
     std::string (*call)(Requests& document);
 };
 
+void PrintTo(const Operation& operation, std::ostream* out) { *out << operation.name; }
+
 // clang-format off
 const Operation kOperations[] = {
     {"GetObjectName", [](Requests& d) { return Requests::Call(d.load, "x", Util::GetObjectName); }},
     {"GetMorvelObjectName", [](Requests& d) { return Requests::Call(d.bolt, "x", Util::GetMorvelObjectName); }},
     {"GetParentStepName", [](Requests& d) { return Requests::Call(d.load, "x", Util::GetParentStepName); }},
-    {"GetSupportGroupName", [](Requests& d) { return d.Group(); }},
+    {"GetSupportGroupName", [](Requests& d) { return Requests::Call(d.support, "x", [](auto& handle, auto& name) { return Util::GetSupportGroupName(handle, name); }); }},
     {"GetGrpNameofMasterAndSlave", [](Requests& d) { return d.Sides(); }},
-    {"GetNextUniqueName", [](Requests& d) { return d.Next(); }},
-    {"GenerateUniqueName", [](Requests& d) { return d.Generate(); }},
+    {"GetNextUniqueName", [](Requests& d) { return Requests::Call("P-", [&](auto& name) { return Util::GetNextUniqueName(name, ZFXISamAnalysisSet_var(d.set)); }); }},
+    {"GenerateUniqueName", [](Requests& d) { return Requests::Call(d.wide, "x", [](auto& handle, auto& name) { return handle == nullptr ? E_FAIL : Util::GenerateUniqueName(*handle.Get(), name); }); }},
     {"CreateBaseName", [](Requests& d) { return Requests::Call(d.load, "x", Util::CreateBaseName); }},
     {"IsNameUniqueInSet", [](Requests& d) { return d.InSet(); }},
     {"IsNameUniqueAcrossCases", [](Requests& d) { return Requests::Call(d.job, "job-2", Util::IsNameUniqueAcrossCases); }},
@@ -140,7 +102,7 @@ const Operation kOperations[] = {
     {"IsNameUnique, a step", [](Requests& d) { return Requests::Call(d.step, "step-2", Util::IsNameUnique); }},
     {"IsNameUnique, a load", [](Requests& d) { return Requests::Call(d.load, "load-2", Util::IsNameUnique); }},
     {"IsNameUnique, a section", [](Requests& d) { return Requests::Call(d.section, "p-2", Util::IsNameUnique); }},
-    {"CheckName", [](Requests& d) { return d.Checked(); }},
+    {"CheckName", [](Requests& d) { return Requests::Call(d.step, "", [](auto& handle, auto& name) { return Util::CheckName(handle, name, 1); }); }},
     {"CheckFileName", [](Requests& d) { return Requests::Call(d.section, "", Util::CheckFileName); }},
     {"GetUniqueName, a step", [](Requests& d) { return d.Propose(d.step, "Step-", {}); }},
     {"GetUniqueName, a section", [](Requests& d) { return d.Propose(d.section, "P-", d.analysisCase); }},
@@ -151,10 +113,10 @@ const Operation kOperations[] = {
     {"GetMaterialName", [](Requests& d) { return d.Both(d.steel, d.steel2, &I18N::GetMaterialName); }},
     {"GetGenericEnglishMaterialName", [](Requests& d) { return d.Both(d.steel, d.steel2, &I18N::GetGenericEnglishMaterialName); }},
     {"GetUniqueLegalInstanceName", [](Requests& d) { return d.Instance(); }},
-    {"SetAlias, refused", [](Requests& d) { return Requests::Rename(d.step, "Step-1", "1.0"); }},
-    {"SetAlias, stored", [](Requests& d) { return Requests::Rename(d.section, "P-1", " P-3_"); }},
-    {"SetAlias, emptied", [](Requests& d) { return Requests::Rename(d.section, "P-1", " _"); }},
-    {"SetAlias, a job", [](Requests& d) { return Requests::Rename(d.job, "Job-1", "job-2"); }},
+    {"SetAlias, refused", [](Requests& d) { return Requests::Rename(d.step.Alias("Step-1"), "1.0"); }},
+    {"SetAlias, stored", [](Requests& d) { return Requests::Rename(d.section.Alias("P-1"), " P-3_"); }},
+    {"SetAlias, emptied", [](Requests& d) { return Requests::Rename(d.section.Alias("P-1"), " _"); }},
+    {"SetAlias, a job", [](Requests& d) { return Requests::Rename(d.job.Alias("Job-1"), "job-2"); }},
 };
 // clang-format on
 
@@ -189,11 +151,11 @@ auto RaisesOnlyItsMessages(std::string_view name, Call call) {
     return result;
 }
 
-/// Fails each request of one operation in turn, in four ways, and compares the results with failing-requests.txt.
-/// To write that file anew, run module-tests with QVR_WRITE_EXPECTED=1 and look at the difference.
+/// Injects four responses into each request of one operation and compares the results with failing-requests.txt.
+/// To regenerate that file, run module-tests with QVR_WRITE_EXPECTED=1 and examine the difference.
 class FailingRequestsTest : public Requests, public ::testing::WithParamInterface<Operation> {
 protected:
-    /// Returns the result, and the number of references that the singleton keeps.
+    /// Returns the result, and the number of references that the singleton has.
     std::string Result() {
         std::string result = RaisesOnlyItsMessages(GetParam().name, [&] { return GetParam().call(*this); });
         if (const long kept = model.References(); kept != 0)
@@ -204,24 +166,20 @@ protected:
     }
     /// Returns the section of an operation in the file of expected results.
     static std::string Expected(const std::string& name) {
-        std::ifstream file(kExpected);
-        std::string line;
-        std::string text;
-        bool inside = false;
-        while (std::getline(file, line)) {
-            if (line.starts_with('['))
-                inside = line == "[" + name + "]";
-            else if (inside && !line.empty())
-                text += line + "\n";
-        }
-        return text;
+        std::ostringstream file;
+        file << std::ifstream(kExpected).rdbuf();
+        const std::string text = file.str();
+        const std::string heading = "[" + name + "]\n";
+        const std::size_t begin = text.find(heading);
+        const std::size_t end = text.find("\n\n", begin) + 1;
+        return begin == std::string::npos ? "" : text.substr(begin + heading.size(), end - begin - heading.size());
     }
 
     static constexpr const char* kExpected = SOURCE_ROOT "/tests/module/failing-requests.txt";
 };
 
 TEST_P(FailingRequestsTest, GiveTheExpectedResult) {
-    for (int i = 0; i < ZFXError::kRegistered; ++i) // from now on each error takes the place of another
+    for (int i = 0; i < ZFXError::kRegistered; ++i) // from now on each new error replaces the oldest one
         EXPECT_EQ(Call({}, "", Util::CheckFileName), "ZFXIAliasERR_01");
     const std::string normal = Result();
     const long before = model.Requests();
@@ -234,9 +192,10 @@ TEST_P(FailingRequestsTest, GiveTheExpectedResult) {
     for (long k = 1; k <= requests; ++k) {
         std::string request;
         std::string results;
-        for (const auto& [way, answer] : {std::pair("fails", kFails), std::pair("fails, filled", kFailsFilled),
-                                          std::pair("succeeds, empty", kEmpty), std::pair("returns 3", kOther)}) {
-            model.FailNth(MemoryRequest::Any, k, answer);
+        for (const auto& [way, response] :
+             {std::pair("fails", kFailure), std::pair("fails, filled", kFailureWithOutput),
+              std::pair("succeeds, empty", kSuccessWithoutOutput), std::pair("returns 3", kOtherSuccess)}) {
+            model.FailNth(MemoryRequest::Any, k, response);
             const std::string result = Result();
             request = model.LastFault();
             model.ClearFaults();
@@ -266,7 +225,7 @@ TEST_F(Requests, ChecksOfTextsRaiseOnlyTheirMessages) {
         RaisesOnlyItsMessages("IsFileNameValid", [&] { return Util::IsFileNameValid(name); });
         RaisesOnlyItsMessages("CheckName", [&] { return Util::CheckName(feature, name, 1); });
         RaisesOnlyItsMessages("CheckFileName", [&] { return Util::CheckFileName(feature, name); });
-        RaisesOnlyItsMessages("SetAlias", [&] { return Rename(step, "Step-1", text); });
+        RaisesOnlyItsMessages("SetAlias", [&] { return Rename(step.Alias("Step-1"), text); });
         RaisesOnlyItsMessages("DoesNameContainDoubleByteChar",
                               [&] { return Util::DoesNameContainDoubleByteChar(name, offending); });
         RaisesOnlyItsMessages("DoesNameContainSignedChar",
@@ -278,10 +237,8 @@ TEST_F(Requests, ChecksOfTextsRaiseOnlyTheirMessages) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Each, FailingRequestsTest, ::testing::ValuesIn(kOperations), [](const auto& operation) {
-    std::string name;
-    for (const char c : std::string(operation.param.name))
-        if (std::isalnum(static_cast<unsigned char>(c)) != 0)
-            name += c;
+    std::string name = operation.param.name;
+    std::erase_if(name, [](unsigned char c) { return std::isalnum(c) == 0; });
     return name;
 });
 

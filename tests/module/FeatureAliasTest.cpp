@@ -3,10 +3,25 @@
 #include "LateTypes.h"
 #include "support/DocumentTest.h"
 
+#ifndef _WIN32
+#include <dlfcn.h>
+
+namespace {
+int allocationsUntilFailure = 0; // 0: no allocation fails
+}
+
+/// Replaces the allocator of the platform library for the module, so that one allocation can fail.
+void* ZFXBaseUnknown::operator new(std::size_t size) noexcept {
+    static const auto original = reinterpret_cast<void* (*)(std::size_t)>(dlsym(RTLD_NEXT, "_ZN14ZFXBaseUnknownnwEm"));
+    const bool fails = allocationsUntilFailure > 0 && --allocationsUntilFailure == 0;
+    return fails ? nullptr : original(size);
+}
+#endif
+
 namespace {
 
-/// Writes down which adaptors come and go.
-class Watched final : public ZFXBaseUnknown {
+/// Records the last adaptor and how often adaptors were attached (+) and detached (-).
+class AdaptedObject final : public ZFXBaseUnknown {
 public:
     void ChangeComponentState(ZFXComponentState state, ZFXBaseUnknown* adaptor) override {
         states += state == ZFXComponentState::AdaptorAttached ? '+' : '-';
@@ -22,123 +37,136 @@ protected:
     MemoryFeature analysisCase = document.Case("Static");
     MemoryFeature step = analysisCase.Step("QVRStaticLPStepLT", "Step-1");
     MemoryFeature other = analysisCase.Step("QVRStaticLPStepLT", "step");
-
-    /// Renames as a host does; what stands in the alias afterwards, and what the console said.
-    std::string Rename(MemoryFeature feature, const ZFXUnicodeString& name) {
-        const std::string console = CapturedOutput([&] { ZFXIAlias_var(feature)->SetAlias(name); });
-        return Text(feature.StoredAlias()) + "|" + console.substr(0, console.find(':'));
-    }
 };
 
-TEST_F(FeatureAliasTest, AStepIsRenamedUnderTheRules) {
+TEST_F(FeatureAliasTest, StoresATrimmedNameThatPassesTheChecks) {
     const std::string console = CapturedOutput([&] { ZFXIAlias_var(step)->SetAlias(" Step_ "); });
     EXPECT_EQ(console, "NAME ERROR: Another step of this analysis case already has the name; capital and small letters "
                        "count as the same. Choose a name that no step of the case has.\n");
-    EXPECT_EQ(Text(ZFXIAlias_var(step)->GetAlias()), "Step-1");
-    EXPECT_EQ(Rename(step, "  _ _Lo ad__ "), " _Lo ad|"); // blanks first, then underscores, each once
+    EXPECT_EQ(ZFXIAlias_var(step)->GetAlias(), "Step-1");
+    EXPECT_EQ(Rename(step, "  _ _Lo ad__ "), " _Lo ad|"); // spaces first, then underscores, each once
     EXPECT_EQ(Rename(step, "Tr\xC3\xA4ger"), "Träger|");
-    for (const char* refused : {"", " __ ", "1st", "a.b", "日本"})
-        EXPECT_EQ(Rename(step, refused), "Träger|NAME ERROR") << refused;
-    EXPECT_EQ(Rename(step, "TRÄGER"), "TRÄGER|"); // its own name in other letters
+    for (const char* rejected : {"", " __ ", "1st", "a.b", "日本"})
+        EXPECT_EQ(Rename(step, rejected), "Träger|NAME ERROR") << rejected;
+    EXPECT_EQ(Rename(step, "TRÄGER"), "TRÄGER|") << "its own name with other letter case";
 }
 
-TEST_F(FeatureAliasTest, JobsAndShellSectionsHaveRulesOfTheirOwn) {
+TEST_F(FeatureAliasTest, ChecksJobsAndShellSectionsByTheirOwnRules) {
     MemoryFeature job = analysisCase.Job("Job-1");
     document.Case("Second").Job("Job-2");
     EXPECT_EQ(Rename(job, "JOB-2"), "Job-1|NAME ERROR");
-    EXPECT_EQ(Rename(job, "1.日 \"\\"), "1.日 \"\\|"); // nothing else is asked of a job
+    EXPECT_EQ(Rename(job, "1.日 \"\\"), "1.日 \"\\|"); // only the uniqueness of a job is checked
     EXPECT_EQ(Rename(job, ""), "|");
     MemoryFeature section = document.PropertySet().Feature("QVRShellSectionEnhLT", "Section");
     EXPECT_EQ(Rename(section, "1st section"), "1st section|");
     EXPECT_EQ(Rename(section, "1.st"), "1st section|NAME ERROR");
-    MemoryFeature layup = document.PropertySet().Feature("QVRLayupLT", "Layup");
-    EXPECT_EQ(Rename(layup, "1st layup"), "Layup|NAME ERROR");
-    analysisCase.FailAlways(MemoryRequest::FindObjectsOfType, kFailsFilled);
+    EXPECT_EQ(Rename(document.PropertySet().Feature("QVRLayupLT", "Layup"), "1st layup"), "Layup|NAME ERROR");
     job.Father(MemoryFeature());
-    model.FailAlways(MemoryRequest::GetParentSets, kFails);
-    EXPECT_EQ(Rename(job, "x"), "|"); // refused without a registered error: silently
+    model.FailAlways(MemoryRequest::GetParentSets, kFailure);
+    EXPECT_EQ(Rename(job, "x"), "|") << "no error is registered, so nothing is printed";
 }
 
-TEST_F(FeatureAliasTest, SetterReadsOnceAndStoresTwice) {
+TEST_F(FeatureAliasTest, ReadsTheAliasOnceAndStoresItTwice) {
     MemoryFeature job = analysisCase.Job("");
     MemoryFeature layup = document.PropertySet().Feature("QVRLayupLT", "");
     const std::pair<MemoryRequest, long> firstUnexpected[] = {
         {MemoryRequest::GetString, 2}, {MemoryRequest::SetString, 3}, {MemoryRequest::GetLateType, 2}};
-    for (const auto& [request, number] : firstUnexpected) {
-        model.FailNth(request, number);
-        EXPECT_EQ(Rename(job, "Job-2"), "Job-2|");
-        EXPECT_STREQ(model.LastFault(), "") << "a renaming that is accepted";
-        model.ClearFaults();
-        model.FailNth(request, number);
-        EXPECT_EQ(Rename(layup, "1.st"), "|NAME ERROR");
-        EXPECT_STREQ(model.LastFault(), "") << "a renaming that is refused";
-        model.ClearFaults();
-        job.Alias("");
-    }
+    for (const auto& [request, number] : firstUnexpected)
+        for (auto [feature, name] : {std::pair(job, "Job-2"), std::pair(layup, "1.st")}) {
+            feature.Alias("");
+            model.FailNth(request, number);
+            Rename(feature, name);
+            EXPECT_STREQ(model.LastFault(), "") << "an unexpected request while renaming to " << name;
+            model.ClearFaults();
+        }
 }
 
-TEST_F(FeatureAliasTest, OnlyTheListedTypesAreGuarded) {
-    MemoryFeature load = step.Set("QVRLoadContainerLT").Feature("QVRPressure", "a");
-    EXPECT_EQ(Rename(load, " 1.日_"), " 1.日_|");
+TEST_F(FeatureAliasTest, GuardsExactlyTheListedLateTypes) {
+    EXPECT_EQ(Rename(step.Set("QVRLoadContainerLT").Feature("QVRPressure", "a"), " 1.日_"), " 1.日_|");
     const ZFXMetaClass* extension = QVREFeatureAlias::MetaObject();
-    EXPECT_EQ(static_cast<int>(extension->GetTypeOfClass()), 2); // a data extension
+    EXPECT_EQ(extension->GetTypeOfClass(), ENUMTypeOfClass::DataExtension);
     EXPECT_EQ(extension->GetBaseMetaClass(), ZFXnull::MetaObject());
     for (const LateTypes::Row& row : LateTypes::kRows) {
         const ZFXIAlias_var alias(document.Model().Feature(row.lateType, "a"));
         const bool isGuarded = alias->GetMetaObject()->GetImplementationMetaClass() == extension;
         EXPECT_EQ(isGuarded, row.alias == LateTypes::Alias::Guarded) << row.lateType;
     }
-    EXPECT_FALSE(ZFXIAlias_var(step.Without(IID_ZFXIAlias)));
+    EXPECT_EQ(ZFXIAlias_var(step.Without(IID_ZFXIAlias)), nullptr);
 }
 
-TEST_F(FeatureAliasTest, AnAdaptorIsAFaceOfItsFeatureAndKeepsItAlive) {
-    ZFXIAlias_var alias(step);
-    const ZFXIAlias_var copy(alias); // counted by the adaptor
-    EXPECT_EQ(step.References(), 1);
-    EXPECT_TRUE(alias == step.Object() && ZFXISpecObject_var(alias) == step.Object());
-    EXPECT_TRUE(ZFXIAlias_var(ZFXBaseUnknown_var(alias)) == alias);
-    EXPECT_STREQ(alias->IsA(), "ZFXIAlias");
-    unsigned int count = 9;
-    EXPECT_TRUE(alias->GetTypeInfoCount(&count) == S_OK && count == 0);
-    EXPECT_EQ(alias->GetTypeInfo(0, 0, nullptr), E_NOTIMPL);
+TEST_F(FeatureAliasTest, AdaptorIsAnInterfaceOfItsFeature) {
     const long before = ZFXBaseUnknown::LiveAllocations();
     {
-        const ZFXIAlias_var another(other);
+        const ZFXIAlias_var alias(step);
+        const ZFXIAlias_var copy(alias); // refers to the adaptor, not to the step
+        EXPECT_EQ(step.References(), 1);
         EXPECT_EQ(ZFXBaseUnknown::LiveAllocations(), before + 2);
+        EXPECT_TRUE(alias == step.Object());
+        EXPECT_TRUE(ZFXISpecObject_var(alias) == step.Object());
+        EXPECT_TRUE(ZFXIAlias_var(ZFXBaseUnknown_var(alias)) == alias);
+        EXPECT_STREQ(alias->IsA(), "ZFXIAlias");
+        unsigned int count = 9;
+        EXPECT_EQ(alias->GetTypeInfoCount(&count), S_OK);
+        EXPECT_EQ(count, 0U);
+        EXPECT_EQ(alias->GetTypeInfo(0, 0, nullptr), E_NOTIMPL);
     }
-    EXPECT_EQ(ZFXBaseUnknown::LiveAllocations(),
-              before); // adaptor and extension went with the last reference
+    EXPECT_EQ(ZFXBaseUnknown::LiveAllocations(), before) << "adaptor or extension not released";
 
     const ZFXBaseUnknown_var extension = ZFXBaseUnknown_var::Attach(QVREFeatureAlias::CreateItself());
     EXPECT_STREQ(extension->IsA(), "QVREFeatureAlias");
     EXPECT_STREQ(QVREFeatureAlias::ClassName(), "QVREFeatureAlias");
-    EXPECT_TRUE(extension->IsAKindOf("QVREFeatureAlias") && !extension->IsAKindOf("QVRBaseFeatureAlias"));
+    EXPECT_TRUE(extension->IsAKindOf("QVREFeatureAlias"));
+    EXPECT_FALSE(extension->IsAKindOf("QVRBaseFeatureAlias"));
     EXPECT_EQ(extension->GetMetaObject(), QVREFeatureAlias::meta_object);
-    EXPECT_EQ(CreateTIEZFXIAliasQVREFeatureAlias(nullptr, nullptr), nullptr);
-
-    auto* watched = new Watched;
-    ZFXBaseUnknown* adaptor = CreateTIEZFXIAliasQVREFeatureAlias(watched, nullptr);
-    EXPECT_EQ(watched->Release(), 1U); // the adaptor holds it
-    EXPECT_TRUE(watched->states == "+" && watched->last == adaptor);
-    void* face = nullptr;
-    EXPECT_EQ(adaptor->QueryInterface(IID_ZFXIAlias, &face), S_OK);
-    EXPECT_EQ(face, adaptor);
-    EXPECT_TRUE(adaptor->QueryInterface(IID_ZFXISpecObject, &face) == E_NOINTERFACE && !face); // the object is asked
-    EXPECT_TRUE(adaptor->QueryInterface(IID_ZFXIAlias, nullptr) < 0 && adaptor->Release() == 1U);
-    watched->AddRef();
-    EXPECT_TRUE(adaptor->Release() == 0U && watched->states == "+-");
-    EXPECT_EQ(watched->Release(), 0U);
 }
 
-TEST_F(FeatureAliasTest, WithoutAttributesNothingIsStored) {
+TEST_F(FeatureAliasTest, AdaptorKeepsItsFeatureAlive) {
+    auto* object = new AdaptedObject;
+    ZFXBaseUnknown* adaptor = CreateTIEZFXIAliasQVREFeatureAlias(object, nullptr);
+    EXPECT_EQ(object->last, adaptor);
+    EXPECT_EQ(object->Release(), 1U) << "the reference of the adaptor";
+    void* found = nullptr;
+    EXPECT_EQ(adaptor->QueryInterface(IID_ZFXIAlias, &found), S_OK);
+    EXPECT_EQ(found, adaptor);
+    EXPECT_EQ(adaptor->QueryInterface(IID_ZFXISpecObject, &found), E_NOINTERFACE) << "the object's result";
+    EXPECT_EQ(found, nullptr);
+    EXPECT_EQ(adaptor->QueryInterface(IID_ZFXIAlias, nullptr), E_POINTER);
+    EXPECT_EQ(adaptor->Release(), 1U);
+    object->AddRef();
+    EXPECT_EQ(adaptor->Release(), 0U);
+    EXPECT_EQ(object->states, "+-");
+    EXPECT_EQ(object->Release(), 0U);
+    EXPECT_EQ(CreateTIEZFXIAliasQVREFeatureAlias(nullptr, nullptr), nullptr);
+}
+
+#ifndef _WIN32
+TEST_F(FeatureAliasTest, FactoriesReturnNullIfAnAllocationFails) {
+    auto* object = new AdaptedObject;
+    const long before = ZFXBaseUnknown::LiveAllocations();
+    for (const int failing : {1, 2}) { // the adaptor, the extension
+        allocationsUntilFailure = failing;
+        EXPECT_EQ(CreateTIEZFXIAliasQVREFeatureAlias(object, nullptr), nullptr) << "allocation " << failing;
+        EXPECT_EQ(allocationsUntilFailure, 0) << "the replaced allocator was not called";
+        EXPECT_EQ(ZFXBaseUnknown::LiveAllocations(), before) << "allocation " << failing;
+    }
+    allocationsUntilFailure = 1;
+    EXPECT_EQ(QVREFeatureAlias::CreateItself(), nullptr);
+    EXPECT_EQ(object->states, "+-");
+    EXPECT_EQ(object->Release(), 0U);
+}
+#endif
+
+TEST_F(FeatureAliasTest, KeepsTheNameIfItCannotBeCheckedOrStored) {
     step.Without(IID_ZFXISpecAttrAccess);
     EXPECT_EQ(Rename(step, "New"), "Step-1|");
-    EXPECT_EQ(Text(ZFXIAlias_var(step)->GetAlias()), "");
-    EXPECT_EQ(Rename(step, "step"), "Step-1|NAME ERROR"); // the checks run all the same
+    EXPECT_EQ(ZFXIAlias_var(step)->GetAlias(), "");
+    EXPECT_EQ(Rename(step, "step"), "Step-1|NAME ERROR") << "the name is checked, although it cannot be stored";
     other.WithoutAttribute("Alias");
     EXPECT_EQ(Rename(other, "New"), "step|");
-    other.Without(IID_ZFXISpecObject);
-    EXPECT_EQ(Rename(other, "New"), "step|");
+    MemoryFeature feature = analysisCase.Step("QVRStaticLPStepLT", "Step-2").Without(IID_ZFXISpecObject);
+    model.FailNth(MemoryRequest::SetString);
+    EXPECT_EQ(Rename(feature, "New"), "Step-2|");
+    EXPECT_STREQ(model.LastFault(), "SetString") << "the former name is stored again";
 }
 
 } // namespace

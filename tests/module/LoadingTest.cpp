@@ -7,15 +7,15 @@
 
 namespace {
 
-/// The alias of a step of a guarded type, renamed to something that only an unguarded alias stores.
+/// Renames a step to a name that the module rejects. Returns the stored name.
 std::string Renamed() {
     MemoryModel model;
     MemoryFeature step = model.NewDocument().Case("Static").Step("QVRStaticLPStepLT", "Step-1");
     CapturedOutput([&] { ZFXIAlias_var(step)->SetAlias("1.0"); });
-    return Text(step.StoredAlias());
+    return Narrow(step.StoredAlias());
 }
 
-TEST(Loading, TheModuleAnnouncesItselfAndLeavesNothingBehind) {
+TEST(Loading, ModuleGuardsAliasesOnlyWhileItIsLoaded) {
     EXPECT_EQ(Renamed(), "1.0");
     for (int i = 0; i < 10; ++i) {
         {
@@ -27,7 +27,7 @@ TEST(Loading, TheModuleAnnouncesItselfAndLeavesNothingBehind) {
             EXPECT_EQ(fct_FindMetaObject("QVREFeatureAlias")->CountAdaptorFactories(), 1);
             EXPECT_EQ(Renamed(), "Step-1");
         }
-        EXPECT_FALSE(LoadedLibrary::IsInProcess(MODULE_FILE)) << "the module stayed";
+        EXPECT_FALSE(LoadedLibrary::IsInProcess(MODULE_FILE)) << "the module was not unloaded";
         EXPECT_EQ(fct_FindMetaObject("QVREFeatureAlias")->CountAdaptorFactories(), 0);
         EXPECT_EQ(Renamed(), "1.0");
     }

@@ -2,36 +2,40 @@
 
 namespace {
 
-using MaterialNamesTest = SingletonTest;
-
-TEST_F(MaterialNamesTest, NumberCountsEarlierMaterialsOfThatName) {
-    const auto material = [&](const char* name) {
+class MaterialNamesTest : public SingletonTest {
+protected:
+    MemoryFeature Material(const char* name) {
         return document.Model().Add(MemoryKind::Material, "SAM.Mat", "alias").MaterialName(name);
-    };
-    MemoryFeature steel = material("Steel");
-    MemoryFeature aluminium = material("Aluminium");
-    MemoryFeature steel2 = material("Steel");
+    }
+};
+
+TEST_F(MaterialNamesTest, NumberIsTheCountOfEarlierMaterialsWithTheName) {
+    MemoryFeature steel = Material("Steel");
+    MemoryFeature aluminium = Material("Aluminium");
+    MemoryFeature steel2 = Material("Steel");
     MemoryFeature byAlias = set.Feature("M", "Steel");
     EXPECT_EQ(NameBy(kMaterial, steel), "Steel");
     EXPECT_EQ(NameBy(kGenericMaterial, aluminium), "SAM-Mat-2");
     EXPECT_EQ(NameBy(kMaterial, steel2), "Steel-1");
     EXPECT_EQ(NameBy(kMaterial, byAlias), "Steel-2");
-    EXPECT_EQ(NameBy(kMaterial, aluminium) + NameBy(kMaterial, steel2) + NameBy(kMaterial, steel),
-              "AluminiumSteel-1Steel");
+    EXPECT_EQ(NameBy(kMaterial, aluminium), "Aluminium");
+    EXPECT_EQ(NameBy(kMaterial, steel2), "Steel-1");
+    EXPECT_EQ(NameBy(kMaterial, steel), "Steel");
     EXPECT_EQ(NameBy(kGenericMaterial, steel), "SAM-Mat-1");
     steel.MaterialName("Iron.2");
-    EXPECT_EQ(NameBy(kMaterial, steel2) + NameBy(kMaterial, byAlias), "SteelSteel-1");
-    EXPECT_EQ(NameBy(kMaterial, material("Iron.2")), "Iron-2-1"); // full stops go after the numbering
+    EXPECT_EQ(NameBy(kMaterial, steel2), "Steel");
+    EXPECT_EQ(NameBy(kMaterial, byAlias), "Steel-1");
+    EXPECT_EQ(NameBy(kMaterial, Material("Iron.2")), "Iron-2-1"); // full stops are replaced after the numbering
 
     MemoryFeature nameless = set.Feature("M", "n").Without(IID_ZFXIAlias);
     EXPECT_EQ(NameBy(kMaterial, nameless), "E_FAIL|before");
     EXPECT_EQ(nameless.References(), 0);
-    aluminium.Without(IID_ZFXIMaterialFeature).Without(IID_ZFXIAlias);
-    EXPECT_EQ(NameBy(kMaterial, byAlias), "E_FAIL|Steel"); // a listed one gets its bare name
-    MemoryFeature unlisted = material("New");
+    aluminium.Without(IID_ZFXIMaterialFeature).Without(IID_ZFXIAlias); // a listed material without a name
+    EXPECT_EQ(NameBy(kMaterial, byAlias), "E_FAIL|Steel") << "a listed material gets its name without a number";
+    MemoryFeature unlisted = Material("New");
     EXPECT_EQ(NameBy(kMaterial, unlisted), "E_FAIL|before");
     EXPECT_EQ(unlisted.References(), 0);
-    EXPECT_EQ(NameBy(kMaterial, steel), "Iron-2"); // nobody before it
+    EXPECT_EQ(NameBy(kMaterial, steel), "Iron-2") << "no material is before it";
 }
 
 } // namespace

@@ -8,67 +8,67 @@ using namespace std::string_view_literals;
 
 namespace {
 
-TEST(NameValidation, TheFirstRuleThatFailsDecides) {
+TEST(NameValidation, FirstViolatedRuleDeterminesTheError) {
     struct Row {
         ZFXUnicodeString name;
-        const char* checked;   // with the leading character
-        const char* unchecked; // without
-        const char* asFile;
-        bool quiet; // passes the quiet check
+        const char* withStart;    // IsNameValid with the rule for the first character
+        const char* withoutStart; // IsNameValid without that rule
+        const char* asFile;       // IsFileNameValid
+        const char* quiet;        // CheckForIllegalCharacters
     };
-    const char* const length1 = "NameLengthERR_01";
-    const char* const char1 = "IllegalCharERR_01 -100";
-    const char* const char2 = "IllegalCharERR_02 -100";
+    const char* const tooLong = "NameLengthERR_01";
+    const char* const empty = "NameLengthERR_02";
+    const char* const digit = "LeadingDigitERR_01";
+    const char* const reserved = "IllegalCharERR_01 -100";
+    const char* const illegal = "IllegalCharERR_02 -100";
     // clang-format off
     const Row rows[] = {
-        {"", "NameLengthERR_02", "NameLengthERR_02", "S_OK", true}, {"a", "S_OK", "S_OK", "S_OK", true},
-        {Repeated('a', 72), "S_OK", "S_OK", "S_OK", true}, {Repeated('a', 73), length1, length1, "S_OK", true},
-        {Repeated('a', 72) + ".", length1, length1, char1, true},
-        {Repeated('a', 200), length1, length1, "S_OK", true}, {"1abc", "LeadingDigitERR_01", "S_OK", "S_OK", true},
-        {"1.c", "LeadingDigitERR_01", char1, char1, true}, {"abc1", "S_OK", "S_OK", "S_OK", true},
-        {"_x", "S_OK", "S_OK", "S_OK", true}, {" x", "S_OK", "S_OK", char2, true},
-        {"１", "S_OK", "S_OK", "S_OK", true}, // a digit of another script leads
-        {"Step.1", char1, char1, char1, true}, {"a\"b", char1, char1, char1, true},
-        {"dir\\job", char1, char1, "S_OK", true}, {"Static Step-1", "S_OK", "S_OK", char2, true},
-        {"a.b c", char1, char1, char1, true}, // reserved characters are examined first
-        {"c a.b", char1, char1, char1, true}, {"a/b(c)*", "S_OK", "S_OK", char2, false},
-        {"日本", "S_OK", "S_OK", "S_OK", true}, {"    ", "S_OK", "S_OK", char2, true},
-        {"____", "S_OK", "S_OK", "S_OK", true}, {ZFXUnicodeString(u"\xD800"), "S_OK", "S_OK", "S_OK", true},
-        {ZFXUnicodeString(u"a\0."sv), char1, char1, char1, true}, // U+0000 ends no text
-        {Repeated('.', kMillion), length1, length1, char1, true}, {Repeated('/', kMillion), length1, length1, char2, false},
+        {"", empty, empty, "S_OK", "S_OK"}, {"a", "S_OK", "S_OK", "S_OK", "S_OK"},
+        {Repeated('a', 72), "S_OK", "S_OK", "S_OK", "S_OK"}, {Repeated('a', 73), tooLong, tooLong, "S_OK", "S_OK"},
+        {Repeated('a', 72) + ".", tooLong, tooLong, reserved, "S_OK"},
+        {"1abc", digit, "S_OK", "S_OK", "S_OK"}, {"1.c", digit, reserved, reserved, "S_OK"},
+        {"abc1", "S_OK", "S_OK", "S_OK", "S_OK"}, {"_x", "S_OK", "S_OK", "S_OK", "S_OK"},
+        {" x", "S_OK", "S_OK", illegal, "S_OK"}, {"１", "S_OK", "S_OK", "S_OK", "S_OK"}, // a digit of another script
+        {"Step.1", reserved, reserved, reserved, "S_OK"}, {"a\"b", reserved, reserved, reserved, "S_OK"},
+        {"dir\\job", reserved, reserved, "S_OK", "S_OK"}, {"Static Step-1", "S_OK", "S_OK", illegal, "S_OK"},
+        {"a.b c", reserved, reserved, reserved, "S_OK"}, {"c a.b", reserved, reserved, reserved, "S_OK"},
+        {"a/b(c)*", "S_OK", "S_OK", illegal, "E_FAIL"}, {"日本", "S_OK", "S_OK", "S_OK", "S_OK"},
+        {"    ", "S_OK", "S_OK", illegal, "S_OK"}, {"____", "S_OK", "S_OK", "S_OK", "S_OK"},
+        {ZFXUnicodeString(u"\xD800"), "S_OK", "S_OK", "S_OK", "S_OK"},
+        {ZFXUnicodeString(u"a\0."sv), reserved, reserved, reserved, "S_OK"}, // U+0000 does not end a text
+        {Repeated('.', kMillion), tooLong, tooLong, reserved, "S_OK"},
+        {Repeated('/', kMillion), tooLong, tooLong, illegal, "E_FAIL"},
     };
     // clang-format on
     for (Row row : rows) {
         const ZFXUnicodeString before(row.name);
-        EXPECT_EQ(ResultText(QVRNameUtil::IsNameValid(row.name, 1)), row.checked) << row.name;
-        EXPECT_EQ(ResultText(QVRNameUtil::IsNameValid(row.name, 0)), row.unchecked) << row.name;
+        EXPECT_EQ(ResultText(QVRNameUtil::IsNameValid(row.name, 1)), row.withStart) << row.name;
+        EXPECT_EQ(ResultText(QVRNameUtil::IsNameValid(row.name, 0)), row.withoutStart) << row.name;
         EXPECT_EQ(ResultText(QVRNameUtil::IsFileNameValid(row.name)), row.asFile) << row.name;
-        EXPECT_EQ(ResultText(QVRNameUtil::CheckForIllegalCharacters(row.name)), row.quiet ? "S_OK" : "E_FAIL")
-            << row.name;
-        EXPECT_EQ(row.name, before);
+        EXPECT_EQ(ResultText(QVRNameUtil::CheckForIllegalCharacters(row.name)), row.quiet) << row.name;
+        EXPECT_EQ(row.name, before) << "a check changed the name";
     }
 }
 
-TEST(NameValidation, EachCharacterOfTheSetsCounts) {
+TEST(NameValidation, RejectsExactlyTheListedCharacters) {
     for (int c = 1; c < 128; ++c) {
         ZFXUnicodeString name = ZFXUnicodeString("a") + ZFXUnicodeString(static_cast<char>(c), 1);
-        const bool reserved = std::strchr("\".\\", c) != nullptr;
-        const bool illegal = std::strchr("$*?,#!&~()[]{}|:;'`/><", c) != nullptr;
-        EXPECT_EQ(QVRNameUtil::IsNameValid(name, 1) < 0, reserved) << c;
-        EXPECT_EQ(QVRNameUtil::CheckForIllegalCharacters(name) < 0, illegal) << c;
-        EXPECT_EQ(QVRNameUtil::IsFileNameValid(name) < 0, illegal || c == ' ' || c == '"' || c == '.') << c;
+        const bool isReserved = std::strchr("\".\\", c) != nullptr;
+        const bool isIllegal = std::strchr("$*?,#!&~()[]{}|:;'`/><", c) != nullptr;
+        EXPECT_EQ(QVRNameUtil::IsNameValid(name, 1) < 0, isReserved) << name;
+        EXPECT_EQ(QVRNameUtil::CheckForIllegalCharacters(name) < 0, isIllegal) << name;
+        EXPECT_EQ(QVRNameUtil::IsFileNameValid(name) < 0, isIllegal || c == ' ' || c == '"' || c == '.') << name;
     }
 }
 
-TEST(NameValidation, ARefusalSaysWhereItWasRaised) {
+TEST(NameValidation, ErrorRecordsFileAndLine) {
     ZFXUnicodeString empty;
     ZFXError* error = ZFXError::ZFXGetLastError(QVRNameUtil::IsNameValid(empty, 0), nullptr);
     ASSERT_NE(error, nullptr);
     EXPECT_STREQ(error->GetMsgCatalog(), "QVRNameUtility");
-    EXPECT_STREQ(error->GetSourceFileName(), "QVRNameUtil/NameValidation.cpp"); // on every machine
+    EXPECT_STREQ(error->GetSourceFileName(), "QVRNameUtil/NameValidation.cpp"); // without the folder of the build
     EXPECT_GT(error->GetSourceLineNumber(), 0);
     EXPECT_EQ(error->GetInformationOnErrorType(), 2);
-    EXPECT_EQ(error->GetReturnCode(), 0);
     EXPECT_STREQ(error->IsA(), "ZFXInputError");
 }
 

@@ -3,91 +3,71 @@
 #include "LateTypes.h"
 #include "support/DocumentTest.h"
 
-#include <random>
 #include <tuple>
-#include <utility>
-#include <vector>
 
 namespace {
 
-class NumberedNamesTest : public DocumentTest {};
+using NumberedNamesTest = DocumentTest;
 
-TEST_F(NumberedNamesTest, TheNextNumberFollowsTheHighest) {
+TEST_F(NumberedNamesTest, NextNumberFollowsTheHighest) {
     // clang-format off
     const std::tuple<std::vector<const char*>, const char*, const char*> rows[] = {
-        {{}, "Pressure-", "Pressure-1"}, {{"Pressure-1", "Pressure-3"}, "Pressure-", "Pressure-4"}, // gaps stay
+        {{}, "Pressure-", "Pressure-1"}, {{"Pressure-1", "Pressure-3"}, "Pressure-", "Pressure-4"}, // gaps are not used
         {{"pressure-7", "Old Pressure-9", "Pressure-", "Pressure-x"}, "Pressure-", "Pressure-1"},
         {{"Pressure-2b"}, "Pressure-", "Pressure-3"}, {{"Pressure- 5"}, "Pressure-", "Pressure-6"},
         {{"Pressure--4", "Pressure-+3"}, "Pressure-", "Pressure-4"}, {{"Load12", "Load3"}, "Load", "Load13"},
-        {{"Load-0099"}, "Load-", "Load-100"}, {{"7 x", "-9", "y"}, "", "8"},
-        {{"P-99999999999999999999"}, "P-", "P-1"}, // no int, so no number
-        {{"P-2147483646"}, "P-", "P-2147483647"},
-        {{"P-2147483647", "P-1", "P-02", "P-4"}, "P-", "P-3"}, // none above: the lowest that is free
+        {{"Load-0099"}, "Load-", "Load-100"}, {{"7 x", "-9", "y"}, "", "8"}, {{"P-1", "P-13"}, "P-1", "P-14"},
+        {{"P-99999999999999999999"}, "P-", "P-1"}, // not an int, so not a number
+        {{"P-2147483646", "P-2"}, "P-", "P-2147483647"},
+        {{"P-2147483647", "P-1", "P-02", "P-4"}, "P-", "P-3"}, // after the largest int: the lowest unused number
         {{"P-2147483647"}, "P-", "P-1"}, {{"P-2147483647", "P-2", "P-1", "P-3"}, "P-", "P-4"},
         {{"PressurePressure-3"}, "Pressure", "Pressure1"},
     };
     // clang-format on
-    for (const auto& [inUse, base, next] : rows) {
-        MemoryFeature set = document.Model().Set("S");
+    for (const auto& [inUse, baseName, expected] : rows) {
         ZFXListValZFXBaseUnknown_var scope;
+        MemoryFeature members = document.Model().Set("S");
         for (const char* name : inUse)
-            scope.Append(ZFXBaseUnknown_var(set.Feature("T", name)));
-        ZFXUnicodeString overList(base);
-        ZFXUnicodeString overSet(base);
-        EXPECT_EQ(QVRNameUtil::GetNextUniqueName(overList, scope), S_OK);
-        EXPECT_EQ(QVRNameUtil::GetNextUniqueName(overSet, ZFXISamAnalysisSet_var(set)), S_OK);
-        EXPECT_EQ(Text(overList), next);
-        EXPECT_EQ(Text(overSet), next);
+            scope.Append(ZFXBaseUnknown_var(members.Feature("T", name)));
+        ZFXUnicodeString bySet(baseName);
+        EXPECT_EQ(QVRNameUtil::GetNextUniqueName(bySet, ZFXISamAnalysisSet_var(members)), S_OK);
+        EXPECT_EQ(bySet, expected);
+        // A batch has the names that single proposals return if each proposed name is used.
+        ZFXUnicodeString base(baseName);
+        ZFXListValZFXUnicodeString batch;
+        EXPECT_EQ(QVRNameUtil::GetNextUniqueNames(base, scope, 5, batch), S_OK);
+        ASSERT_EQ(batch.Size(), 5) << baseName;
+        EXPECT_EQ(base, baseName);
+        EXPECT_EQ(batch[1], expected);
+        for (const ZFXUnicodeString& name : batch) {
+            ZFXUnicodeString single(baseName);
+            EXPECT_EQ(QVRNameUtil::GetNextUniqueName(single, scope), S_OK);
+            EXPECT_EQ(name, single);
+            scope.Append(ZFXBaseUnknown_var(members.Feature("T", single)));
+        }
+        for (const int count : {0, -1})
+            EXPECT_EQ(QVRNameUtil::GetNextUniqueNames(base, scope, count, batch), E_FAIL);
+        EXPECT_EQ(batch.Size(), 5) << "a rejected count changed the list";
     }
 }
 
-TEST_F(NumberedNamesTest, ElementsWithoutANameCountForNothing) {
+TEST_F(NumberedNamesTest, ElementsWithoutANameAreIgnored) {
     MemoryFeature set = document.Model().Set("S");
     MemoryFeature two = set.Feature("T", "P-2");
     MemoryFeature nameless = set.Feature("T", "P-8").Without(IID_ZFXIAlias);
-    ZFXListValZFXBaseUnknown_var scope = ListOf({nameless, two, two, MemoryFeature()});
-    ZFXUnicodeString name("P-");
-    EXPECT_EQ(QVRNameUtil::GetNextUniqueName(name, scope), S_OK);
-    EXPECT_EQ(Text(name), "P-3");
+    const auto scope = MakeList({nameless, two, two, MemoryFeature()});
+    EXPECT_EQ(Call("P-", [&](auto& name) { return QVRNameUtil::GetNextUniqueName(name, scope); }), "S_OK|P-3");
 }
 
-TEST_F(NumberedNamesTest, ABatchGivesWhatSingleProposalsWould) {
-    std::mt19937 random(20261122); // NOLINT: the same scopes every time
-    const char* const bases[] = {"P-", "p-", "P", "", "P-1", "P- "};
-    const char* const numbers[] = {"1",          "2",          "07",          "-3", "+4", " 5",
-                                   "2147483646", "2147483647", "99999999999", "x",  "3b", ""};
-    const auto any = [&](const auto& list) { return list[random() % std::size(list)]; };
-    for (int round = 0; round < 300; ++round) {
-        MemoryFeature set = document.Model().Set("S");
-        ZFXListValZFXBaseUnknown_var scope;
-        for (auto i = random() % 12; i > 0; --i)
-            scope.Append(ZFXBaseUnknown_var(set.Feature("T", ZFXUnicodeString(any(bases)) + any(numbers))));
-        ZFXUnicodeString base(any(bases));
-        ZFXListValZFXUnicodeString batch;
-        const int count = static_cast<int>(random() % 6);
-        EXPECT_EQ(QVRNameUtil::GetNextUniqueNames(base, scope, count, batch), count < 1 ? E_FAIL : S_OK);
-        ASSERT_EQ(batch.Size(), count);
-        for (int i = 1; i <= count; ++i) {
-            ZFXUnicodeString single(base);
-            QVRNameUtil::GetNextUniqueName(single, scope);
-            EXPECT_EQ(batch[i], single) << "base " << base;
-            scope.Append(ZFXBaseUnknown_var(set.Feature("T", single)));
-        }
-    }
-}
-
-TEST_F(NumberedNamesTest, BaseNamesFollowTheExactLateType) {
-    // The rows of the table, and late types that no row has.
-    std::vector<std::pair<const char*, const char*>> types{
-        {"QVRPressureLT", nullptr}, {"QVRPRESSURE", nullptr}, {"QVRFieldOutputLT", nullptr}, {"", nullptr}};
+TEST_F(NumberedNamesTest, ExactLateTypeDeterminesTheBaseName) {
+    const auto baseNameOf = [&](const char* lateType) {
+        return Call(document.Model().Feature(lateType, "x"), "before", QVRNameUtil::CreateBaseName);
+    };
     for (const LateTypes::Row& row : LateTypes::kRows)
-        types.emplace_back(row.lateType, row.baseName);
-    for (const auto& [lateType, expectedBaseName] : types) {
-        ZFXISpecObject_var feature(document.Model().Feature(lateType, "x"));
-        ZFXUnicodeString baseName("before");
-        EXPECT_EQ(QVRNameUtil::CreateBaseName(feature, baseName), S_OK);
-        EXPECT_EQ(Text(baseName), expectedBaseName == nullptr ? "before" : expectedBaseName) << lateType;
-    }
+        EXPECT_EQ(baseNameOf(row.lateType), row.baseName == nullptr ? "S_OK" : std::string("S_OK|") + row.baseName)
+            << row.lateType;
+    for (const char* unknownType : {"QVRPressureLT", "QVRPRESSURE", "QVRFieldOutputLT", ""})
+        EXPECT_EQ(baseNameOf(unknownType), "S_OK") << unknownType;
 }
 
 } // namespace

@@ -1,58 +1,51 @@
 #include "QVRNameUtil.h"
 
-#include "QVRGenI18NUtils.h"
-#include "support/DocumentTest.h"
+#include "support/SingletonTest.h"
 
 #include <tuple>
 
 namespace {
 
-class ObjectNamesTest : public DocumentTest {
+class ObjectNamesTest : public SingletonTest {
 protected:
     static std::string Legal(MemoryFeature feature) {
-        ZFXISpecObject_var handle(feature);
-        ZFXUnicodeString name("before");
-        const HRESULT code = QVRNameUtil::GetMorvelObjectName(handle, name);
-        return ResultText(code) + "|" + Text(name);
+        return Call(feature, "before", QVRNameUtil::GetMorvelObjectName);
     }
-};
 
-TEST_F(ObjectNamesTest, NamesAreGivenAsStoredOrMadeLegal) {
     MemoryFeature father = document.Model().Feature("Connection", "Father").With(IID_ZFXISamAnalysisScan);
     MemoryFeature bolt = father.Feature("SAMBoltTightening", "Bolt.1");
-    father.Feature("QVRPressure", "Bolt-1");
+};
+
+TEST_F(ObjectNamesTest, GetMorvelObjectNameReplacesFullStopsAndChecksTheText) {
     MemoryFeature load = father.Feature("QVRPressure", "Load.1.a");
-    father.Feature("QVRPressure", "load.1.A");
-    EXPECT_EQ(Legal(load), "S_OK|Load-1-a"); // siblings count for bolts only
-    EXPECT_EQ(Legal(bolt), "S_OK|Bolt-1");   // stored names are compared, not legal ones
+    EXPECT_EQ(Legal(load), "S_OK|Load-1-a");
     EXPECT_EQ(Legal(load.Alias("1.a")), "LeadingDigitERR_01|1-a");
     EXPECT_EQ(Legal(load.Alias("a\\.")), "IllegalCharERR_01 -100|a\\-");
     EXPECT_EQ(Legal(load.Alias("")), "NameLengthERR_02|");
-    EXPECT_EQ(Legal(load.Alias(Repeated('.', 73))).substr(0, 17), "NameLengthERR_01|");
+    EXPECT_EQ(Legal(load.Alias(Repeated('.', 73))), "NameLengthERR_01|" + std::string(73, '-'));
+    EXPECT_EQ(Legal(load.Without(IID_ZFXIAlias)), "ZFXIAliasERR_01");
+}
 
+TEST_F(ObjectNamesTest, StoredNamesOfBoltTighteningsMustDifferFromTheirSiblings) {
+    father.Feature("QVRPressure", "Bolt-1");
+    EXPECT_EQ(Legal(bolt), "S_OK|Bolt-1") << "the legal name of a sibling is not compared";
     for (const char* lateType : {"SAMVirtBoltTightening", "SAMVirtSpringBoltTigh"}) {
         MemoryFeature twin = father.Feature(lateType, "BOLT.1");
         EXPECT_EQ(Legal(twin), "DuplicateZFXNameERR_01|BOLT-1");
-        twin.Alias(lateType);
-        EXPECT_EQ(Legal(twin).substr(0, 5), "S_OK|");
+        EXPECT_EQ(Legal(twin.Alias(lateType)), std::string("S_OK|") + lateType);
     }
-    EXPECT_EQ(Legal(father.Feature("SAMVirtSpringBoltTight", "Bolt.1")), "S_OK|Bolt-1"); // no bolt: another type
+    EXPECT_EQ(Legal(father.Feature("SAMVirtSpringBoltTight", "Bolt.1")), "S_OK|Bolt-1") << "another late type";
+    EXPECT_EQ(Legal(bolt.Alias("1")), "LeadingDigitERR_01|1") << "the text is checked first";
+    bolt.Alias("Bolt.2");
+    EXPECT_EQ(Legal(bolt), "S_OK|Bolt-2");
     MemoryFeature nameless = father.Feature("QVRPressure", "x").Without(IID_ZFXIAlias);
-    EXPECT_EQ(Legal(bolt), "DuplicateZFXNameERR_01|Bolt-1"); // any failure of the comparison
-    EXPECT_EQ(Legal(nameless), "ZFXIAliasERR_01|before");
-    EXPECT_EQ(Legal(bolt.Father(load)), "ParentERR_01|Bolt-1");
-    EXPECT_EQ(Legal(bolt.Father(bolt)), "ParentERR_01|Bolt-1");
-    EXPECT_EQ(Legal(bolt.With(IID_ZFXISamAnalysisScan)), "S_OK|Bolt-1"); // its own father, without children
-    bolt.Without(IID_ZFXISamAnalysisScan);
-    EXPECT_EQ(Legal(bolt.Alias("1")), "LeadingDigitERR_01|1"); // judged before the siblings
-
-    ZFXUnicodeString name("before");
-    EXPECT_EQ(QVRNameUtil::GetObjectName(bolt.Alias("as.stored "), name), S_OK);
-    EXPECT_EQ(Text(name), "as.stored ");
+    EXPECT_EQ(Legal(bolt), "DuplicateZFXNameERR_01|Bolt-2") << "a sibling without a name";
+    EXPECT_EQ(Legal(bolt.Father(nameless)), "ParentERR_01|Bolt-2") << "a father that cannot be searched";
+    EXPECT_EQ(Legal(bolt.Father(bolt)), "ParentERR_01|Bolt-2");
+    EXPECT_EQ(Legal(bolt.With(IID_ZFXISamAnalysisScan)), "S_OK|Bolt-2") << "a father without children";
 }
 
-TEST_F(ObjectNamesTest, FeaturesTheSolverCannotNameGoByTheirLateType) {
-    QVRGenI18NUtils::Instance()->ResetAllLists();
+TEST_F(ObjectNamesTest, LateTypeReplacesANameThatTheSolverRejects) {
     // clang-format off
     const std::tuple<const char*, const char*, const char*> rows[] = {
         {"SAMBoltTightening", "ボルト", "SAMBoltTightening"}, {"SAMBoltTightening", "Träger", "Träger"},
@@ -61,13 +54,12 @@ TEST_F(ObjectNamesTest, FeaturesTheSolverCannotNameGoByTheirLateType) {
         {"SAMxSAM", "日", "SAMxSAM"},
     };
     // clang-format on
-    for (const auto& [lateType, alias, expectedName] : rows) {
+    for (const auto& [lateType, alias, expected] : rows) {
         const ZFXISpecObject_var feature(document.Model().Feature(lateType, alias));
         ZFXUnicodeString name("before");
         EXPECT_EQ(QVRNameUtil::GenerateUniqueName(*feature.Get(), name), S_OK);
-        EXPECT_EQ(Text(name), expectedName);
+        EXPECT_EQ(name, expected);
     }
-    QVRGenI18NUtils::Instance()->ResetAllLists();
 }
 
 } // namespace

@@ -2,7 +2,7 @@
 
 namespace {
 
-TEST_F(SingletonTest, UsedNamesAreCountedExactlyUntilReset) {
+TEST_F(SingletonTest, CountsIssuedNamesExactlyUntilTheReset) {
     EXPECT_EQ(utils, QVRGenI18NUtils::Instance());
     int count = 9;
     EXPECT_EQ(utils->FindNameAndNextID("Thickness", count), 0);
@@ -16,7 +16,7 @@ TEST_F(SingletonTest, UsedNamesAreCountedExactlyUntilReset) {
     EXPECT_EQ(utils->FindNameAndNextID("Thickness", count), 0);
 }
 
-TEST_F(SingletonTest, CopyKeepsWhatWasIssuedAndContinuesAlone) {
+TEST_F(SingletonTest, CopyHasTheCachesAndChangesIndependently) {
     MemoryFeature a = set.Feature("T", "Load");
     MemoryFeature b = set.Feature("T", "Load");
     MemoryFeature steel = document.Model().Add(MemoryKind::Material, "M", "m").MaterialName("Steel");
@@ -26,16 +26,13 @@ TEST_F(SingletonTest, CopyKeepsWhatWasIssuedAndContinuesAlone) {
     utils->PushNameToList("Thickness");
     QVRGenI18NUtils copy(*utils);
     utils->ResetAllLists();
-
+    utils = &copy;
     int count = 0;
     EXPECT_EQ(copy.FindNameAndNextID("Thickness", count), 1);
-    ZFXUnicodeString name;
-    copy.GetFeatureName(b.Alias("Renamed"), name);
-    EXPECT_EQ(Text(name), "Load-1");
-    copy.GetGenericEnglishFeatureName(set.Feature("T", "c"), name);
-    EXPECT_EQ(Text(name), "T-3");
-    copy.GetGenericEnglishMaterialName(steel, name);
-    EXPECT_EQ(Text(name), "M-1");
+    EXPECT_EQ(NameBy(kDisplay, b.Alias("Renamed")), "Load-1");
+    EXPECT_EQ(NameBy(kGeneric, set.Feature("T", "c")), "T-3");
+    EXPECT_EQ(NameBy(kGenericMaterial, steel), "M-1");
+    utils = QVRGenI18NUtils::Instance();
     copy.ResetAllLists();
 }
 

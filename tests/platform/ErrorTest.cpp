@@ -56,7 +56,7 @@ TEST(Error, RecordsTheSourcePosition) {
     ZFXError* raised = ZFXError::ZFXGetLastError(Raise("Id"), nullptr);
     EXPECT_STREQ(raised->GetSourceFileName(), "File.cpp");
     EXPECT_EQ(raised->GetSourceLineNumber(), 7);
-    EXPECT_EQ(Text(raised->GetNLSSource()), "File.cpp:7");
+    EXPECT_EQ(Narrow(raised->GetNLSSource()), "File.cpp:7");
     std::ostringstream history;
     raised->PrintHistory(history);
     EXPECT_EQ(history.str(), "ZFXInputError Tests.Id raised at File.cpp:7\n");
@@ -69,7 +69,7 @@ TEST(Error, ThrowsAReferenceToItself) {
     } catch (const std::reference_wrapper<ZFXError>& thrown) {
         EXPECT_EQ(&thrown.get(), error.Get());
     }
-    EXPECT_EQ(Text(error->GetNLSSource()), "Other.cpp:3");
+    EXPECT_EQ(Narrow(error->GetNLSSource()), "Other.cpp:3");
 }
 
 TEST(Error, IsAnInputErrorAndAnError) {
@@ -85,7 +85,7 @@ TEST(Error, IsAnInputErrorAndAnError) {
 
 TEST(Error, HasNoHelp) {
     const auto error = Error::Attach(new ZFXInputError("Id", "Tests"));
-    EXPECT_EQ(Text(error->GetNLSHelpFile()), "");
+    EXPECT_EQ(Narrow(error->GetNLSHelpFile()), "");
     EXPECT_EQ(error->GetNLSHelpContext(), 0);
 }
 
@@ -103,11 +103,11 @@ TEST(Error, CloneHasTheContentButNotTheCode) {
     const auto clone = Error::Attach(error->CloneSelf());
     EXPECT_STREQ(clone->GetMsgId(), "Id");
     EXPECT_STREQ(clone->GetMsgCatalog(), "Tests");
-    EXPECT_EQ(Text(clone->DiagnosticParameters().at(0)), "b");
+    EXPECT_EQ(Narrow(clone->DiagnosticParameters().at(0)), "b");
     EXPECT_EQ(clone->GetReturnCode(), -100);
     EXPECT_EQ(clone->GetInformationOnErrorType(), ZFXErrorTypeInput);
-    EXPECT_EQ(Text(clone->GetSourceContext()), "context");
-    EXPECT_EQ(Text(clone->GetNLSSource()), "File.cpp:7");
+    EXPECT_EQ(Narrow(clone->GetSourceContext()), "context");
+    EXPECT_EQ(Narrow(clone->GetNLSSource()), "File.cpp:7");
     EXPECT_EQ(clone->GetId(), 0);
 }
 
@@ -147,10 +147,10 @@ protected:
 
 TEST_F(CatalogTest, MessageJoinsTheSectionsWithTheirParameters) {
     const Error error = MakeError();
-    EXPECT_EQ(Text(error->GetNLSRequest()), "");
-    EXPECT_EQ(Text(error->GetNLSDiagnostic()), "Bad: ä, b");
-    EXPECT_EQ(Text(error->GetNLSAdvice()), "Fix = it");
-    EXPECT_EQ(Text(error->GetNLSMessage()), "Bad: ä, b Fix = it");
+    EXPECT_EQ(Narrow(error->GetNLSRequest()), "");
+    EXPECT_EQ(Narrow(error->GetNLSDiagnostic()), "Bad: ä, b");
+    EXPECT_EQ(Narrow(error->GetNLSAdvice()), "Fix = it");
+    EXPECT_EQ(Narrow(error->GetNLSMessage()), "Bad: ä, b Fix = it");
     EXPECT_STREQ(error->GetMessageText(), "Bad: ä, b Fix = it");
 }
 
@@ -161,11 +161,11 @@ TEST_F(CatalogTest, EachSectionHasParametersOfItsOwn) {
     error->SetNLSRequestParams(2, &a, &b);
     error->SetNLSDiagnosticParams(2, &b, nullptr); // null counts as empty
     error->SetNLSAdviceParams(1, &a);
-    EXPECT_EQ(Text(error->GetNLSMessage()), "r A B d B  a A /P2");
+    EXPECT_EQ(Narrow(error->GetNLSMessage()), "r A B d B  a A /P2");
     error->SetNLSParameters(2, nullptr, &b);
-    EXPECT_EQ(Text(error->GetNLSMessage()), "r  B d  B a  B");
+    EXPECT_EQ(Narrow(error->GetNLSMessage()), "r  B d  B a  B");
     error->SetNLSParameters(0, nullptr);
-    EXPECT_EQ(Text(error->GetNLSMessage()), "r /P1 /P2 d /P1 /P2 a /P1 /P2");
+    EXPECT_EQ(Narrow(error->GetNLSMessage()), "r /P1 /P2 d /P1 /P2 a /P1 /P2");
 }
 
 TEST_F(CatalogTest, PlaceholdersAreReplacedInOnePass) {
@@ -173,31 +173,31 @@ TEST_F(CatalogTest, PlaceholdersAreReplacedInOnePass) {
     ZFXUnicodeString a("x/P2y");
     ZFXUnicodeString b("/P1");
     error->SetNLSParameters(2, &a, &b);
-    EXPECT_EQ(Text(error->GetNLSDiagnostic()), "x/P2y /P1 x/P2y /P3 /P //P1");
+    EXPECT_EQ(Narrow(error->GetNLSDiagnostic()), "x/P2y /P1 x/P2y /P3 /P //P1");
 }
 
 TEST_F(CatalogTest, LanguageAppliesToErrorsRaisedBefore) {
     const Error error = MakeError();
     for (const char* language : {"xy", "XY_ab", "xy-AB.UTF-8"}) {
         EXPECT_TRUE(MessageCatalog::SetLanguage(language)) << language;
-        EXPECT_EQ(Text(error->GetNLSMessage()), "b, ä: böse Fix = it") << language; // the advice is not translated
+        EXPECT_EQ(Narrow(error->GetNLSMessage()), "b, ä: böse Fix = it") << language; // the advice is not translated
     }
     for (const char* english : {"en_GB", "C", "posix", ""}) {
         EXPECT_TRUE(MessageCatalog::SetLanguage(english)) << english;
-        EXPECT_EQ(Text(error->GetNLSMessage()), "Bad: ä, b Fix = it") << english;
+        EXPECT_EQ(Narrow(error->GetNLSMessage()), "Bad: ä, b Fix = it") << english;
     }
 }
 
 TEST_F(CatalogTest, UnknownLanguageMeansEnglish) {
     EXPECT_TRUE(MessageCatalog::SetLanguage("xy"));
     EXPECT_FALSE(MessageCatalog::SetLanguage("zz"));
-    EXPECT_EQ(Text(MakeError()->GetNLSMessage()), "Bad: ä, b Fix = it");
+    EXPECT_EQ(Narrow(MakeError()->GetNLSMessage()), "Bad: ä, b Fix = it");
     EXPECT_EQ(MessageCatalog::Languages(), (std::vector<std::string>{"en", "xy"}));
 }
 
 TEST_F(CatalogTest, WithoutACatalogTheMessageIsTheId) {
     MessageCatalog::SetFolder("/nowhere");
-    EXPECT_EQ(Text(MakeError()->GetNLSMessage()), "Id");
+    EXPECT_EQ(Narrow(MakeError()->GetNLSMessage()), "Id");
     EXPECT_EQ(MessageCatalog::Languages(), std::vector<std::string>{"en"});
 }
 
@@ -212,10 +212,10 @@ TEST_F(CatalogTest, FileOrFolderWithoutPermissionCountsAsMissing) {
         std::filesystem::permissions(path, permissions);
         ASSERT_EQ(seteuid(other), 0);
     };
-    EXPECT_EQ(Text(MakeError()->GetNLSDiagnostic()), "Bad: ä, b");
+    EXPECT_EQ(Narrow(MakeError()->GetNLSDiagnostic()), "Bad: ä, b");
     setPermissions(m_folder / "Tests.msg", perms::none);
     MessageCatalog::SetFolder(Utf8::FromPath(m_folder)); // reads the file again
-    EXPECT_EQ(Text(MakeError()->GetNLSMessage()), "Id");
+    EXPECT_EQ(Narrow(MakeError()->GetNLSMessage()), "Id");
     EXPECT_TRUE(MessageCatalog::SetLanguage("xy"));
     setPermissions(m_folder, perms::none);
     EXPECT_FALSE(MessageCatalog::SetLanguage("xy"));

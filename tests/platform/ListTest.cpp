@@ -14,16 +14,16 @@ TEST_F(ListTest, IndexesStartAtOneAndFollowTheOrderOfAppending) {
     for (const char* name : {"a", "b", "a", "A"})
         names.Append(name);
     EXPECT_EQ(names.Size(), 4);
-    EXPECT_EQ(Text(names[1]), "a");
+    EXPECT_EQ(Narrow(names[1]), "a");
     EXPECT_EQ(names.NbOccur("a"), 2);
     EXPECT_EQ(names.NbOccur("c"), 0);
     names.RemovePosition(1);
-    EXPECT_EQ(Text(names[1]), "b");
+    EXPECT_EQ(Narrow(names[1]), "b");
     names.RemovePosition(0);
     names.RemovePosition(4);
     EXPECT_EQ(names.Size(), 3);
-    EXPECT_EQ(Text(names[0]), ""); // an index outside of the list
-    EXPECT_EQ(Text(names[9]), "");
+    EXPECT_EQ(Narrow(names[0]), ""); // an index outside of the list
+    EXPECT_EQ(Narrow(names[9]), "");
     names.RemoveAll(ZFXCollec::ReleaseAllocation);
     EXPECT_EQ(names.Size(), 0);
 }

@@ -17,7 +17,7 @@ class MemoryModelTest : public DocumentTest {};
 std::string Names(const ZFXListValZFXBaseUnknown_var& list) {
     std::string names;
     for (int i = 1; i <= list.Size(); ++i)
-        names += Text(ZFXIAlias_var(list[i])->GetAlias()) + " ";
+        names += Narrow(ZFXIAlias_var(list[i])->GetAlias()) + " ";
     return names;
 }
 
@@ -82,7 +82,7 @@ TEST_F(MemoryModelTest, KindsOfferTheirInterfacesUnlessWithheld) {
 
 TEST_F(MemoryModelTest, FaultsCountTheRequestsThatTheyMatch) {
     const ZFXIAlias_var alias(document.Case("a"));
-    const auto get = [&] { return Text(alias->GetAlias()); };
+    const auto get = [&] { return Narrow(alias->GetAlias()); };
     const long before = model.Requests();
     EXPECT_EQ(get(), "a");
     EXPECT_EQ(model.Requests(), before + 1);

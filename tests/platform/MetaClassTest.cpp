@@ -107,7 +107,7 @@ protected:
     }
     std::string Alias() const {
         const ZFXIAlias_var alias(load);
-        return alias == nullptr ? "no interface" : Text(alias->GetAlias());
+        return alias == nullptr ? "no interface" : Narrow(alias->GetAlias());
     }
 
     MemoryFeature load = document.Model().Feature("AdaptorTestLT", "object");

@@ -55,7 +55,7 @@ TEST(Threads, EachHasItsOwnRegistryOfErrors) {
         ZFXUnicodeString suffix("(b c)");
         ZFXUnicodeString prefix(name);
         QVRNameUtil::PadStrings(padded, suffix, prefix);
-        EXPECT_EQ(Text(padded), thread % 2 == 0 ? "1st1st_bc" : "a.ba-b_bc");
+        EXPECT_EQ(Narrow(padded), thread % 2 == 0 ? "1st1st_bc" : "a.ba-b_bc");
     });
     for (const HRESULT code : last)
         EXPECT_EQ(ZFXError::ZFXGetLastError(code, nullptr), nullptr) << "another thread's error";

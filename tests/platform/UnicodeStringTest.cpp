@@ -152,9 +152,9 @@ TEST(UnicodeString, SearchReturnsThePositionOrMinus1) {
 TEST(UnicodeString, StripRemovesACharacterAtTheEndsOrEverywhere) {
     const char* stripped[] = {"a-b--", "--a-b", "a-b", "ab"};
     for (int mode = 1; mode <= 4; ++mode)
-        EXPECT_EQ(Text(String("--a-b--").Strip(static_cast<String::ZFXStripMode>(mode), '-')), stripped[mode - 1]);
-    EXPECT_EQ(Text(String(" \t a ").Strip(String::StripBoth)), "\t a");
-    EXPECT_EQ(Text(String("---").Strip(String::StripBoth, '-')), "");
+        EXPECT_EQ(Narrow(String("--a-b--").Strip(static_cast<String::ZFXStripMode>(mode), '-')), stripped[mode - 1]);
+    EXPECT_EQ(Narrow(String(" \t a ").Strip(String::StripBoth)), "\t a");
+    EXPECT_EQ(Narrow(String("---").Strip(String::StripBoth, '-')), "");
 }
 
 TEST(UnicodeString, PositionsOutsideTheTextAreClamped) {
@@ -164,9 +164,9 @@ TEST(UnicodeString, PositionsOutsideTheTextAreClamped) {
     };
     for (const auto& [start, length, sub, removed] : rows) {
         String text("abcd");
-        EXPECT_EQ(Text(text.SubString(start, length)), sub);
+        EXPECT_EQ(Narrow(text.SubString(start, length)), sub);
         text.Remove(start, length);
-        EXPECT_EQ(Text(text), removed);
+        EXPECT_EQ(Narrow(text), removed);
     }
     String cut(kLong);
     cut.Resize(72);
@@ -194,12 +194,12 @@ TEST(UnicodeString, ReplacesAllOrTheFirstOccurrence) {
         String first(text);
         all.ReplaceAll(old, with);
         EXPECT_EQ(first.ReplaceSubString(String(old), with), std::string_view(expectedFirst) == text ? 0 : 1);
-        EXPECT_EQ(Text(all), expectedAll) << text;
-        EXPECT_EQ(Text(first), expectedFirst) << text;
+        EXPECT_EQ(Narrow(all), expectedAll) << text;
+        EXPECT_EQ(Narrow(first), expectedFirst) << text;
     }
     String inserted("ac");
     inserted.ReplaceSubString(1, 0, "b");
-    EXPECT_EQ(Text(inserted), "abc");
+    EXPECT_EQ(Narrow(inserted), "abc");
 }
 
 TEST(UnicodeString, AnArgumentCanBeTheStringItself) {
@@ -246,16 +246,16 @@ TEST(UnicodeString, ParsesAndFormatsDecimalNumbers) {
     for (const int number : {0, 7, -5, kMost, kLeast}) {
         String text("before");
         text.BuildFromNum(number, "%d");
-        EXPECT_EQ(Text(text), std::to_string(number));
+        EXPECT_EQ(Narrow(text), std::to_string(number));
     }
 }
 
 TEST(UnicodeString, ConvertsTheCaseOfAllScripts) {
     String text("aZ é ß ÿ ǆ 𐐨𐑏𐑐 日 ω");
     text.ToUpper();
-    EXPECT_EQ(Text(text), "AZ É ß Ÿ Ǆ 𐐀𐐧𐑐 日 Ω");
+    EXPECT_EQ(Narrow(text), "AZ É ß Ÿ Ǆ 𐐀𐐧𐑐 日 Ω");
     text.ToLower();
-    EXPECT_EQ(Text(text), "az é ß ÿ ǆ 𐐨𐑏𐑐 日 ω");
+    EXPECT_EQ(Narrow(text), "az é ß ÿ ǆ 𐐨𐑏𐑐 日 ω");
 }
 
 TEST(UnicodeChar, DigitsAreAsciiAndWhiteSpaceIsThatOfUnicode) {

@@ -1,11 +1,11 @@
 #include "TestSupport.h"
 
-#include <gtest/gtest.h>
-#include <nlohmann/json.hpp>
+#include "memory-model/MemoryModel.h"
+#include "text/ZFXUnicodeString.h"
 
-#include <cstdlib>
 #include <filesystem>
 #include <map>
+#include <regex>
 
 namespace {
 
@@ -16,57 +16,60 @@ std::string Replaced(std::string text, const std::string& old, const std::string
     return text;
 }
 
-/// Splits a command line into words. Words in single quotes may contain spaces.
-std::vector<std::string> Words(const std::string& line) {
-    std::vector<std::string> words;
-    std::string word;
-    bool isQuoted = false;
-    bool hasWord = false;
-    for (const char c : line + " ") {
-        if (c == '\'') {
-            isQuoted = !isQuoted;
-            hasWord = true;
-        } else if (c != ' ' || isQuoted) {
-            word += c;
-            hasWord = true;
-        } else if (hasWord) {
-            words.push_back(std::exchange(word, ""));
-            hasWord = false;
-        }
+/// Replaces \uXXXX by the character.
+std::string Unescaped(std::string word) {
+    for (std::size_t at = 0; (at = word.find("\\u", at)) != std::string::npos;) {
+        const auto unit = static_cast<char16_t>(std::stoi(word.substr(at + 2, 4), nullptr, 16));
+        word.replace(at, 6, ZFXUnicodeString(std::u16string_view(&unit, 1)).ConvertToChar());
     }
+    return word;
+}
+
+/// Splits a command line into words. A word in single quotes may contain spaces.
+std::vector<std::string> Words(const std::string& line) {
+    static const std::regex kWord("'([^']*)'|([^ ]+)");
+    std::vector<std::string> words;
+    for (std::sregex_iterator match(line.begin(), line.end(), kWord), end; match != end; ++match)
+        words.push_back(Unescaped((*match)[1].matched ? (*match)[1] : (*match)[2]));
     return words;
 }
 
-/// Runs the command lines of one transcript and compares all that they print, and their exit codes.
-/// To write the transcripts anew, run qvrnames-tests with QVR_WRITE_EXPECTED=1 and look at the difference.
-class TranscriptTest : public ::testing::TestWithParam<const char*> {};
+/// Runs the command lines of a transcript and compares all output and the exit codes. A command line may begin with
+/// COLUMNS=N, the width of a terminal. To regenerate the transcripts, run qvrnames-tests with QVR_WRITE_EXPECTED=1 and
+/// examine the difference.
+class TranscriptTest : public ::testing::TestWithParam<std::string> {};
 
-TEST_P(TranscriptTest, IsPrintedAgain) {
+TEST_P(TranscriptTest, OutputIsUnchanged) {
     const std::string folder = TRANSCRIPTS_FOLDER;
     const std::string path = folder + "/" + GetParam() + ".txt";
-    const std::map<std::string, std::string> places{{"{examples}", QVRNAMES_FOLDER "/examples"}, {"{here}", folder}};
-    std::istringstream lines(Replaced(ReadFile(path), "\r", ""));
-    const std::string expected = lines.str();
+    const std::map<std::string, std::string> variables{
+        {"{examples}", QVRNAMES_FOLDER "/examples"}, {"{here}", folder}, {"\\e", "\x1B"}};
+    const std::string expected = Replaced(ReadFile(path), "\r", "");
+    std::istringstream lines(expected);
     std::string printed;
     for (std::string line; std::getline(lines, line);) {
-        if (!line.starts_with("$ qvrnames"))
+        const std::size_t program = line.find("qvrnames");
+        if (!line.starts_with("$ ") || program == std::string::npos)
             continue;
-        std::string command = line.substr(10);
-        for (const auto& [name, place] : places)
-            command = Replaced(command, name, place);
-        const RunResult result = RunWith(Words(command));
+        const std::size_t columns = line.find("COLUMNS=") == 2 ? std::stoul(line.substr(10)) : 0;
+        std::string command = line.substr(program + 8);
+        for (const auto& [name, value] : variables)
+            command = Replaced(command, name, value);
+        const RunResult result = RunWith(Words(command), {columns, columns > 0});
+        EXPECT_EQ(MemoryModel::LiveObjects(), 0) << "the document was not released: " << line;
         std::string output = result.out + (result.err.empty() ? "" : "standard error: " + result.err);
-        for (const auto& [name, place] : places)
-            output = Replaced(output, place, name);
+        for (const auto& [name, value] : variables)
+            output = Replaced(output, value, name);
         printed += line + "\n" + output + "exit code " + std::to_string(result.code) + "\n\n";
     }
-    if (std::getenv("QVR_WRITE_EXPECTED") != nullptr) // NOLINT(concurrency-mt-unsafe): there is one thread
-        std::ofstream(path, std::ios::binary) << printed;
     EXPECT_EQ(printed, expected);
+    WriteIfRequested(path, printed);
 }
 
-INSTANTIATE_TEST_SUITE_P(Each, TranscriptTest, ::testing::Values("audit", "check", "deck", "help", "propose", "usage"),
-                         [](const auto& transcript) { return std::string(transcript.param); });
+INSTANTIATE_TEST_SUITE_P(Each, TranscriptTest,
+                         ::testing::Values("audit", "check", "deck", "help", "paths", "propose", "rename", "terminals",
+                                           "usage"),
+                         [](const auto& transcript) { return transcript.param; });
 
 TEST(Commands, ReturnTwoForUnusableFiles) {
     const TestFolder folder;
@@ -75,33 +78,21 @@ TEST(Commands, ReturnTwoForUnusableFiles) {
     std::filesystem::resize_file(Utf8::ToPath(large), (std::uintmax_t{256} << 20) + 1);
     const std::string folderPath = folder.Path(".");
     const std::string step = Example("rename-a-step.json");
-    const struct {
-        std::vector<std::string> arguments;
-        std::string expected;
-    } rows[] = {
-        {{"check", "\xFF"}, "an argument is not UTF-8"},
+    const std::pair<std::vector<std::string>, std::string> rows[] = {
+        {{"check", "\xFF"}, "an argument is not UTF-8: \uFFFD"},
         {{"audit", "/no/such.json"}, "/no/such.json: cannot be read: No such file or directory"},
         {{"audit", folderPath}, folderPath + ": cannot be read: Is a directory"},
-        {{"audit", empty}, empty + ": the file is empty"},
-        {{"audit", large}, large + ": larger than 256 MB"},
-        {{"rename", step, "step", "x", "--output", "/no/such/folder/x"}, "/no/such/folder/x: cannot be written"},
+        {{"audit", empty}, empty + ": the file is empty; a JSON object was expected"},
+        {{"audit", large}, large + ": larger than 256 MB, the maximum size of a document"},
+        {{"rename", step, "step", "x", "--output", "/no/such/folder/x"},
+         "/no/such/folder/x: cannot be written: No such file or directory"},
         {{"rename", step, "step", "x", "--output", folderPath}, folderPath + ": cannot be written: not a regular file"},
     };
-    for (const auto& row : rows) {
-        const RunResult result = RunWith(row.arguments);
-        EXPECT_EQ(result.code, 2) << row.expected;
-        EXPECT_EQ(result.out, "");
-        EXPECT_NE(result.err.find("qvrnames: " + row.expected), std::string::npos) << result.err;
-    }
-}
-
-TEST(Commands, PointersOfAnAuditLeadToTheNames) {
-    const std::string document = Example("pump-flange-bracket.json");
-    const auto text = nlohmann::json::parse(ReadFile(document));
-    const auto audit = nlohmann::json::parse(RunWith({"audit", document, "--json"}).out);
-    for (const auto& refusal : audit["refusals"]) {
-        const nlohmann::json::json_pointer pointer(refusal["pointer"].get<std::string>());
-        EXPECT_EQ(text.at(pointer).at("name"), refusal["name"]);
+    for (const auto& [arguments, expected] : rows) {
+        const RunResult result = RunWith(arguments);
+        EXPECT_EQ(result.code, 2) << expected;
+        EXPECT_EQ(result.out, "") << expected;
+        EXPECT_EQ(result.err, "qvrnames: " + expected + "\n");
     }
 }
 

@@ -1,16 +1,23 @@
 #include "TestSupport.h"
 
-#include <gtest/gtest.h>
-
 #include <csignal>
 
 #include <sys/resource.h>
 #include <sys/stat.h>
+#include <unistd.h>
 
 namespace {
 
+/// Returns the lowest unused file descriptor.
+int NextDescriptor() {
+    const int file = dup(STDIN_FILENO);
+    close(file);
+    return file;
+}
+
 TEST(FilesOnPosix, KeepsPermissionsAndLinks) {
     const TestFolder folder;
+    const int descriptor = NextDescriptor();
     const std::string file = folder.Write("document.json", R"({"cases": [{"name": "A"}]})");
     const std::string link = folder.Path("link.json");
     const std::string output = folder.Path("output.json");
@@ -24,9 +31,10 @@ TEST(FilesOnPosix, KeepsPermissionsAndLinks) {
     EXPECT_EQ(ReadFile(file), R"({"cases": [{"name": "C"}]})");
     for (const std::string& written : {file, output})
         EXPECT_EQ(static_cast<int>(std::filesystem::status(written).permissions()), 0640) << written;
+    EXPECT_EQ(NextDescriptor(), descriptor) << "a file was not closed";
 }
 
-TEST(FilesOnPosix, LeavesTheFileWhenItCannotBeWritten) {
+TEST(FilesOnPosix, LeavesTheFileIfItCannotBeWritten) {
     const TestFolder folder;
     const std::string text = ReadFile(Example("rename-a-step.json"));
     const std::string file = folder.Write("document.json", text);
@@ -38,15 +46,33 @@ TEST(FilesOnPosix, LeavesTheFileWhenItCannotBeWritten) {
     const RunResult result = RunWith({"rename", file, "Perturbation", "Last"});
     ASSERT_EQ(setrlimit(RLIMIT_FSIZE, &former), 0);
     EXPECT_EQ(result.code, 2);
-    EXPECT_EQ(result.out, "") << "a change was result that did not happen";
-    EXPECT_NE(result.err.find(file + ": cannot be written: File too large"), std::string::npos) << result.err;
+    EXPECT_EQ(result.out, "") << "a renaming was reported that failed";
+    EXPECT_EQ(result.err, "qvrnames: " + file + ": cannot be written: File too large\n");
     EXPECT_EQ(ReadFile(file), text);
     EXPECT_EQ(folder.Files(), 1U);
 }
 
-TEST(FilesOnPosix, ReportsTheErrorOfTheSystemWhileReading) {
-    const RunResult result = RunWith({"audit", "/proc/self/mem"});
-    EXPECT_NE(result.err.find("/proc/self/mem: cannot be read: Input/output error"), std::string::npos) << result.err;
+TEST(FilesOnPosix, ReportsMissingPermissions) {
+    const TestFolder folder;
+    const std::string file = folder.Write("document.json", R"({"cases": [{"name": "A"}]})");
+    const std::string secret = folder.Write("secret.json", "{}");
+    const std::string output = folder.Path("output.json");
+    ASSERT_EQ(chmod(secret.c_str(), 0), 0);
+    ASSERT_EQ(chmod(folder.Path(".").c_str(), 0555), 0);
+    const uid_t user = geteuid();
+    ASSERT_EQ(seteuid(user == 0 ? 65534 : user), 0); // root may open every file
+    const RunResult read = RunWith({"audit", secret});
+    const RunResult written = RunWith({"rename", file, "A", "B", "--output", output});
+    ASSERT_EQ(seteuid(user), 0);
+    ASSERT_EQ(chmod(folder.Path(".").c_str(), 0755), 0);
+    EXPECT_EQ(read.err, "qvrnames: " + secret + ": cannot be read: Permission denied\n");
+    EXPECT_EQ(written.err, "qvrnames: " + output + ": cannot be written: Permission denied\n");
+    EXPECT_EQ(folder.Files(), 2U);
+}
+
+TEST(FilesOnPosix, ReportsAReadError) {
+    EXPECT_EQ(RunWith({"audit", "/proc/self/mem"}).err,
+              "qvrnames: /proc/self/mem: cannot be read: Input/output error\n");
 }
 
 } // namespace

@@ -1,4 +1,4 @@
-// Puts the program under the locale that QVR_TEST_LOCALE names; a missing one ends it.
+// Sets the locale of the program to the value of QVR_TEST_LOCALE. An unknown locale ends the program.
 
 #include <cstdlib>
 #include <locale>
@@ -7,13 +7,13 @@ namespace {
 
 [[maybe_unused]] const bool isSet = [] {
     if (const char* name = std::getenv("QVR_TEST_LOCALE")) // NOLINT(concurrency-mt-unsafe): there is one thread yet
-        std::locale::global(std::locale(name));            // the C library's as well
+        std::locale::global(std::locale(name));            // also sets the C library's locale
     return true;
 }();
 
 } // namespace
 
-// The sanitizer asks for this name. The C library keeps the list of folders that LOCPATH names.
+// The leak checker calls this function by its name. The C library never frees the list of folders in LOCPATH.
 // NOLINTNEXTLINE(readability-identifier-naming)
 extern "C" const char* __lsan_default_suppressions();
 // NOLINTNEXTLINE(readability-identifier-naming)

@@ -6,23 +6,21 @@
 #include <sstream>
 #include <string>
 
-/// A result code as a test reads it: "S_OK", "E_FAIL", the message id of the error registered under it, with
-/// the return code that the error carries ("DuplicateNameERR_02 -100"), or the number.
+/// Returns a result code as text: "S_OK"; "E_FAIL"; if an error is registered under the code, its message id and return
+/// code ("DuplicateNameERR_02 -100", without a return code of 0); otherwise the number.
 inline std::string ResultText(HRESULT code) {
     if (code == S_OK)
         return "S_OK";
     if (code == E_FAIL)
         return "E_FAIL";
     if (ZFXError* error = ZFXError::ZFXGetLastError(code, nullptr)) {
-        std::string said = error->GetMsgId();
-        if (error->GetReturnCode() != 0)
-            said.append(" ").append(std::to_string(error->GetReturnCode()));
-        return said;
+        const std::string id = error->GetMsgId();
+        return error->GetReturnCode() == 0 ? id : id + " " + std::to_string(error->GetReturnCode());
     }
     return std::to_string(code);
 }
 
-/// What an action writes on standard output.
+/// Returns what an action writes on standard output.
 template <class Action>
 std::string CapturedOutput(Action action) {
     std::ostringstream written;
@@ -32,8 +30,8 @@ std::string CapturedOutput(Action action) {
     return written.str();
 }
 
-/// Texts in tables: UTF-8 in, UTF-8 out.
-inline std::string Text(const ZFXUnicodeString& text) { return text.ConvertToChar(); }
+/// Returns the text in UTF-8.
+inline std::string Narrow(const ZFXUnicodeString& text) { return text.ConvertToChar(); }
 
 inline constexpr int kMillion = 1'000'000;
 inline ZFXUnicodeString Repeated(char c, int times) { return {ZFXUnicodeChar(c), static_cast<std::size_t>(times)}; }

@@ -3,7 +3,7 @@
 #include "QVRGenI18NUtils.h"
 #include "support/DocumentTest.h"
 
-/// A test of names that the singleton remembers. The singleton's lists are empty before and after each test.
+/// A test of names that the singleton caches. The caches are empty before and after each test.
 class SingletonTest : public DocumentTest {
 protected:
     using Operation = HRESULT (QVRGenI18NUtils::*)(const ZFXISpecObject_var&, ZFXUnicodeString&);
@@ -13,11 +13,11 @@ protected:
         utils->ResetAllLists();
         DocumentTest::TearDown();
     }
-    /// Returns the name that an operation gives a feature. After a failure: "error|name".
+    /// Returns the name that an operation returns for a feature. After a failure: "error|name".
     std::string NameBy(Operation operation, MemoryFeature feature) {
         ZFXUnicodeString name("before");
         const HRESULT code = (utils->*operation)(feature, name);
-        return code == S_OK ? Text(name) : ResultText(code) + "|" + Text(name);
+        return code == S_OK ? Narrow(name) : ResultText(code) + "|" + Narrow(name);
     }
 
     static constexpr Operation kGeneric = &QVRGenI18NUtils::GetGenericEnglishFeatureName;

@@ -22,9 +22,10 @@ public:
     bool start_array(std::size_t) override { return Enter(); }
     bool end_object() override { return Leave(); }
     bool end_array() override { return Leave(); }
-    bool parse_error(std::size_t position, const std::string&, const nlohmann::detail::exception& error) override {
+    bool parse_error(std::size_t position, const std::string& lastRead,
+                     const nlohmann::detail::exception& error) override {
         offset = position == 0 ? 0 : position - 1;
-        message = WithoutLocation(error.what());
+        message = WithoutLocation(error.what(), lastRead);
         return false;
     }
 
@@ -40,15 +41,14 @@ private:
 
     /// Removes the location, which the caller reports as line and column, and the text read last, which may be half the
     /// file or ill-formed.
-    static std::string WithoutLocation(std::string reason) {
+    static std::string WithoutLocation(std::string reason, const std::string& lastRead) {
         if (const auto column = reason.find("column "); column != std::string::npos)
             reason.erase(0, reason.find(": ", column) + 2);
         else if (const auto id = reason.find("] "); id != std::string::npos)
             reason.erase(0, id + 2);
-        const auto read = reason.find("; last read: ");
-        const auto expected = reason.rfind("'; expected ");
-        if (read != std::string::npos)
-            reason.erase(read, expected == std::string::npos ? std::string::npos : expected + 1 - read);
+        const std::string read = "; last read: '" + lastRead + "'";
+        if (const auto begin = reason.find(read); begin != std::string::npos)
+            reason.erase(begin, read.size());
         return reason;
     }
 
