@@ -1,4 +1,5 @@
 #include "support/Results.h"
+#include "support/TestFolder.h"
 
 #include "errors/MessageCatalog.h"
 #include "object-model/ZFXHandle.h"
@@ -6,7 +7,6 @@
 
 #include <gtest/gtest.h>
 
-#include <fstream>
 #include <functional>
 
 #ifdef __linux__
@@ -114,24 +114,15 @@ TEST(Error, CloneHasTheContentButNotTheCode) {
 class CatalogTest : public ::testing::Test {
 protected:
     CatalogTest() {
-        std::filesystem::create_directories(m_folder);
-        std::ofstream(m_folder / "Tests.msg")
-            << "# comment\n\nId.Diagnostic = Bad: /P1, /P2 \r\nId.Advice=Fix = it\n"
-            << "Once.Diagnostic = /P1 /P2 /P1 /P3 /P //P2\n"
-            << "All.Request = r /P1 /P2\nAll.Diagnostic = d /P1 /P2\nAll.Advice = a /P1 /P2\n";
-        std::ofstream(m_folder / "Tests_xy.msg") << "Id.Diagnostic = /P2, /P1: böse\n";
-        MessageCatalog::SetFolder(Utf8::FromPath(m_folder));
+        m_folder.Write("Tests.msg", "# comment\n\nId.Diagnostic = Bad: /P1, /P2 \r\nId.Advice=Fix = it\n"
+                                    "Once.Diagnostic = /P1 /P2 /P1 /P3 /P //P2\n"
+                                    "All.Request = r /P1 /P2\nAll.Diagnostic = d /P1 /P2\nAll.Advice = a /P1 /P2\n");
+        m_folder.Write("Tests_xy.msg", "Id.Diagnostic = /P2, /P1: böse\n");
+        MessageCatalog::SetFolder(m_folder.Path("."));
     }
     ~CatalogTest() override {
-        std::filesystem::remove_all(m_folder);
         MessageCatalog::SetFolder("/nowhere");
         MessageCatalog::SetLanguage("");
-    }
-    static std::filesystem::path Folder() {
-        const auto folder = std::filesystem::temp_directory_path() / Utf8::ToPath("qvr-catalog-Träger");
-        // One folder for each test: tests run in parallel.
-        return folder.parent_path() /
-               (folder.filename() += ::testing::UnitTest::GetInstance()->current_test_info()->name());
     }
     /// Returns the error "Id" with the parameters "ä" and "b".
     static Error MakeError() {
@@ -142,7 +133,7 @@ protected:
         return error;
     }
 
-    const std::filesystem::path m_folder = Folder();
+    const TestFolder m_folder;
 };
 
 TEST_F(CatalogTest, MessageJoinsTheSectionsWithTheirParameters) {
@@ -207,19 +198,19 @@ TEST_F(CatalogTest, FileOrFolderWithoutPermissionCountsAsMissing) {
     const auto user = geteuid();
     const auto other = user == 0 ? uid_t{65534} : user; // root can read every file
     ASSERT_EQ(seteuid(other), 0);
-    const auto setPermissions = [&](const std::filesystem::path& path, perms permissions) {
+    const auto setPermissions = [&](const char* name, perms permissions) {
         ASSERT_EQ(seteuid(user), 0);
-        std::filesystem::permissions(path, permissions);
+        std::filesystem::permissions(Utf8::ToPath(m_folder.Path(name)), permissions);
         ASSERT_EQ(seteuid(other), 0);
     };
     EXPECT_EQ(Narrow(MakeError()->GetNLSDiagnostic()), "Bad: ä, b");
-    setPermissions(m_folder / "Tests.msg", perms::none);
-    MessageCatalog::SetFolder(Utf8::FromPath(m_folder)); // reads the file again
+    setPermissions("Tests.msg", perms::none);
+    MessageCatalog::SetFolder(m_folder.Path(".")); // reads the file again
     EXPECT_EQ(Narrow(MakeError()->GetNLSMessage()), "Id");
     EXPECT_TRUE(MessageCatalog::SetLanguage("xy"));
-    setPermissions(m_folder, perms::none);
+    setPermissions("", perms::none);
     EXPECT_FALSE(MessageCatalog::SetLanguage("xy"));
-    setPermissions(m_folder, perms::owner_all);
+    setPermissions("", perms::owner_all);
     EXPECT_EQ(seteuid(user), 0);
 }
 #endif
