@@ -2,55 +2,42 @@
 # Compares the commands, options and languages in the manual and in the completion with those in the help of the
 # program. Checks the syntax of the manual.
 # Usage: ManualTest.sh PROGRAM MANUAL COMPLETION CATALOG_FOLDER
-set -euo pipefail
-program=$1 manual=$2 completion=$3 catalogs=$4
-faults=0
+# shellcheck source=tests/support/checks.sh
+source "$(dirname "$0")/../support/checks.sh"
+program=$1 manual=$2
+# shellcheck source=/dev/null
+source "$3"
 
-# same WHAT EXPECTED FOUND: reports a difference between two lists with one word per line.
-same() {
-    [ "$2" = "$3" ] && return
-    printf '%s: expected, from the program:\n%s\nfound:\n%s\n' "$1" "$2" "$3" >&2
-    faults=$((faults + 1))
-}
-
-options_in() { grep -oE -- '--[a-z][a-z-]*' | sort -u; }
+options_in() { grep -oE -- '--[a-z][a-z-]*' | sort -u || true; }
 options_of() { "$program" "$@" --help | sed -nE 's/^  (-h,)?(--[a-z-]+).*/\2/p' | sort -u; }
-
 # section HEADING: prints the manual from this heading to the next one.
 section() { sed 's/\\-/-/g' "$manual" | awk -v heading="$1" '/^\.S[HS] / { on = ($0 == heading) } on'; }
-
-# shellcheck source=/dev/null
-source "$completion"
+# completed WORD...: prints what the shell suggests for the last word.
 completed() {
     COMP_WORDS=(qvrnames "$@") COMP_CWORD=$# COMPREPLY=()
     _qvrnames
     printf '%s\n' "${COMPREPLY[@]}" | sort -u
 }
 
-common=$(section '.SH OPTIONS OF ALL COMMANDS' | options_in)
-same "manual, common options" "$(options_of)" "$common"
-same "completion, common options" "$(options_of)" "$(completed --)"
-
+common=$(section '.SH OPTIONS OF ALL COMMANDS')
 commands=$("$program" --help | sed -n '/^Subcommands:/,/^$/s/^  \([a-z]*\) .*/\1/p' | sort)
-[ "$(wc -w <<<"$commands")" -ge 5 ] || same "help" "at least five commands" "$commands"
-same "manual, commands" "$commands" "$(sed -n 's/^\.SS //p' "$manual" | sort)"
-same "completion, commands" "$commands" "$(completed '' | grep -v -e '^-')"
-for command in $commands; do
-    found=$({ echo "$common"; section ".SS $command" | options_in || true; } | grep -vx -e '--version' | sort -u)
-    same "manual, options of $command" "$(options_of "$command")" "$found"
-    same "completion, options of $command" "$(options_of "$command")" "$(completed "$command" --)"
+same "commands in the manual" "$commands" "$(sed -n 's/^\.SS //p' "$manual" | sort)"
+same "commands in the completion" "$commands" "$(completed '' | grep -v '^-')"
+same "options of all commands in the manual" "$(options_of)" "$(options_in <<<"$common")"
+for command in "" $commands; do
+    options=$(options_of ${command:+"$command"})
+    same "options of \"$command\" in the completion" "$options" "$(completed ${command:+"$command"} --)"
+    [ -z "$command" ] || same "options of $command in the manual" "$options" \
+        "$({ echo "$common"; section ".SS $command"; } | options_in | grep -vx -e --version)"
 done
-
-languages=$({ echo en; for file in "$catalogs"/*_*.msg; do basename "${file##*_}" .msg; done; } | sort)
-same "completion, languages" "$languages" "$(completed audit --language '')"
-same "completion after an equals sign" "$languages" "$(completed audit --language = '')"
-for place in manual help; do
-    text=$(if [ $place = help ]; then "$program" --help; else section '.SH OPTIONS OF ALL COMMANDS'; fi)
-    codes=$(sed -n '/--language/,/^\.TP\|^ *--/p' <<<"$text" | grep -oE '\b(en|[a-z]{2})\b' | sort -u)
-    same "$place, languages" "$languages" "$(comm -12 <(echo "$codes") <(echo "$languages"))"
+languages=$({ echo en; printf '%s\n' "$4"/*_*.msg | sed -E 's/.*_(.*)\.msg/\1/'; } | sort)
+same "languages in the completion" "$languages" "$(completed audit --language '')"
+same "languages in the completion after an equals sign" "$languages" "$(completed audit --language = '')"
+for text in "$common" "$("$program" --help)"; do
+    paragraph=$(sed -n '/--language/,/^\.TP\|^ *--/p' <<<"$text")
+    same "languages in: $paragraph" "$languages" "$(grep -oE '\b[a-z]{2}\b' <<<"$paragraph" | sort -u | comm -12 - <(echo "$languages"))"
 done
-
 if command -v groff >/dev/null; then
-    same "manual, roff" "" "$(groff -man -ww -z "$manual" 2>&1)"
+    same "errors in the manual" "" "$(groff -man -ww -z "$manual" 2>&1)"
 fi
-[ "$faults" = 0 ]
+finish

@@ -1,0 +1,67 @@
+#include "TestSupport.h"
+#include "document/DocumentKeys.h"
+
+#include <gtest/gtest.h>
+
+#include <map>
+#include <set>
+
+namespace {
+
+using Words = std::set<std::string>;
+
+/// Returns the words in backticks in a text.
+Words WordsIn(const std::string& text) {
+    static const std::regex word("`([^`]+)`");
+    return {std::sregex_token_iterator(text.begin(), text.end(), word, 1), std::sregex_token_iterator()};
+}
+
+Words Keys(MemoryKind kind) {
+    const std::vector<std::string> keys = KeysFor(kind);
+    return {keys.begin(), keys.end()};
+}
+
+/// Returns the keys of a kind of object without those that the page lists once: the keys of every object, and those
+/// that lead to the objects below the kinds that have features.
+Words FurtherKeys(MemoryKind kind) {
+    Words keys = Keys(kind);
+    for (const std::string& key : Keys(keys.count("features") > 0 ? MemoryKind::Step : MemoryKind::History))
+        keys.erase(key);
+    return keys;
+}
+
+// The first table of docs/document-file.md has three columns, the second one five.
+TEST(DocumentFilePage, ListsTheKeysAndDefaultTypesOfTheReader) {
+    Words ofEveryObject;
+    Words listed;
+    std::map<std::string, std::pair<Words, Words>> rows; // the default type and the further keys
+    std::istringstream page(ReadFile(DOCUMENT_FILE_PAGE));
+    for (std::string line; std::getline(page, line);) {
+        static const std::regex row(R"(\| (`[^|]*) \|[^|]*\|[^|]*\|(?:([^|]*)\|([^|]*)\|)?)");
+        std::smatch cells;
+        if (!std::regex_match(line, cells, row))
+            continue;
+        const Words keys = WordsIn(cells[1]);
+        if (cells[2].matched)
+            rows[*keys.begin()] = {WordsIn(cells[2]), WordsIn(cells[3])};
+        else
+            ofEveryObject.insert(keys.begin(), keys.end());
+        listed.merge(WordsIn(cells.str(1) + cells.str(3)));
+    }
+    Words expected = Keys(MemoryKind::History);
+    expected.insert("$schema");
+    EXPECT_EQ(ofEveryObject, expected);
+    for (std::size_t key = 0; key < kDocumentKeys; ++key)
+        expected.insert(SpellingOf(static_cast<DocumentKey>(key)));
+    EXPECT_EQ(listed, expected);
+    for (const auto& [key, kind, defaultType, isList] : kChildKeys) {
+        const auto row = rows.find(SpellingOf(key));
+        if (row == rows.end())
+            continue; // a further key, as `listed` shows
+        const bool hasDefault = defaultType != nullptr && Keys(kind).count("type") > 0;
+        EXPECT_EQ(row->second.first, hasDefault ? Words{defaultType} : Words{}) << row->first;
+        EXPECT_EQ(row->second.second, FurtherKeys(kind)) << row->first;
+    }
+}
+
+} // namespace
