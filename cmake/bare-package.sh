@@ -10,7 +10,6 @@ mkdir -p "$1"
 folder=$(realpath "$1")
 deb=$2
 readme=$3
-here=$(realpath "$(dirname "${BASH_SOURCE[0]}")")
 bare=$folder/bare
 root=$folder/root
 trap 'echo "error: line $LINENO: $BASH_COMMAND" >&2' ERR
@@ -84,10 +83,13 @@ step "build a program with the package"
 apt_inside install --no-install-recommends g++ cmake make pkgconf
 mkdir -p "$root/tmp/consumer"
 readme_block cpp >"$root/tmp/consumer/main.cpp"
-cp "$here/consumer/CMakeLists.txt" "$root/tmp/consumer/"
+{
+    printf '%s\n' 'cmake_minimum_required(VERSION 3.25)' 'project(program LANGUAGES CXX)' 'add_executable(program main.cpp)'
+    readme_block cmake
+} >"$root/tmp/consumer/CMakeLists.txt"
 inside cmake -S /tmp/consumer -B /tmp/consumer/build
 inside cmake --build /tmp/consumer/build
-expect "$folder/expected.txt" /tmp/consumer/build/consumer
+expect "$folder/expected.txt" /tmp/consumer/build/program
 # shellcheck disable=SC2016  # the inner shell expands it
 inside sh -ec 'g++ -std=c++17 /tmp/consumer/main.cpp -o /tmp/by-pkg-config $(pkg-config --cflags --libs QVRNameUtility ZFXMemoryModel)'
 expect "$folder/expected.txt" /tmp/by-pkg-config
