@@ -5,6 +5,8 @@
 
 #include "text/Utf8Path.h"
 
+#include <gtest/gtest.h>
+
 #include <cstdlib>
 #include <fstream>
 #include <regex>
