@@ -1,6 +1,7 @@
 #pragma once
 
 #include <algorithm>
+#include <cstddef>
 #include <cstdint>
 
 /// The simple case mappings of Unicode: one character to one character, with an equal number of UTF-16 code units. The
@@ -39,6 +40,8 @@ struct Mapping {
 /// Case folding: two characters are equal apart from case exactly if they fold to one character.
 extern const Mapping kFold __attribute__((visibility("hidden")));
 
+/// Returns a hash that is equal for two texts that are equal after case folding.
+[[nodiscard]] std::size_t HashIgnoringCase(const char16_t* units, int length) noexcept;
 /// Converts `length` code units to upper case, in place.
 void ToUpper(char16_t* units, int length) noexcept;
 /// Converts `length` code units to lower case, in place.

@@ -160,6 +160,10 @@ int ZFXUnicodeString::operator==(const char* text) const noexcept {
     return at == units.size();
 }
 
+std::size_t ZFXUnicodeString::HashIgnoringCase() const noexcept {
+    return CaseMapping::HashIgnoringCase(Data(), m_length);
+}
+
 ZFXUnicodeString ZFXUnicodeString::SubString(int start, int length) const {
     const int from = std::clamp(start, 0, m_length);
     const int most = m_length - from;

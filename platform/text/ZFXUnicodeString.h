@@ -110,6 +110,9 @@ public:
         return CompareUnits(left, right, m_length);
     }
 
+    /// Returns a hash that ignores letter case: it is equal for two texts for which Compare returns 1 or 2.
+    [[nodiscard]] std::size_t HashIgnoringCase() const noexcept;
+
     /// Returns the `length` code units from `start` on.
     [[nodiscard]] ZFXUnicodeString SubString(int start, int length) const;
     /// Returns the position of the first (SearchForward) or last (SearchBackward) occurrence of `sub` at or after

@@ -110,6 +110,7 @@ TEST(UnicodeString, CompareReturns2IfIdentical1IfEqualApartFromCase) {
     for (const auto& [a, b, expected] : rows) {
         EXPECT_EQ(String(a).Compare(b), expected) << a << " " << b;
         EXPECT_EQ(String(b).Compare(a), expected) << b << " " << a;
+        EXPECT_EQ(String(a).HashIgnoringCase() == String(b).HashIgnoringCase(), expected != 0) << a << " " << b;
         const String longA = kLong + a;
         EXPECT_EQ(longA.Compare(kLong + b), expected);
     }
