@@ -43,4 +43,12 @@ inline constexpr Row kRows[] = {
     return false;
 }
 
+/// Returns true if a row with exactly this late type is guarded.
+inline bool IsGuarded(const ZFXUnicodeString& lateType) {
+    for (const Row& row : kRows)
+        if (row.alias == Alias::Guarded && lateType == row.lateType)
+            return true;
+    return false;
+}
+
 } // namespace LateTypes

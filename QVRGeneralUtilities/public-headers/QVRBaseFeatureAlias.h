@@ -1,5 +1,6 @@
 #pragma once
 
+#include "QVRNameFinding.h"
 #include "QVRNameUtilityExport.h"
 
 #include "object-model/ZFXBaseUnknown.h"
@@ -32,6 +33,17 @@ public:
     /// has no attribute "Alias"; the check still runs. If the object extends no feature with ZFXISpecObject, stores the
     /// former alias again without a check.
     void SetAlias(const ZFXUnicodeString& alias) noexcept;
+
+    /// Checks what SetAlias would do with a text, without changing the feature. Stores and prints nothing.
+    ///
+    /// Returns the code of the check that SetAlias would make for `alias`, and registers the same errors.
+    /// - E_FAIL: the handle is empty. `finding` is unchanged.
+    /// @param finding  if not null and the check fails, receives the rule and, for a clash, the other feature
+    static HRESULT CheckAlias(const ZFXISpecObject_var& feature, const ZFXUnicodeString& alias,
+                              QVRNameFinding* finding = nullptr) noexcept;
+
+    /// Returns `alias` as SetAlias stores it: without spaces and then without underscores at both ends.
+    static ZFXUnicodeString Trimmed(const ZFXUnicodeString& alias) noexcept;
 
 private:
     /// Stores `value` without a check.

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "QVRNameFinding.h"
 #include "QVRNameUtilityExport.h"
 
 #include "analysis/QVRISamAnalysisConnectionDesign.h"
@@ -201,6 +202,19 @@ public:
     /// - "DoubleByteCharErr_01": a unit of the name is above U+00FF. Checked last.
     static HRESULT CheckName(ZFXISpecObject_var& feature, const ZFXUnicodeString& name,
                              unsigned char checkStartAndEnd) noexcept;
+
+    /// Appends a finding for each rule that the current name of a feature breaks, feature by feature in the order of
+    /// the list. Registers no error. Always returns S_OK. The time is linear in the number of features and in the sizes
+    /// of their scopes: each scope is listed once, and each name is requested once.
+    ///
+    /// A feature without findings passes its single check. Otherwise, the first finding is what the single check
+    /// returns. The single check is
+    /// - IsNameUniqueAcrossCases, then IsUniqueNameForJob, for the late type "QVRJobLT";
+    /// - CheckName without the test of the first character for "QVRShellSectionEnhLT";
+    /// - CheckName, then GetMorvelObjectName, for a bolt tightening;
+    /// - CheckName for every other late type.
+    static HRESULT CheckNames(const ZFXListValZFXISpecObject_var& features,
+                              ZFXListVal<QVRNameFinding>& findings) noexcept;
 
     /// Checks the feature's current name with IsNameUnique, then `fileName` with IsFileNameValid. Fails as these do.
     /// - "ZFXIAliasERR_01": the feature has no name.

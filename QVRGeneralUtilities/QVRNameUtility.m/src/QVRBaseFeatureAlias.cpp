@@ -1,8 +1,8 @@
 #include "QVRBaseFeatureAlias.h"
 
-#include "QVRNameUtil.h"
 #include "analysis/ZFXISpecAttrAccess.h"
 #include "errors/ZFXError.h"
+#include "internal/NameDecisions.h"
 #include "internal/Vocabulary.h"
 
 #include <cassert>
@@ -31,6 +31,22 @@ private:
     ZFXISpecAttrKey_var m_key;
 };
 
+/// Makes the checks of SetAlias and returns the code of the last one.
+/// @param finding  receives the result if the last check fails; may be null
+HRESULT CheckCandidate(const ZFXISpecObject_var& feature, const NameDecisions::NameToCheck& name,
+                       QVRNameFinding* finding) {
+    const ZFXUnicodeString lateType = feature->GetLateType();
+    Decision decision = NameDecisions::OfName(feature, name, lateType != Vocabulary::QVRShellSectionEnhLT);
+    HRESULT code = Raise(decision);
+    if (lateType == Vocabulary::QVRJobLT) {
+        decision = NameDecisions::InScope(NameScopes::OfJob(feature), feature, name);
+        code = Raise(decision);
+    }
+    if (finding != nullptr && Failed(code))
+        *finding = FindingOf(decision, feature, name.text);
+    return code;
+}
+
 /// Prints the message of the error that is registered under a code. Prints nothing if there is none.
 void PrintError(HRESULT code) {
     if (ZFXError* error = ZFXError::ZFXGetLastError(code, nullptr))
@@ -44,22 +60,27 @@ QVRBaseFeatureAlias::~QVRBaseFeatureAlias() = default;
 
 ZFXUnicodeString QVRBaseFeatureAlias::GetAlias() noexcept { return AliasAttribute(this).Read(); }
 
+ZFXUnicodeString QVRBaseFeatureAlias::Trimmed(const ZFXUnicodeString& alias) noexcept {
+    return alias.Strip(ZFXUnicodeString::StripBoth).Strip(ZFXUnicodeString::StripBoth, '_');
+}
+
+HRESULT QVRBaseFeatureAlias::CheckAlias(const ZFXISpecObject_var& feature, const ZFXUnicodeString& alias,
+                                        QVRNameFinding* finding) noexcept {
+    return feature == nullptr ? E_FAIL : CheckCandidate(feature, {Trimmed(alias), true}, finding);
+}
+
 void QVRBaseFeatureAlias::SetAttribute(const ZFXUnicodeString& value) noexcept { AliasAttribute(this).Write(value); }
 
 void QVRBaseFeatureAlias::SetAlias(const ZFXUnicodeString& alias) noexcept {
     ZFXUnicodeString kept = GetAlias();
-    const ZFXUnicodeString candidate = alias.Strip(ZFXUnicodeString::StripBoth).Strip(ZFXUnicodeString::StripBoth, '_');
-    ZFXISpecObject_var feature(this);
+    const ZFXUnicodeString candidate = Trimmed(alias);
+    const ZFXISpecObject_var feature(this);
     if (feature == nullptr) {
         SetAttribute(kept);
         return;
     }
     SetAttribute(candidate); // the checks read the alias of the feature
-    const ZFXUnicodeString lateType = feature->GetLateType();
-    const unsigned char checkStartAndEnd = lateType == Vocabulary::QVRShellSectionEnhLT ? 0 : 1;
-    HRESULT code = QVRNameUtil::CheckName(feature, candidate, checkStartAndEnd);
-    if (lateType == Vocabulary::QVRJobLT)
-        code = QVRNameUtil::IsNameUniqueAcrossCases(feature, candidate);
+    const HRESULT code = CheckCandidate(feature, {candidate}, nullptr);
     if (Failed(code))
         PrintError(code);
     else

@@ -2,6 +2,7 @@
 
 #include "internal/InputErrors.h"
 #include "internal/NameRules.h"
+#include "internal/TextRules.h"
 
 #include <algorithm>
 #include <string>
@@ -13,23 +14,29 @@ constexpr int kMaxTagLength = 80; // UTF-16 code units
 /// Returns S_OK if no unit of the name is above the limit. Otherwise appends these units to `offending` and raises
 /// DoubleByteCharErr_01.
 [[nodiscard]] HRESULT RejectUnitsAbove(char16_t limit, const ZFXUnicodeString& name, ZFXUnicodeString& offending) {
+    return TextRules::AppendUnitsAbove(limit, name, offending)
+               ? InputErrorReturn(MessageId::DoubleByteCharErr_01, {.diagnostic = &offending})
+               : S_OK;
+}
+
+} // namespace
+
+bool TextRules::AppendUnitsAbove(char16_t limit, const ZFXUnicodeString& name, ZFXUnicodeString& list) {
     const auto isAbove = [limit](char16_t unit) { return unit > limit; };
     if (std::ranges::none_of(name.Units(), isAbove))
-        return S_OK;
-    const ZFXUnicodeString examined(name); // `offending` may be the same object as `name`
+        return false;
+    const ZFXUnicodeString examined(name); // `list` may be the same object as `name`
     for (const char16_t unit : examined.Units()) {
         if (!isAbove(unit))
             continue;
         const unsigned short listed = unit;
         ZFXUnicodeString entry;
         entry.BuildFromUCChar(&listed, 1);
-        offending.Append(entry.Append("  "));
+        list.Append(entry.Append("  "));
     }
-    offending.Resize(offending.GetLengthInChar() - 1);
-    return InputErrorReturn(MessageId::DoubleByteCharErr_01, {.diagnostic = &offending});
+    list.Resize(list.GetLengthInChar() - 1);
+    return true;
 }
-
-} // namespace
 
 HRESULT QVRNameUtil::DoesNameContainDoubleByteChar(const ZFXUnicodeString& name, ZFXUnicodeString& offending) noexcept {
     return RejectUnitsAbove(0xFF, name, offending);

@@ -2,11 +2,11 @@
 
 #include "QVRNameUtil.h"
 
-#include "analysis/QVRIPropagatingFeature.h"
 #include "analysis/QVRIStep.h"
 #include "analysis/WorkbenchUtilities.h"
 #include "analysis/ZFXIAlias.h"
 #include "internal/InputErrors.h"
+#include "internal/NameDecisions.h"
 
 #include <tuple>
 
@@ -16,27 +16,20 @@ QVRNameUtil& QVRNameUtil::operator=(const QVRNameUtil& other) = default;
 QVRNameUtil::~QVRNameUtil() = default;
 
 HRESULT QVRNameUtil::IsNameUnique(ZFXISpecObject_var& feature, const ZFXUnicodeString& name) noexcept {
-    if (QVRIStep_var(feature) != nullptr)
+    switch (NameScopes::KindOf(feature)) {
+    case NameScopes::Kind::Step:
         return IsUniqueNameForStep(feature, name);
-    if (QVRIPropagatingFeature_var(feature) != nullptr)
+    case NameScopes::Kind::PropagatingObject:
         return IsUniqueNameForPropagatingObject(feature, name);
+    case NameScopes::Kind::Member:
+        break;
+    }
     return IsUniqueNameForObject(feature, name);
 }
 
 HRESULT QVRNameUtil::CheckName(ZFXISpecObject_var& feature, const ZFXUnicodeString& name,
                                unsigned char checkStartAndEnd) noexcept {
-    const ZFXIAlias_var alias(feature);
-    if (alias == nullptr)
-        return InputErrorReturn(MessageId::ZFXIAliasERR_01);
-    HRESULT code = IsNameUnique(feature, name);
-    if (Failed(code))
-        return code;
-    ZFXUnicodeString tested = name.IsNull() != 0 ? alias->GetAlias() : name;
-    code = IsNameValid(tested, checkStartAndEnd);
-    if (Failed(code))
-        return code;
-    ZFXUnicodeString offending;
-    return DoesNameContainDoubleByteChar(tested, offending);
+    return Raise(NameDecisions::OfName(feature, {name}, checkStartAndEnd != 0));
 }
 
 HRESULT QVRNameUtil::CheckFileName(ZFXISpecObject_var& feature, const ZFXUnicodeString& fileName) noexcept {

@@ -4,6 +4,7 @@
 #include "analysis/ZFXILinkableObject.h"
 #include "errors/ZFXError.h"
 #include "internal/InputErrors.h"
+#include "internal/NameScopes.h"
 #include "internal/Navigation.h"
 #include "internal/Numbering.h"
 #include "internal/ScopeNames.h"
@@ -13,15 +14,6 @@
 
 namespace {
 
-/// Returns every job of every case of the current document. Skips cases and jobs that cannot be listed.
-ZFXListValZFXISpecObject_var AllJobs() {
-    ZFXListValZFXBaseUnknown_var cases;
-    std::ignore = QVRAnalysisDocUtils::GetAllAnalysisCases(cases, nullptr); // the list counts, not the code
-    ZFXListValZFXISpecObject_var jobs;
-    std::ignore = QVRAnalysisDocUtils::GetJobs(cases, jobs); // the list counts, not the code
-    return jobs;
-}
-
 ZFXUnicodeString LowerCase(ZFXUnicodeString text) {
     text.ToLower();
     return text;
@@ -30,7 +22,7 @@ ZFXUnicodeString LowerCase(ZFXUnicodeString text) {
 } // namespace
 
 HRESULT QVRNameUtil::GetUniqueNameForJob(ZFXUnicodeString& name) noexcept {
-    const ZFXListValZFXISpecObject_var jobs = AllJobs();
+    const ZFXListValZFXISpecObject_var jobs = NameScopes::AllJobs();
     const ZFXUnicodeString base = LowerCase(Vocabulary::JobBase);
     Numbering::NumberAllocator numbers(static_cast<std::size_t>(jobs.Size()) + 1);
     for (int i = 1; i <= jobs.Size(); ++i)
@@ -40,12 +32,14 @@ HRESULT QVRNameUtil::GetUniqueNameForJob(ZFXUnicodeString& name) noexcept {
 }
 
 HRESULT QVRNameUtil::IsUniqueNameForJob(const ZFXISpecObject_var& job, const ZFXUnicodeString& name) noexcept {
-    const ZFXListValZFXISpecObject_var jobs = AllJobs();
+    const NameScopes::Scope scope = NameScopes::JobsOfDocument{};
     const ZFXBaseUnknown* self = ZFXIdentityOf(job);
-    for (int i = 1; i <= jobs.Size(); ++i)
-        if (ZFXIdentityOf(jobs[i]) != self && NamesClash(name, NameOf(jobs[i])))
-            return InputErrorReturn(MessageId::DuplicateNameERR_03);
-    return S_OK;
+    return Raise(NameScopes::CompareWith(scope, {}, [&](const ZFXListValZFXBaseUnknown_var& jobs) -> Decision {
+        for (const ZFXBaseUnknown_var& other : jobs)
+            if (ZFXIdentityOf(other) != self && NamesClash(name, NameOf(other)))
+                return NameScopes::ComparisonFailed(scope, MessageId::DuplicateNameERR_02, other);
+        return {};
+    }));
 }
 
 HRESULT QVRNameUtil::GetUniqueNameForMeshPart(ZFXISpecObject_var& meshPart, ZFXUnicodeString& name) noexcept {

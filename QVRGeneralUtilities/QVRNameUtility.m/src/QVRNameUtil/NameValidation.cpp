@@ -1,7 +1,6 @@
 #include "QVRNameUtil.h"
 
-#include "internal/InputErrors.h"
-#include "internal/NameRules.h"
+#include "internal/TextRules.h"
 
 #include <cassert>
 
@@ -21,24 +20,19 @@ HRESULT QVRNameUtil::CheckForIllegalCharacters(const ZFXUnicodeString& name) noe
 }
 
 HRESULT QVRNameUtil::NameCheckUserLength(ZFXUnicodeString& name) noexcept {
-    const int length = name.GetLengthInChar();
-    if (length < 1)
-        return InputErrorReturn(MessageId::NameLengthERR_02);
-    if (length > NameRules::MaxNameLength)
-        return InputErrorReturn(MessageId::NameLengthERR_01);
-    return S_OK;
+    return Raise(TextRules::BrokenByLength(name));
 }
 
 HRESULT QVRNameUtil::NameCheckStartAndEnd(ZFXUnicodeString& name) noexcept {
     assert(name.GetLengthInChar() > 0);
-    return name[0].IsDigit() != 0 ? InputErrorReturn(MessageId::LeadingDigitERR_01) : S_OK;
+    return Raise(TextRules::BrokenByFirstCharacter(name));
 }
 
 HRESULT QVRNameUtil::NameCheckIllegalCharacter(ZFXUnicodeString& name, unsigned char isFileName) noexcept {
     using namespace NameRules;
-    if (Breaks(name, isFileName != 0 ? kReservedInFileNames : kReservedInNames))
-        return InputErrorReturn(MessageId::IllegalCharERR_01, {.returnCode = kNameRejected});
-    if (isFileName != 0 && Breaks(name, kIllegalInFileNames))
-        return InputErrorReturn(MessageId::IllegalCharERR_02, {.returnCode = kNameRejected});
-    return S_OK;
+    if (isFileName == 0)
+        return Raise(TextRules::BrokenByReservedCharacter(name));
+    if (Breaks(name, kReservedInFileNames))
+        return Raise(Decision::Broken(MessageId::IllegalCharERR_01));
+    return Breaks(name, kIllegalInFileNames) ? Raise(Decision::Broken(MessageId::IllegalCharERR_02)) : S_OK;
 }

@@ -3,11 +3,9 @@
 #include "LateTypes.h"
 #include "QVRGenZFXUnicodeStringUtils.h"
 #include "analysis/ZFXIAlias.h"
-#include "analysis/ZFXISamAnalysisScan.h"
 #include "internal/InputErrors.h"
+#include "internal/NameDecisions.h"
 #include "internal/Numbering.h"
-
-#include <tuple>
 
 HRESULT QVRNameUtil::GetObjectName(const ZFXISpecObject_var& feature, ZFXUnicodeString& name) noexcept {
     if (feature == nullptr)
@@ -31,13 +29,7 @@ HRESULT QVRNameUtil::GetMorvelObjectName(ZFXISpecObject_var& feature, ZFXUnicode
     const HRESULT legal = IsNameValid(name, 1);
     if (Failed(legal) || !LateTypes::IsOfKind(lateType, LateTypes::Kind::BoltTightening))
         return legal;
-    const ZFXISamAnalysisScan_var father(ZFXBaseUnknown_var::Attach(feature->GetFather()));
-    if (father == nullptr)
-        return InputErrorReturn(MessageId::ParentERR_01);
-    ZFXListValZFXBaseUnknown_var siblings;
-    std::ignore = father->ListChildren(siblings, ZFXISamAnalysisScan::kScanMode); // the list counts, not the code
-    const HRESULT unique = IsNameUniqueInSet(feature, siblings, "");
-    return Failed(unique) ? InputErrorReturn(MessageId::DuplicateZFXNameERR_01) : unique;
+    return Raise(NameDecisions::InScope(NameScopes::OfBoltTightening(feature), feature, {""}));
 }
 
 HRESULT QVRNameUtil::GenerateUniqueName(const ZFXISpecObject& feature, ZFXUnicodeString& name) noexcept {

@@ -2,10 +2,7 @@
 
 #include "QVRNameUtil.h"
 
-#include "analysis/WorkbenchUtilities.h"
-#include "analysis/ZFXILinkableObject.h"
-#include "internal/InputErrors.h"
-#include "internal/Navigation.h"
+#include "internal/NameDecisions.h"
 
 #include <cassert>
 #include <utility>
@@ -15,27 +12,18 @@
 HRESULT QVRNameUtil::GetAllPropagatingObjects(ZFXISamAnalysisCase_var& analysisCase,
                                               ZFXListValZFXBaseUnknown_var& objects,
                                               ZFXISpecObject_var& object) noexcept {
-    const auto [outcome, history] = Navigation::SimulationHistoryOf(analysisCase);
-    if (outcome == Navigation::HistoryOutcome::NotFound)
-        return InputErrorReturn(MessageId::AnalysisCaseERR_03);
-    if (outcome != Navigation::HistoryOutcome::Found)
-        return InputErrorReturn(MessageId::ObjectParentERR_01);
-    ZFXListValZFXBaseUnknown_var steps;
-    HRESULT code = history->ListChildren(steps, ZFXISamAnalysisScan::kScanMode);
-    if (Failed(code))
-        return code;
+    ZFXListValZFXBaseUnknown_var found;
+    const Decision decision = NameScopes::AppendFeaturesOfAllSteps(
+        analysisCase,
+        [&](ZFXISpecObject_var& step, ZFXListValZFXBaseUnknown_var& features) {
+            return GetObjectsInStep(step, features, object);
+        },
+        found);
     const ZFXBaseUnknown* self = ZFXIdentityOf(object);
-    for (int s = 1; s <= steps.Size(); ++s) {
-        ZFXISpecObject_var step(steps[s]);
-        ZFXListValZFXBaseUnknown_var inStep;
-        code = GetObjectsInStep(step, inStep, object);
-        if (Failed(code))
-            continue; // the code of the last step is returned
-        for (ZFXBaseUnknown_var& found : inStep)
-            if (ZFXIdentityOf(found) != self)
-                objects.Append(std::move(found));
-    }
-    return code;
+    for (ZFXBaseUnknown_var& feature : found)
+        if (ZFXIdentityOf(feature) != self)
+            objects.Append(std::move(feature));
+    return Raise(decision);
 }
 
 HRESULT QVRNameUtil::GetUniqueNameForPropagatingObject(ZFXUnicodeString& name, ZFXISpecObject_var& object,
@@ -48,22 +36,5 @@ HRESULT QVRNameUtil::GetUniqueNameForPropagatingObject(ZFXUnicodeString& name, Z
 
 HRESULT QVRNameUtil::IsUniqueNameForPropagatingObject(ZFXISpecObject_var& object,
                                                       const ZFXUnicodeString& name) noexcept {
-    ZFXISpecObject_var parent;
-    HRESULT code = QVRAnalysisEntityUtils::GetParentCaseFromObject(object, parent);
-    ZFXISamAnalysisCase_var analysisCase;
-    if (!Failed(code)) {
-        analysisCase = parent;
-    } else {
-        // Outside every case, the scope is the current case of the document. If there is none, the name is unique.
-        const ZFXILinkableObject_var linkable(object);
-        ZFXDocument* document = linkable == nullptr ? nullptr : linkable->GetOwningDocument();
-        if (document == nullptr)
-            return code;
-        code = QVRStepUtils::GetCurrentAnalysisCaseSP(analysisCase, document);
-        if (Failed(code) || analysisCase == nullptr)
-            return code;
-    }
-    ZFXListValZFXBaseUnknown_var scope;
-    code = GetAllPropagatingObjects(analysisCase, scope, object);
-    return Failed(code) ? code : IsNameUniqueInSet(object, scope, name);
+    return Raise(NameDecisions::InScope(NameScopes::OfPropagatingObject(object), object, {name}));
 }

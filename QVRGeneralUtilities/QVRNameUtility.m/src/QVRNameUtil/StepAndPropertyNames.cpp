@@ -2,8 +2,8 @@
 
 #include "analysis/WorkbenchUtilities.h"
 #include "analysis/ZFXILinkableObject.h"
-#include "errors/ZFXError.h"
 #include "internal/InputErrors.h"
+#include "internal/NameDecisions.h"
 #include "internal/Navigation.h"
 #include "internal/Vocabulary.h"
 
@@ -27,22 +27,7 @@ HRESULT QVRNameUtil::GetUniqueNameForStep(ZFXUnicodeString& name, ZFXISamAnalysi
 }
 
 HRESULT QVRNameUtil::IsUniqueNameForStep(ZFXISpecObject_var& step, const ZFXUnicodeString& name) noexcept {
-    const ZFXBaseUnknown_var parent = Navigation::SimulationHistoryAbove(step);
-    if (parent == nullptr)
-        return InputErrorReturn(MessageId::StepParentERR_01);
-    const ZFXISamAnalysisScan_var history(parent);
-    ZFXListValZFXBaseUnknown_var steps;
-    if (history == nullptr || Failed(history->ListChildren(steps, ZFXISamAnalysisScan::kScanMode)))
-        return InputErrorReturn(MessageId::StepParentERR_02);
-    const HRESULT code = IsNameUniqueInSet(step, steps, name);
-    if (!Failed(code))
-        return code;
-    const ZFXError* error = ZFXError::ZFXGetLastError(code, nullptr);
-    if (error == nullptr)
-        return 1;
-    if (error->GetReturnCode() == kNameRejected)
-        return InputErrorReturn(MessageId::DuplicateNameERR_01);
-    return InputErrorReturn(std::string(error->GetMsgId()));
+    return Raise(NameDecisions::InScope(NameScopes::OfStep(step), step, {name}));
 }
 
 HRESULT QVRNameUtil::GetUniqueNameForProperty(ZFXUnicodeString& name, ZFXISamAnalysisCase_var& analysisCase) noexcept {
@@ -68,16 +53,5 @@ HRESULT QVRNameUtil::GetUniqueNameForProperty(ZFXUnicodeString& name, ZFXISamAna
 }
 
 HRESULT QVRNameUtil::IsUniqueNameForObject(ZFXISpecObject_var& object, const ZFXUnicodeString& name) noexcept {
-    using Navigation::ParentSetOutcome;
-    const Navigation::ParentSetResult parent = Navigation::FirstParentSetOf(object);
-    if (parent.outcome == ParentSetOutcome::EmptyList)
-        return S_OK; // no set, so no names to compare with
-    if (parent.outcome != ParentSetOutcome::Found)
-        return parent.code;
-    const ZFXISamAnalysisSet_var set(parent.set);
-    if (set == nullptr)
-        return E_FAIL;
-    ZFXListValZFXBaseUnknown_var scope;
-    const HRESULT code = Navigation::AppendMembers(set, scope);
-    return Failed(code) ? code : IsNameUniqueInSet(object, scope, name);
+    return Raise(NameDecisions::InScope(NameScopes::OfMember(object), object, {name}));
 }

@@ -1,25 +1,8 @@
 #include "QVRNameUtil.h"
 
-#include "analysis/QVRIPropagatingFeature.h"
 #include "analysis/WorkbenchUtilities.h"
 #include "analysis/ZFXIAlias.h"
-#include "internal/Navigation.h"
-#include "internal/Vocabulary.h"
-
-#include <tuple>
-#include <utility>
-
-namespace {
-
-/// Returns true if the member was propagated to its step from an earlier one. Returns false for every initial
-/// temperature.
-[[nodiscard]] bool IsPropagated(const ZFXISpecObject_var& member) {
-    const QVRIPropagatingFeature_var propagating(member);
-    return propagating != nullptr && member->GetLateType() != Vocabulary::QVRInitialTemperatureLT &&
-           propagating->IsPropagated() != 0;
-}
-
-} // namespace
+#include "internal/NameScopes.h"
 
 HRESULT QVRNameUtil::GetParentStepName(const ZFXISpecObject_var& object, ZFXUnicodeString& stepName) noexcept {
     if (object == nullptr)
@@ -42,28 +25,5 @@ HRESULT QVRNameUtil::GetParentStepName(const ZFXISpecObject_var& object, ZFXUnic
 /// - The code of the search for the sets: the search failed.
 HRESULT QVRNameUtil::GetObjectsInStep(ZFXISpecObject_var& step, ZFXListValZFXBaseUnknown_var& objects,
                                       const ZFXISpecObject_var& object) noexcept {
-    const ZFXISpecObject_var parentSet(Navigation::FirstParentSetOf(object).set);
-    if (parentSet == nullptr)
-        return E_FAIL;
-    const ZFXUnicodeString setType = parentSet->GetLateType();
-    const ZFXISamAnalysisScan_var scan(step);
-    if (scan == nullptr)
-        return E_FAIL;
-    ZFXListValZFXBaseUnknown_var found;
-    HRESULT code = scan->FindObjectsOfType(setType, found, ZFXISamAnalysisScan::kScanMode);
-    if (Failed(code))
-        return code;
-    for (int i = 1; i <= found.Size(); ++i) {
-        const ZFXISamAnalysisSet_var set(found[i]);
-        if (set == nullptr)
-            continue;
-        ZFXListValZFXISpecObject_var members;
-        // The list counts, not the code.
-        std::ignore = set->ListMembers(members, CLSID_ZFXBaseUnknown, ZFXISamAnalysisSet::kMemberFlag);
-        for (ZFXISpecObject_var& member : members)
-            if (!IsPropagated(member))
-                objects.Append(std::move(member));
-        code = S_OK;
-    }
-    return code;
+    return NameScopes::AppendFeaturesOfStep(step, NameScopes::SetTypeOf(object), objects);
 }

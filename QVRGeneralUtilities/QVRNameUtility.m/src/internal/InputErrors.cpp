@@ -27,8 +27,10 @@ HRESULT Raise(const char* id, const InputErrorDetails& details, const char* sour
 
 } // namespace
 
+const char* TextOf(MessageId id) noexcept { return kIds[static_cast<std::size_t>(id)]; }
+
 HRESULT InputErrorReturn(MessageId id, const InputErrorDetails& details, const char* sourceFile, int sourceLine) {
-    return Raise(kIds[static_cast<std::size_t>(id)], details, sourceFile, sourceLine);
+    return Raise(TextOf(id), details, sourceFile, sourceLine);
 }
 
 HRESULT InputErrorReturn(const std::string& id, const char* sourceFile, int sourceLine) {

@@ -16,6 +16,8 @@ enum class MessageId : std::uint8_t {
 #undef MESSAGE_ID
 };
 
+[[nodiscard]] const char* TextOf(MessageId id) noexcept;
+
 /// The return code of an error that rejects a name for its characters or as a duplicate.
 inline constexpr HRESULT kNameRejected = -100;
 

@@ -1,0 +1,163 @@
+#include "LateTypes.h"
+#include "QVRBaseFeatureAlias.h"
+#include "QVRNameUtil.h"
+
+#include "support/DocumentTest.h"
+
+#include <algorithm>
+#include <random>
+#include <string_view>
+
+namespace {
+
+using Util = QVRNameUtil;
+
+/// A random document with few different names, so that many names clash.
+class CheckNames : public DocumentTest {
+protected:
+    template <class Element, std::size_t n>
+    const Element& OneOf(const Element (&elements)[n]) {
+        return elements[m_random() % n];
+    }
+    MemoryFeature Add(MemoryFeature feature) {
+        static const std::string kLong(73, 'x');
+        static const char* const kNames[] = {"A", "a", "B", "b", "Ä", "ä", "", "1", "a.b", "厚", kLong.c_str(), "C-1"};
+        feature.Alias(OneOf(kNames));
+        if (m_random() % 16 == 0)
+            feature.Without(IID_ZFXIAlias);
+        if (m_random() % 16 == 0)
+            feature.Propagated();
+        features.push_back(feature);
+        list.Append(feature);
+        return feature;
+    }
+    void Build(unsigned seed) {
+        m_random.seed(seed);
+        for (int i = 0; i < 2; ++i) {
+            MemoryFeature analysisCase = document.Case("Case");
+            for (int j = 0; j < 3; ++j) {
+                MemoryFeature step = Add(analysisCase.Step("QVRStaticLPStepLT", ""));
+                for (int k = 0; k < 2; ++k) {
+                    MemoryFeature set = step.Set(OneOf({"QVRLoadContainerLT", "QVRBCContainerLT"}));
+                    Add(set.Feature("QVRPressure", ""));
+                    Add(set.Feature("QVRInitialTemperatureLT", ""));
+                }
+            }
+            Add(analysisCase.Job(""));
+            Add(analysisCase.Job(""));
+        }
+        MemoryFeature father = document.Model().Feature("Connection", "Father").With(IID_ZFXISamAnalysisScan);
+        for (int i = 0; i < 3; ++i) {
+            Add(document.PropertySet().Feature(OneOf({"QVRShellSectionEnhLT", "QVRTabularAmplitudeLT"}), ""));
+            Add(document.MeshPart("", i));
+            Add(father.Feature("SAMBoltTightening", ""));
+        }
+        Add(document.Model().Feature("Orphan", ""));
+    }
+
+    static std::string IdOrCode(HRESULT code) {
+        const std::string text = ResultText(code);
+        return Failed(code) ? text.substr(0, text.find(' ')) : "";
+    }
+    /// Returns the results of the single checks that reject the stored name of a feature, in their order.
+    static std::vector<std::string> SingleChecks(ZFXISpecObject_var feature) {
+        std::vector<std::string> results;
+        const ZFXUnicodeString type = feature->GetLateType();
+        ZFXUnicodeString name;
+        const bool isNamed = !Failed(Util::GetObjectName(feature, name));
+        if (type == LateTypes::QVRJobLT) {
+            results = {IdOrCode(Util::IsNameUniqueAcrossCases(feature, "")),
+                       isNamed ? IdOrCode(Util::IsUniqueNameForJob(feature, name)) : ""};
+        } else {
+            results = {IdOrCode(Util::CheckName(feature, "", type == LateTypes::QVRShellSectionEnhLT ? 0 : 1))};
+            if (isNamed && LateTypes::IsOfKind(type, LateTypes::Kind::BoltTightening))
+                results.push_back(IdOrCode(Util::GetMorvelObjectName(feature, name)));
+        }
+        std::erase(results, "");
+        return results;
+    }
+    std::string Compared() {
+        ZFXListVal<QVRNameFinding> findings;
+        Util::CheckNames(list, findings);
+        int next = 1;
+        for (const ZFXISpecObject_var& feature : list) {
+            const std::vector<std::string> expected = SingleChecks(feature);
+            std::vector<std::string> found;
+            for (; next <= findings.Size() && findings[next].feature == feature; ++next)
+                found.push_back(findings[next].messageId.IsNull() ? IdOrCode(findings[next].code)
+                                                                  : Narrow(findings[next].messageId));
+            if (found.empty() != expected.empty() || (!found.empty() && found[0] != expected[0]))
+                return ::testing::PrintToString(found) + " instead of " + ::testing::PrintToString(expected);
+            for (const std::string& id : expected)
+                if (std::find(found.begin(), found.end(), id) == found.end())
+                    return ::testing::PrintToString(found) + " without " + id;
+        }
+        return next == findings.Size() + 1 ? "" : "findings of no feature";
+    }
+
+    std::vector<MemoryFeature> features;
+    ZFXListValZFXISpecObject_var list; // the same features
+
+private:
+    std::minstd_rand m_random;
+};
+
+class RandomDocument : public CheckNames, public ::testing::WithParamInterface<unsigned> {};
+TEST_P(RandomDocument, HasTheFindingsOfTheSingleChecks) {
+    Build(GetParam());
+    EXPECT_EQ(Compared(), "");
+    constexpr int kRequests = static_cast<int>(MemoryRequest::GetCurrentAnalysisCaseSP) + 1;
+    for (int request = 0; request < kRequests; ++request)
+        for (const MemoryResponse& response : {kFailure, kFailureWithOutput, kSuccessWithoutOutput}) {
+            model.FailAlways(static_cast<MemoryRequest>(request), response);
+            EXPECT_EQ(Compared(), "") << "request " << request << " with code " << response.code;
+            model.ClearFaults();
+            const std::size_t victim = (static_cast<std::size_t>(request) * 7 + GetParam()) % features.size();
+            features[victim].FailAlways(static_cast<MemoryRequest>(request), response);
+            EXPECT_EQ(Compared(), "") << "request " << request << " of feature " << victim;
+            model.ClearFaults();
+        }
+    list.RemoveAll();
+}
+TEST_P(RandomDocument, CheckAliasReturnsWhatSetAliasDoes) {
+    Build(GetParam());
+    for (MemoryFeature& feature : features) {
+        const ZFXIAlias_var alias(feature);
+        if (alias == nullptr || !LateTypes::IsGuarded(feature.LateType()))
+            continue;
+        for (const char* text : {" a_", "B", "", "1", "C-2", "a.b", "厚"}) {
+            const ZFXUnicodeString old = feature.StoredAlias();
+            QVRNameFinding finding;
+            const HRESULT code = QVRBaseFeatureAlias::CheckAlias(feature, text, &finding);
+            EXPECT_EQ(feature.StoredAlias(), old) << "CheckAlias stores nothing";
+            const std::string printed = CapturedOutput([&] { alias->SetAlias(text); });
+            EXPECT_EQ(feature.StoredAlias(), Failed(code) ? old : QVRBaseFeatureAlias::Trimmed(text)) << text;
+            const std::string message = Narrow(finding.Message());
+            EXPECT_EQ(printed, message.empty() ? "" : "NAME ERROR: " + message + "\n") << text;
+        }
+    }
+    list.RemoveAll();
+}
+
+TEST_F(CheckNames, FindingsListEveryRuleAndTheOtherFeature) {
+    MemoryFeature set = document.PropertySet();
+    const std::string name = "1." + std::string(71, 'x');
+    Add(set.Feature("QVRShellSectionEnhLT", "")).Alias(name.c_str());
+    Add(set.Feature("QVRTabularAmplitudeLT", "")).Alias((name + "ÄÖ厚").c_str());
+    MemoryFeature twin = set.Feature("T", name.c_str());
+    ZFXListVal<QVRNameFinding> findings;
+    EXPECT_EQ(Util::CheckNames(list, findings), S_OK);
+    std::vector<std::string> found;
+    for (const QVRNameFinding& finding : findings)
+        found.push_back(std::string(finding.feature == list[1] ? "1 " : "2 ") + Narrow(finding.messageId) +
+                        Narrow(finding.parameter) + (finding.other == ZFXBaseUnknown_var(twin) ? " twin" : ""));
+    const std::vector<std::string> expected{"1 DuplicateNameERR_02 twin", "1 NameLengthERR_01",   "1 IllegalCharERR_01",
+                                            "2 NameLengthERR_01",         "2 LeadingDigitERR_01", "2 IllegalCharERR_01",
+                                            "2 DoubleByteCharErr_01厚 "};
+    EXPECT_EQ(found, expected);
+    list.RemoveAll();
+}
+
+INSTANTIATE_TEST_SUITE_P(Seeds, RandomDocument, ::testing::Range(1U, 4U));
+
+} // namespace
