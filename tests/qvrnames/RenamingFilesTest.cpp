@@ -15,14 +15,13 @@ TEST(RenamingFiles, ChangesTheBytesOfOneName) {
         {R"({"cases": [{ "id": "a" }]})", "a", "A", R"({"cases": [{ "name": "A", "id": "a" }]})"},
         {R"({"cases": [{ }]})", "/cases/0", "A", R"({"cases": [{"name": "A" }]})"},
         {R"({"cases": [{"name": "A"}]})", "A", "\"\\\t温", R"({"cases": [{"name": "\"\\\t温"}]})"},
-        // this type of step removes spaces and underscores at the ends
         {R"({"cases": [{"steps": [{"type": "QVRStaticLPStepLT", "name": "A"}]}]})", "A", " _B c_ ",
          R"({"cases": [{"steps": [{"type": "QVRStaticLPStepLT", "name": "B c"}]}]})"},
     };
     const TestFolder folder;
     for (const auto& [text, feature, name, expected] : rows) {
         const std::string file = folder.Write("document.json", text);
-        const RunResult result = RunWith({"rename", file, feature, name});
+        const RunResult result = RunWith({"rename", file, feature, name, "--force"});
         EXPECT_EQ(result.code, 0) << result.err;
         EXPECT_EQ(ReadFile(file), expected);
     }

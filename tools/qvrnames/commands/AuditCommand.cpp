@@ -6,38 +6,22 @@
 #include "terminal/DisplayWidth.h"
 #include "terminal/Table.h"
 
+#include "QVRNameUtil.h"
+
 #include <nlohmann/json.hpp>
 
-#include <chrono>
+#include <optional>
 #include <ostream>
+#include <tuple>
 
 namespace {
-
-/// Prints the progress of an audit once per second, so nothing for a short audit.
-class Progress {
-public:
-    Progress(std::ostream& err, std::size_t total) : m_err(err), m_total(total) {}
-
-    void Update(std::size_t checked) {
-        const auto now = Clock::now();
-        if (now < m_next)
-            return;
-        m_next = now + std::chrono::seconds(1);
-        m_err << "qvrnames: " << checked << " of " << m_total << " features checked" << std::endl;
-    }
-
-private:
-    using Clock = std::chrono::steady_clock;
-    std::ostream& m_err;
-    std::size_t m_total;
-    Clock::time_point m_next = Clock::now() + std::chrono::seconds(1);
-};
 
 struct Finding {
     std::uint32_t entry;
     std::string name;
     Verdict verdict;
-    std::string deckColumn = {}; ///< the column of a name in the deck; empty for the name of the feature
+    std::optional<std::uint32_t> other = {}; ///< the entry that the name clashes with
+    std::string deckColumn = {};             ///< the column of a name in the deck; empty for the name of the feature
 };
 
 struct Findings {
@@ -46,20 +30,40 @@ struct Findings {
     std::vector<Finding> deck;     ///< names in the deck that break a rule or clash
 };
 
-std::string AliasOf(const ZFXISpecObject_var& feature) {
-    const ZFXIAlias_var alias(feature);
-    return alias == nullptr ? "" : alias->GetAlias().ConvertToChar();
+/// Returns the findings about the stored names of the named entries, in document order.
+std::vector<Finding> CheckEntries(const LoadedDocument& loaded, const std::vector<std::uint32_t>& named) {
+    const auto entryOf = EntriesByObject(loaded);
+    ZFXListValZFXISpecObject_var features;
+    for (const std::uint32_t entry : named)
+        features.Append(loaded.entries[entry].feature);
+    ZFXListVal<QVRNameFinding> found;
+    std::ignore = QVRNameUtil::CheckNames(features, found); // always S_OK
+    std::vector<Finding> findings;
+    for (const QVRNameFinding& finding : found) {
+        findings.push_back(
+            {entryOf.at(ZFXIdentityOf(finding.feature)), finding.name.ConvertToChar(), VerdictOf(finding)});
+        if (const auto other = entryOf.find(ZFXIdentityOf(finding.other)); other != entryOf.end())
+            findings.back().other = other->second;
+    }
+    return findings;
+}
+
+std::string Position(TextPosition position) {
+    return std::to_string(position.line) + ":" + std::to_string(position.column);
 }
 
 void PrintFindings(const LoadedDocument& loaded, const Findings& findings, bool withDeck, Console console) {
     std::ostream& out = console.out;
-    Table table{{"FEATURE", "NAME", "MESSAGE", "TEXT"}, {}};
+    Table table{{"LINE", "FEATURE", "NAME", "MESSAGE", "OTHER FEATURE", "TEXT"}, {}};
+    PositionFinder positions(loaded.text.Bytes());
     for (const std::vector<Finding>* list : {&findings.refusals, &findings.deck})
         for (const Finding& finding : *list)
-            table.rows.push_back({{Printable(DisplayPath(loaded, finding.entry))},
+            table.rows.push_back({{Position(positions.Find(NameOffset(loaded, finding.entry)))},
+                                  {Printable(DisplayPath(loaded, finding.entry))},
                                   {(finding.name.empty() ? "\"\"" : Printable(finding.name)) +
                                    (finding.deckColumn.empty() ? "" : "  (deck, " + finding.deckColumn + ")")},
                                   {finding.verdict.messageId.empty() ? "-" : finding.verdict.messageId, Style::Refusal},
+                                  {finding.other ? Printable(DisplayPath(loaded, *finding.other)) : ""},
                                   {Printable(finding.verdict.message)}});
     if (!table.rows.empty()) {
         PrintTable(out, table, console.screen);
@@ -73,31 +77,24 @@ void PrintFindings(const LoadedDocument& loaded, const Findings& findings, bool 
 
 nlohmann::ordered_json AsJson(const LoadedDocument& loaded, const std::vector<Finding>& findings) {
     nlohmann::ordered_json list = nlohmann::ordered_json::array();
+    PositionFinder positions(loaded.text.Bytes());
     for (const Finding& finding : findings) {
         const MemoryFeature feature = loaded.entries[finding.entry].feature;
+        const TextPosition position = positions.Find(NameOffset(loaded, finding.entry));
         list.push_back({{"feature", DisplayPath(loaded, finding.entry)},
                         {"pointer", PointerOf(loaded, finding.entry)},
+                        {"line", position.line},
+                        {"column", position.column},
                         {"type", feature.LateType().ConvertToChar()},
                         {"name", finding.name},
                         {"messageId", finding.verdict.messageId},
                         {"message", finding.verdict.message}});
+        if (finding.other)
+            list.back()["other"] = ReferenceTo(loaded, *finding.other);
         if (!finding.deckColumn.empty())
             list.back()["deck"] = finding.deckColumn;
     }
     return list;
-}
-
-/// Appends the refusals of the stored name of a feature. If both checks refuse it with one message id, appends only the
-/// first refusal.
-void CheckFeature(const LoadedDocument& loaded, std::uint32_t entry, std::vector<Finding>& refusals) {
-    const ZFXISpecObject_var feature = loaded.entries[entry].feature;
-    const std::string name = AliasOf(feature);
-    const Verdict first = CheckFeatureName(feature, name.c_str());
-    const Verdict second = CheckSpecialRules(feature);
-    if (first.IsRefusal())
-        refusals.push_back({entry, name, first});
-    if (second.IsRefusal() && second.messageId != first.messageId)
-        refusals.push_back({entry, name, second});
 }
 
 } // namespace
@@ -105,16 +102,11 @@ void CheckFeature(const LoadedDocument& loaded, std::uint32_t entry, std::vector
 int AuditDocument(const AuditRequest& request, Console console) {
     const auto loaded = OpenDocument(request.document);
     const std::vector<std::uint32_t> named = NamedEntries(*loaded);
-    Progress progress(console.err, named.size());
-    Findings findings;
-    for (const std::uint32_t entry : named) {
-        CheckFeature(*loaded, entry, findings.refusals);
-        progress.Update(++findings.checked);
-    }
+    Findings findings{named.size(), CheckEntries(*loaded, named), {}};
     if (request.withDeck)
         for (DeckFinding& finding : CheckDeck(BuildDeck(*loaded), *loaded))
             findings.deck.push_back(
-                {finding.entry, finding.name, std::move(finding.verdict), std::move(finding.column)});
+                {finding.entry, finding.name, std::move(finding.verdict), finding.other, std::move(finding.column)});
     if (console.isJson) {
         nlohmann::ordered_json json{{"featuresChecked", findings.checked},
                                     {"refusals", AsJson(*loaded, findings.refusals)}};

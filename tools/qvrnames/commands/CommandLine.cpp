@@ -140,6 +140,8 @@ private:
         AddDocument(app, m_rename.document);
         app->add_option("FEATURE", m_rename.feature, "The feature to rename")->required();
         app->add_option("NAME", m_rename.name, "The new name")->required();
+        app->add_flag("--force", m_rename.force,
+                      "Store a name that breaks a rule. Features of guarded types are still refused");
         app->add_option("--output", m_rename.output,
                         "Write the changed document to this file and leave DOCUMENT unchanged.\n"
                         "\"-\" is stdout (default for stdin); messages go to stderr");

@@ -36,6 +36,10 @@ ZFXUnicodeString ToUnicode(const std::string& argument) {
     return text;
 }
 
+nlohmann::ordered_json ReferenceTo(const LoadedDocument& loaded, std::uint32_t entry) {
+    return {{"feature", DisplayPath(loaded, entry)}, {"pointer", PointerOf(loaded, entry)}};
+}
+
 std::string Counted(std::size_t count, const std::string& noun) {
     return std::to_string(count) + " " + noun + (count == 1 ? "" : "s");
 }

@@ -45,6 +45,7 @@ struct RenameRequest {
     std::string document;
     std::string feature;
     std::string name;
+    bool force = false; ///< store a name that breaks a rule, if features of the type accept any name
     std::string output; ///< a file; "-": standard output, with messages on `err`; empty: the file of `document`
 };
 int RenameFeature(const RenameRequest& request, Console console);
@@ -59,6 +60,8 @@ int RenameFeature(const RenameRequest& request, Console console);
                                         const std::string& reference);
 /// Converts an argument. Throws BadInput if it is not UTF-8.
 [[nodiscard]] ZFXUnicodeString ToUnicode(const std::string& argument);
+/// Returns the path and the JSON pointer of an object as JSON.
+[[nodiscard]] nlohmann::ordered_json ReferenceTo(const LoadedDocument& loaded, std::uint32_t entry);
 /// Returns "1 feature", "2 features".
 [[nodiscard]] std::string Counted(std::size_t count, const std::string& noun);
 void PrintJson(std::ostream& out, const nlohmann::ordered_json& value);

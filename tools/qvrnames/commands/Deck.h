@@ -40,6 +40,7 @@ struct DeckFinding {
     std::string column;
     std::string name;
     Verdict verdict;
+    std::optional<std::uint32_t> other; ///< the object that has the same name in the deck
 };
 /// Returns the findings in the columns of deck names.
 [[nodiscard]] std::vector<DeckFinding> CheckDeck(const std::vector<DeckSection>& deck, const LoadedDocument& loaded);

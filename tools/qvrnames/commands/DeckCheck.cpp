@@ -24,22 +24,25 @@ std::uint32_t CaseOf(const LoadedDocument& loaded, std::uint32_t entry) {
     return entry;
 }
 
+/// Returns the path of `other`, or its JSON pointer if `entry` has the same path.
+std::string OtherPath(const LoadedDocument& loaded, std::uint32_t other, std::uint32_t entry) {
+    const std::string path = DisplayPath(loaded, other);
+    return path == DisplayPath(loaded, entry) ? PointerOf(loaded, other) : path;
+}
+
 /// The names in one column and the objects that have them. Features of different cases do not clash, because each case
 /// has its own deck.
 class UsedNames {
 public:
     explicit UsedNames(const LoadedDocument& loaded) : m_loaded(loaded) {}
 
-    /// Returns the path of an object that already has the name, or its JSON pointer if `entry` has the same path.
-    /// Records `entry` and returns nothing if the name is new.
-    std::optional<std::string> FindOwnerOrAdd(const DeckSection& section, std::uint32_t entry,
-                                              const std::string& name) {
+    /// Returns the object that already has the name. Records `entry` and returns nothing if the name is new.
+    std::optional<std::uint32_t> FindOwnerOrAdd(const DeckSection& section, std::uint32_t entry,
+                                                const std::string& name) {
         const std::uint32_t analysisCase = std::string_view(section.key) == "features" ? CaseOf(m_loaded, entry) : 0;
         for (const auto& [other, otherName] : m_owners[{analysisCase, CaseInsensitiveKey(name)}])
-            if (ZFXUnicodeString(otherName.c_str()).Compare(name.c_str()) != 0) {
-                const std::string path = DisplayPath(m_loaded, other);
-                return path == DisplayPath(m_loaded, entry) ? PointerOf(m_loaded, other) : path;
-            }
+            if (ZFXUnicodeString(otherName.c_str()).Compare(name.c_str()) != 0)
+                return other;
         m_owners[{analysisCase, CaseInsensitiveKey(name)}].emplace_back(entry, name);
         return std::nullopt;
     }
@@ -57,13 +60,13 @@ void CheckColumn(const DeckSection& section, std::size_t column, const LoadedDoc
         if (!row.names[column])
             continue;
         const std::string& name = *row.names[column];
-        const auto add = [&](Verdict verdict) {
-            findings.push_back({row.entry, section.columns[column].title, name, std::move(verdict)});
+        const auto add = [&](Verdict verdict, std::optional<std::uint32_t> other = {}) {
+            findings.push_back({row.entry, section.columns[column].title, name, std::move(verdict), other});
         };
         if (Verdict textVerdict = CheckText(name.c_str()); textVerdict.IsRefusal())
             add(std::move(textVerdict));
         if (const auto other = usedNames.FindOwnerOrAdd(section, row.entry, name))
-            add({E_FAIL, {}, "The deck also uses this name for " + *other + "."});
+            add({E_FAIL, {}, "The deck also uses this name for " + OtherPath(loaded, *other, row.entry) + "."}, other);
     }
 }
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "analysis/ZFXISpecObject.h"
+#include "QVRNameFinding.h"
 #include "base/ZFXResult.h"
 #include "text/ZFXUnicodeString.h"
 
@@ -26,16 +26,5 @@ struct Verdict {
 /// Checks the characters of a file name.
 [[nodiscard]] Verdict CheckFileName(const ZFXUnicodeString& name);
 
-/// Checks whether a feature can have a name, exactly as the alias extension of the naming module does: a shell section
-/// can begin with a digit, and a job's name is compared with the jobs of all cases and not checked otherwise. An empty
-/// name means the feature's stored name.
-[[nodiscard]] Verdict CheckFeatureName(const ZFXISpecObject_var& feature, const ZFXUnicodeString& name);
-
-/// Checks the stored name of a feature against rules for its type that CheckFeatureName does not include. Accepts the
-/// name of a feature of any other type.
-/// - Job: the name is unique among all jobs of the document.
-/// - Bolt tightening: the name in the form for the solver deck is legal and differs from those of its siblings.
-[[nodiscard]] Verdict CheckSpecialRules(const ZFXISpecObject_var& feature);
-
-/// Returns the name without spaces and then without underscores at its ends, as the alias extension stores it.
-[[nodiscard]] ZFXUnicodeString TrimmedName(const ZFXUnicodeString& name);
+/// Returns the verdict for a finding of the naming module.
+[[nodiscard]] Verdict VerdictOf(const QVRNameFinding& finding);

@@ -6,109 +6,89 @@
 #include "files/WholeFile.h"
 #include "terminal/DisplayWidth.h"
 
+#include "LateTypes.h"
+#include "QVRBaseFeatureAlias.h"
+
 #include <nlohmann/json.hpp>
 
-#include <iostream>
-#include <sstream>
+#include <optional>
+#include <ostream>
 
 namespace {
-
-/// Redirects std::cout to a buffer. The destructor restores it.
-class CapturedOutput {
-public:
-    CapturedOutput() : m_oldBuffer(std::cout.rdbuf(m_text.rdbuf())) {}
-    CapturedOutput(const CapturedOutput&) = delete;
-    CapturedOutput& operator=(const CapturedOutput&) = delete;
-    ~CapturedOutput() { std::cout.rdbuf(m_oldBuffer); }
-
-    std::string Text() const { return m_text.str(); }
-
-private:
-    std::ostringstream m_text;
-    std::streambuf* m_oldBuffer;
-};
 
 struct Outcome {
     std::string oldName;
     std::string newName; ///< the stored name: `oldName` if the renaming was refused
-    std::string printed; ///< output of the naming module on standard output
     bool isRefused = false;
-    Verdict verdict; ///< on the requested name
+    Verdict verdict;                         ///< on the requested name
+    std::optional<std::uint32_t> other = {}; ///< the entry that the requested name clashes with
 };
 
-/// Checks the name as the alias extension does: stores it first, because the check reads an empty name as the stored
-/// name. Restores the old name afterwards.
-Verdict CheckAsStored(const ZFXISpecObject_var& feature, const ZFXUnicodeString& name) {
-    const ZFXISpecAttrAccess_var attributes(feature);
-    if (attributes == nullptr)
-        return CheckFeatureName(feature, name);
-    const auto key = ZFXISpecAttrKey_var::Attach(attributes->GetAttrKey("Alias"));
-    const ZFXUnicodeString oldName = attributes->GetString(key, 0);
-    attributes->SetString(key, name, 0);
-    Verdict verdict = CheckFeatureName(feature, name);
-    attributes->SetString(key, oldName, 0);
-    return verdict;
-}
-
-/// Renames the feature through its interface ZFXIAlias, as a workbench does. SetAlias returns no result, so the
-/// renaming counts as refused if the name is unchanged and either a message was printed or another name was requested.
-Outcome ApplyName(const ZFXISpecObject_var& feature, const ZFXUnicodeString& name) {
-    Outcome outcome;
-    const ZFXUnicodeString trimmed = TrimmedName(name);
+/// Renames the feature through its interface ZFXIAlias, as a workbench does, if the name passes the check. With
+/// `force`, also renames a feature of a type that accepts any name.
+Outcome ApplyName(const LoadedDocument& loaded, std::uint32_t entry, const RenameRequest& request) {
+    const ZFXISpecObject_var feature = loaded.entries[entry].feature;
+    const ZFXUnicodeString name = ToUnicode(request.name);
     const ZFXIAlias_var alias(feature);
+    Outcome outcome;
     if (alias == nullptr) {
         outcome.isRefused = true;
         outcome.verdict = {
             E_NOINTERFACE, {}, "The feature cannot have a name: it does not offer the interface ZFXIAlias."};
         return outcome;
     }
-    const ZFXUnicodeString oldName = alias->GetAlias();
-    {
-        const CapturedOutput output;
-        alias->SetAlias(name);
-        outcome.printed = output.Text();
+    outcome.oldName = outcome.newName = alias->GetAlias().ConvertToChar();
+    QVRNameFinding finding;
+    if (Failed(QVRBaseFeatureAlias::CheckAlias(feature, name, &finding))) {
+        outcome.verdict = VerdictOf(finding);
+        const auto entries = EntriesByObject(loaded);
+        if (const auto other = entries.find(ZFXIdentityOf(finding.other)); other != entries.end())
+            outcome.other = other->second;
+        outcome.isRefused = !request.force || LateTypes::IsGuarded(feature->GetLateType());
     }
-    const ZFXUnicodeString newName = alias->GetAlias();
-    outcome.isRefused = newName == oldName && (!outcome.printed.empty() || (oldName != trimmed && oldName != name));
-    outcome.verdict = CheckAsStored(feature, outcome.isRefused ? trimmed : newName);
-    outcome.oldName = oldName.ConvertToChar();
-    outcome.newName = newName.ConvertToChar();
+    if (!outcome.isRefused) {
+        alias->SetAlias(QVRBaseFeatureAlias::Trimmed(name));
+        outcome.newName = alias->GetAlias().ConvertToChar();
+    }
     return outcome;
 }
 
 std::string Quoted(const std::string& name) { return "\"" + Printable(name) + "\""; }
 
-void Print(const std::string& feature, const RenameRequest& request, const Outcome& outcome, Console console) {
+/// Returns the message of the check and, for a clash, the other feature.
+std::string Reason(const LoadedDocument& loaded, const Outcome& outcome) {
+    const std::string other = outcome.other ? " The other feature is " + DisplayPath(loaded, *outcome.other) + "." : "";
+    return Printable(outcome.verdict.message + other);
+}
+
+void Print(const LoadedDocument& loaded, const std::string& feature, const RenameRequest& request,
+           const Outcome& outcome, Console console) {
     std::ostream& out = console.out;
-    out << outcome.printed << Printable(feature) << ": ";
+    out << Printable(feature) << ": ";
+    const std::string id = Styled(outcome.verdict.messageId, Style::Refusal, console.screen);
     if (outcome.isRefused) {
-        const Verdict& verdict = outcome.verdict;
-        const std::string id = Styled(verdict.messageId, Style::Refusal, console.screen);
-        out << "refused" << (verdict.messageId.empty() ? "" : " (" + id + ")") << "; the name is still "
-            << Quoted(outcome.oldName) << '\n';
-        if (outcome.printed.empty())
-            out << "  " << Printable(verdict.message) << '\n';
+        out << "refused" << (id.empty() ? "" : " (" + id + ")") << "; the name is still " << Quoted(outcome.oldName)
+            << "\n  " << Reason(loaded, outcome) << '\n';
         return;
     }
     out << Quoted(outcome.oldName) << " -> " << Quoted(outcome.newName);
     out << (outcome.newName != request.name ? " (without spaces and underscores at its ends)\n" : "\n");
     if (outcome.verdict.IsRefusal())
-        out << "  stored, because features of this type accept any name; an audit refuses it: "
-            << outcome.verdict.messageId << "  " << Printable(outcome.verdict.message) << '\n';
+        out << "  stored because of --force; an audit refuses it" << (id.empty() ? "" : " (" + id + ")") << ": "
+            << Reason(loaded, outcome) << '\n';
 }
 
-void PrintAsJson(const std::string& feature, const RenameRequest& request, const Outcome& outcome, Console console) {
-    nlohmann::ordered_json json{{"feature", feature},
-                                {"renamed", !outcome.isRefused},
-                                {"former", outcome.oldName},
-                                {"requested", request.name},
-                                {"name", outcome.newName},
-                                {"printed", outcome.printed},
-                                {"legal", !outcome.verdict.IsRefusal()}};
+void PrintAsJson(const LoadedDocument& loaded, const std::string& feature, const RenameRequest& request,
+                 const Outcome& outcome, Console console) {
+    nlohmann::ordered_json json{{"feature", feature},        {"renamed", !outcome.isRefused},
+                                {"former", outcome.oldName}, {"requested", request.name},
+                                {"name", outcome.newName},   {"legal", !outcome.verdict.IsRefusal()}};
     if (outcome.verdict.IsRefusal()) {
         json["messageId"] = outcome.verdict.messageId;
         json["message"] = outcome.verdict.message;
     }
+    if (outcome.other)
+        json["other"] = ReferenceTo(loaded, *outcome.other);
     PrintJson(console.out, json);
 }
 
@@ -125,11 +105,10 @@ void WriteDocument(const std::string& bytes, const RenameRequest& request, const
 } // namespace
 
 int RenameFeature(const RenameRequest& request, Console console) {
-    const ZFXUnicodeString name = ToUnicode(request.name);
     const auto loaded = OpenDocument(request.document);
     const std::uint32_t entry = FindFeature(*loaded, request.document, request.feature);
     const std::string feature = DisplayPath(*loaded, entry);
-    const Outcome outcome = ApplyName(loaded->entries[entry].feature, name);
+    const Outcome outcome = ApplyName(*loaded, entry, request);
     const std::string& target = request.output.empty() ? request.document : request.output;
     // The file is written before the result is printed, so that a renaming that cannot be written is not reported.
     const bool needsOutput = outcome.newName != outcome.oldName || !request.output.empty() || target == kStandardStream;
@@ -139,6 +118,6 @@ int RenameFeature(const RenameRequest& request, Console console) {
     // Standard output contains either the document or the messages.
     const Console messages =
         target == kStandardStream ? Console{console.err, console.err, {}, console.isJson} : console;
-    (console.isJson ? PrintAsJson : Print)(feature, request, outcome, messages);
+    (console.isJson ? PrintAsJson : Print)(*loaded, feature, request, outcome, messages);
     return outcome.isRefused ? kRefused : kSuccess;
 }

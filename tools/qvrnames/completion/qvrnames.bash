@@ -28,7 +28,7 @@ _qvrnames() {
         audit) options="$common --deck" ;;
         deck) options=$common ;;
         propose) options="$common --base --job" ;;
-        rename) options="$common --output" ;;
+        rename) options="$common --force --output" ;;
         *) return ;;
     esac
     COMPREPLY=()

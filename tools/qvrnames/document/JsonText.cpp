@@ -126,15 +126,24 @@ std::string JsonText::PointerTo(std::size_t offset) const {
 }
 
 std::string JsonText::LineAndColumn(std::size_t offset) const {
-    const std::string_view before = std::string_view(m_bytes).substr(0, offset);
-    const auto lines = std::count(before.begin(), before.end(), '\n');
-    std::string_view line = before.substr(before.rfind('\n') + 1); // in the first line, npos + 1 is 0
-    if (line.starts_with(kByteOrderMark))
-        line.remove_prefix(kByteOrderMark.size());
-    const auto characters = std::count_if(line.begin(), line.end(), [](char c) {
-        return (static_cast<unsigned char>(c) & 0xC0U) != 0x80U; // the bits 10 mark a continuation byte
-    });
-    return "line " + std::to_string(lines + 1) + ", column " + std::to_string(characters + 1);
+    const TextPosition position = PositionFinder(m_bytes).Find(offset);
+    return "line " + std::to_string(position.line) + ", column " + std::to_string(position.column);
+}
+
+PositionFinder::PositionFinder(std::string_view text)
+    : m_text(text), m_offset(text.starts_with(kByteOrderMark) ? kByteOrderMark.size() : 0) {}
+
+TextPosition PositionFinder::Find(std::size_t offset) {
+    if (offset < m_offset)
+        *this = PositionFinder(m_text);
+    for (; m_offset < offset && m_offset < m_text.size(); ++m_offset) {
+        const auto byte = static_cast<unsigned char>(m_text[m_offset]);
+        if (byte == '\n')
+            m_position = {m_position.line + 1, 1};
+        else if ((byte & 0xC0U) != 0x80U) // the bits 10 mark a continuation byte
+            ++m_position.column;
+    }
+    return m_position;
 }
 
 JsonKind JsonValue::Kind() const {

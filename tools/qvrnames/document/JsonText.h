@@ -11,6 +11,24 @@
 
 class JsonText;
 
+/// A position in a text. Both numbers are 1-based; a column is a character.
+struct TextPosition {
+    std::size_t line = 1;
+    std::size_t column = 1;
+};
+
+/// Finds the positions of offsets in a text. Finding many ascending offsets takes linear time in total.
+class PositionFinder {
+public:
+    explicit PositionFinder(std::string_view text);
+    [[nodiscard]] TextPosition Find(std::size_t offset);
+
+private:
+    std::string_view m_text;
+    std::size_t m_offset = 0;
+    TextPosition m_position; // of m_offset
+};
+
 enum class JsonKind { Object, Array, String, Number, Boolean, Null };
 
 /// A value in a JSON text, or no value if default-constructed. Valid as long as the text exists. Except for the

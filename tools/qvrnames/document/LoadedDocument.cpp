@@ -10,6 +10,22 @@ std::vector<std::uint32_t> NamedEntries(const LoadedDocument& loaded) {
     return named;
 }
 
+std::unordered_map<const ZFXBaseUnknown*, std::uint32_t> EntriesByObject(const LoadedDocument& loaded) {
+    std::unordered_map<const ZFXBaseUnknown*, std::uint32_t> entries;
+    for (std::uint32_t entry = 0; entry < loaded.entries.size(); ++entry)
+        entries.emplace(loaded.entries[entry].feature.Object(), entry);
+    return entries;
+}
+
+std::size_t NameOffset(const LoadedDocument& loaded, std::uint32_t entry) {
+    std::size_t offset = loaded.entries[entry].offset;
+    loaded.text.ValueAt(offset).ForEachMember([&](JsonValue key, JsonValue value) {
+        if (key.Text() == SpellingOf(DocumentKey::Name))
+            offset = value.Begin();
+    });
+    return offset;
+}
+
 std::string TextWithName(const LoadedDocument& loaded, std::uint32_t entry, const std::string& name) {
     const JsonValue object = loaded.text.ValueAt(loaded.entries[entry].offset);
     const std::string literal = nlohmann::json(name).dump();

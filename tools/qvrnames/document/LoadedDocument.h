@@ -36,6 +36,12 @@ struct LoadedDocument {
 /// Returns the entries that have a name in the file, in document order.
 [[nodiscard]] std::vector<std::uint32_t> NamedEntries(const LoadedDocument& loaded);
 
+/// Returns the entries by the identity of their objects.
+[[nodiscard]] std::unordered_map<const ZFXBaseUnknown*, std::uint32_t> EntriesByObject(const LoadedDocument& loaded);
+
+/// Returns the offset of the entry's name in the file, or of its JSON object if it has no name.
+[[nodiscard]] std::size_t NameOffset(const LoadedDocument& loaded, std::uint32_t entry);
+
 /// Returns the text of the file with another name for one entry. All other bytes are unchanged. If the entry has no
 /// name yet, the key "name" is inserted before its other keys.
 [[nodiscard]] std::string TextWithName(const LoadedDocument& loaded, std::uint32_t entry, const std::string& name);
