@@ -8,6 +8,7 @@
 #include <gtest/gtest.h>
 
 #include <functional>
+#include <tuple>
 
 #ifdef __linux__
 #include <unistd.h>
@@ -15,17 +16,27 @@
 
 namespace {
 
-using Error = ZFXHandle<ZFXError>;
+using Error = ZFXHandle<ZFXInputError>;
 
-HRESULT Raise(const char* id) {
-    return ZFXError::GetReturn(ZFXErrorTypeInput, new ZFXInputError(id, "Tests"), nullptr, "File.cpp", 7);
+Error MakeError(const char* id = "Id") { return Error::Attach(new ZFXInputError(id, "Tests")); }
+
+HRESULT Raise(Error error) { return ZFXError::GetReturn(ZFXErrorTypeInput, error.Detach(), nullptr, "File.cpp", 7); }
+
+/// Returns what an error contains, apart from the code under which it is found and the texts of its message.
+std::string Content(ZFXError& error) {
+    std::ostringstream content;
+    content << error.GetMsgCatalog() << "." << error.GetMsgId() << " at " << error.GetSourceFileName() << ":"
+            << error.GetSourceLineNumber() << " in " << Narrow(error.GetSourceContext()) << " returns "
+            << error.GetReturnCode() << " of type " << error.GetInformationOnErrorType();
+    for (const ZFXUnicodeString& parameter : error.DiagnosticParameters())
+        content << " /P " << Narrow(parameter);
+    return content.str();
 }
 
 TEST(Error, IsFoundUnderACodeOfItsOwn) {
-    const HRESULT first = Raise("First");
-    const HRESULT second = Raise("Second");
+    const HRESULT first = Raise(MakeError("First"));
+    const HRESULT second = Raise(MakeError("Second"));
     EXPECT_LT(first, 0);
-    EXPECT_NE(first, E_FAIL);
     EXPECT_EQ(ResultText(first), "First");
     EXPECT_EQ(ResultText(second), "Second");
     EXPECT_EQ(ZFXError::ZFXGetLastError(first, nullptr)->GetId(), first);
@@ -33,12 +44,12 @@ TEST(Error, IsFoundUnderACodeOfItsOwn) {
 }
 
 TEST(Error, IsReleasedWhenThirtyTwoOthersWereRaised) {
-    const HRESULT code = Raise("First");
+    const HRESULT code = Raise(MakeError());
     for (int i = 1; i < ZFXError::kRegistered; ++i)
-        static_cast<void>(Raise("Later"));
+        static_cast<void>(Raise(MakeError()));
     EXPECT_NE(ZFXError::ZFXGetLastError(code, nullptr), nullptr);
     const long before = ZFXBaseUnknown::LiveAllocations();
-    static_cast<void>(Raise("Last"));
+    static_cast<void>(Raise(MakeError()));
     EXPECT_EQ(ZFXError::ZFXGetLastError(code, nullptr), nullptr);
     EXPECT_EQ(ZFXBaseUnknown::LiveAllocations(), before);
 }
@@ -48,22 +59,31 @@ TEST(Error, WithoutAnErrorObjectTheTypeGivesTheCode) {
     EXPECT_EQ(ZFXError::GetReturn(ZFXErrorTypeInput, nullptr, nullptr, "", 0), E_FAIL);
 }
 
-TEST(Error, RecordsTheSourcePosition) {
-    const auto fresh = Error::Attach(new ZFXInputError("Id", "Tests"));
-    EXPECT_STREQ(fresh->GetSourceFileName(), "");
-    EXPECT_EQ(fresh->GetSourceLineNumber(), 0);
-    EXPECT_EQ(fresh->GetId(), 0);
-    ZFXError* raised = ZFXError::ZFXGetLastError(Raise("Id"), nullptr);
-    EXPECT_STREQ(raised->GetSourceFileName(), "File.cpp");
-    EXPECT_EQ(raised->GetSourceLineNumber(), 7);
-    EXPECT_EQ(Narrow(raised->GetNLSSource()), "File.cpp:7");
-    std::ostringstream history;
-    raised->PrintHistory(history);
-    EXPECT_EQ(history.str(), "ZFXInputError Tests.Id raised at File.cpp:7\n");
+TEST(Error, IsAnInputErrorAndAnError) {
+    const Error error = MakeError();
+    EXPECT_STREQ(error->IsA(), "ZFXInputError");
+    EXPECT_EQ(error->IsAKindOf("ZFXError"), 1);
+    EXPECT_EQ(error->IsAKindOf("ZFXIAlias"), 0);
+    EXPECT_STREQ(error->GetErrorTable()->errorClass, "ZFXInputError");
+    EXPECT_STREQ(error->GetErrorTable()->base->errorClass, "ZFXError");
+    EXPECT_EQ(error->GetErrorTable()->base->base, nullptr);
 }
 
-TEST(Error, ThrowsAReferenceToItself) {
-    const auto error = Error::Attach(new ZFXInputError("Id", "Tests"));
+TEST(Error, HasNoCodePositionAndHelpAtFirst) {
+    const Error error = MakeError();
+    EXPECT_EQ(Content(*error), "Tests.Id at :0 in  returns 0 of type 0");
+    EXPECT_EQ(error->GetId(), 0);
+    EXPECT_EQ(Narrow(error->GetNLSHelpFile()), "");
+    EXPECT_EQ(error->GetNLSHelpContext(), 0);
+}
+
+TEST(Error, RecordsWhereItIsRaisedOrThrown) {
+    const Error error = MakeError();
+    static_cast<void>(Raise(error));
+    EXPECT_EQ(Narrow(error->GetNLSSource()), "File.cpp:7");
+    std::ostringstream history;
+    error->PrintHistory(history);
+    EXPECT_EQ(history.str(), "ZFXInputError Tests.Id raised at File.cpp:7\n");
     try {
         error->Throw("Other.cpp", 3);
     } catch (const std::reference_wrapper<ZFXError>& thrown) {
@@ -72,42 +92,17 @@ TEST(Error, ThrowsAReferenceToItself) {
     EXPECT_EQ(Narrow(error->GetNLSSource()), "Other.cpp:3");
 }
 
-TEST(Error, IsAnInputErrorAndAnError) {
-    const auto error = ZFXHandle<ZFXInputError>::Attach(new ZFXInputError("Id", "Tests"));
-    EXPECT_STREQ(error->IsA(), "ZFXInputError");
-    EXPECT_EQ(error->IsAKindOf("ZFXInputError"), 1);
-    EXPECT_EQ(error->IsAKindOf("ZFXError"), 1);
-    EXPECT_EQ(error->IsAKindOf("ZFXIAlias"), 0);
-    EXPECT_STREQ(error->GetErrorTable()->errorClass, "ZFXInputError");
-    EXPECT_STREQ(error->GetErrorTable()->base->errorClass, "ZFXError");
-    EXPECT_EQ(error->GetErrorTable()->base->base, nullptr);
-}
-
-TEST(Error, HasNoHelp) {
-    const auto error = Error::Attach(new ZFXInputError("Id", "Tests"));
-    EXPECT_EQ(Narrow(error->GetNLSHelpFile()), "");
-    EXPECT_EQ(error->GetNLSHelpContext(), 0);
-}
-
 TEST(Error, CloneHasTheContentButNotTheCode) {
-    const auto error = ZFXHandle<ZFXInputError>::Attach(new ZFXInputError("Id", "Tests"));
-    EXPECT_EQ(error->GetReturnCode(), 0);
-    EXPECT_EQ(error->GetInformationOnErrorType(), 0);
+    const Error error = MakeError();
     ZFXUnicodeString parameter("b");
     error->SetNLSParameters(1, &parameter);
     error->SetReturnCode(-100);
     error->SetInformationOnErrorType(ZFXErrorTypeInput);
     error->SetSourceContext("context");
-    error->AddRef(); // for the registry
-    static_cast<void>(ZFXError::GetReturn(ZFXErrorTypeInput, error, nullptr, "File.cpp", 7));
-    const auto clone = Error::Attach(error->CloneSelf());
-    EXPECT_STREQ(clone->GetMsgId(), "Id");
-    EXPECT_STREQ(clone->GetMsgCatalog(), "Tests");
-    EXPECT_EQ(Narrow(clone->DiagnosticParameters().at(0)), "b");
-    EXPECT_EQ(clone->GetReturnCode(), -100);
-    EXPECT_EQ(clone->GetInformationOnErrorType(), ZFXErrorTypeInput);
-    EXPECT_EQ(Narrow(clone->GetSourceContext()), "context");
-    EXPECT_EQ(Narrow(clone->GetNLSSource()), "File.cpp:7");
+    static_cast<void>(Raise(error));
+    const auto clone = ZFXHandle<ZFXError>::Attach(error->CloneSelf());
+    EXPECT_EQ(Content(*clone),
+              "Tests.Id at File.cpp:7 in context returns -100 of type " + std::to_string(ZFXErrorTypeInput) + " /P b");
     EXPECT_EQ(clone->GetId(), 0);
 }
 
@@ -119,34 +114,28 @@ protected:
                                     "All.Request = r /P1 /P2\nAll.Diagnostic = d /P1 /P2\nAll.Advice = a /P1 /P2\n");
         m_folder.Write("Tests_xy.msg", "Id.Diagnostic = /P2, /P1: böse\n");
         MessageCatalog::SetFolder(m_folder.Path("."));
+        ZFXUnicodeString a("ä");
+        ZFXUnicodeString b("b");
+        m_error->SetNLSParameters(2, &a, &b);
     }
     ~CatalogTest() override {
         MessageCatalog::SetFolder("/nowhere");
         MessageCatalog::SetLanguage("");
     }
-    /// Returns the error "Id" with the parameters "ä" and "b".
-    static Error MakeError() {
-        auto error = Error::Attach(new ZFXInputError("Id", "Tests"));
-        ZFXUnicodeString a("ä");
-        ZFXUnicodeString b("b");
-        error->SetNLSParameters(2, &a, &b);
-        return error;
+    std::string Message() const {
+        EXPECT_EQ(Narrow(m_error->GetNLSMessage()), m_error->GetMessageText());
+        return m_error->GetMessageText();
     }
 
+    static constexpr const char* kEnglish = "Bad: ä, b Fix = it";
+    static constexpr const char* kTranslated = "b, ä: böse Fix = it"; // the advice is not translated
+    const Error m_error = MakeError();
     const TestFolder m_folder;
 };
 
 TEST_F(CatalogTest, MessageJoinsTheSectionsWithTheirParameters) {
-    const Error error = MakeError();
-    EXPECT_EQ(Narrow(error->GetNLSRequest()), "");
-    EXPECT_EQ(Narrow(error->GetNLSDiagnostic()), "Bad: ä, b");
-    EXPECT_EQ(Narrow(error->GetNLSAdvice()), "Fix = it");
-    EXPECT_EQ(Narrow(error->GetNLSMessage()), "Bad: ä, b Fix = it");
-    EXPECT_STREQ(error->GetMessageText(), "Bad: ä, b Fix = it");
-}
-
-TEST_F(CatalogTest, EachSectionHasParametersOfItsOwn) {
-    const auto error = Error::Attach(new ZFXInputError("All", "Tests"));
+    EXPECT_EQ(Message(), kEnglish);
+    const Error error = MakeError("All");
     ZFXUnicodeString a("A");
     ZFXUnicodeString b("B");
     error->SetNLSRequestParams(2, &a, &b);
@@ -156,11 +145,13 @@ TEST_F(CatalogTest, EachSectionHasParametersOfItsOwn) {
     error->SetNLSParameters(2, nullptr, &b);
     EXPECT_EQ(Narrow(error->GetNLSMessage()), "r  B d  B a  B");
     error->SetNLSParameters(0, nullptr);
-    EXPECT_EQ(Narrow(error->GetNLSMessage()), "r /P1 /P2 d /P1 /P2 a /P1 /P2");
+    EXPECT_EQ(Narrow(error->GetNLSRequest()), "r /P1 /P2");
+    EXPECT_EQ(Narrow(error->GetNLSDiagnostic()), "d /P1 /P2");
+    EXPECT_EQ(Narrow(error->GetNLSAdvice()), "a /P1 /P2");
 }
 
 TEST_F(CatalogTest, PlaceholdersAreReplacedInOnePass) {
-    const auto error = Error::Attach(new ZFXInputError("Once", "Tests"));
+    const Error error = MakeError("Once");
     ZFXUnicodeString a("x/P2y");
     ZFXUnicodeString b("/P1");
     error->SetNLSParameters(2, &a, &b);
@@ -168,27 +159,21 @@ TEST_F(CatalogTest, PlaceholdersAreReplacedInOnePass) {
 }
 
 TEST_F(CatalogTest, LanguageAppliesToErrorsRaisedBefore) {
-    const Error error = MakeError();
-    for (const char* language : {"xy", "XY_ab", "xy-AB.UTF-8"}) {
-        EXPECT_TRUE(MessageCatalog::SetLanguage(language)) << language;
-        EXPECT_EQ(Narrow(error->GetNLSMessage()), "b, ä: böse Fix = it") << language; // the advice is not translated
+    const std::tuple<const char*, bool, const char*> rows[] = {
+        {"xy", true, kTranslated}, {"en_GB", true, kEnglish},          {"XY_ab", true, kTranslated},
+        {"C", true, kEnglish},     {"xy-AB.UTF-8", true, kTranslated}, {"zz", false, kEnglish},
+        {"xy", true, kTranslated}, {"posix", true, kEnglish},          {"xy", true, kTranslated},
+        {"", true, kEnglish}};
+    for (const auto& [language, isKnown, message] : rows) {
+        EXPECT_EQ(MessageCatalog::SetLanguage(language), isKnown) << language;
+        EXPECT_EQ(Message(), message) << language;
     }
-    for (const char* english : {"en_GB", "C", "posix", ""}) {
-        EXPECT_TRUE(MessageCatalog::SetLanguage(english)) << english;
-        EXPECT_EQ(Narrow(error->GetNLSMessage()), "Bad: ä, b Fix = it") << english;
-    }
-}
-
-TEST_F(CatalogTest, UnknownLanguageMeansEnglish) {
-    EXPECT_TRUE(MessageCatalog::SetLanguage("xy"));
-    EXPECT_FALSE(MessageCatalog::SetLanguage("zz"));
-    EXPECT_EQ(Narrow(MakeError()->GetNLSMessage()), "Bad: ä, b Fix = it");
     EXPECT_EQ(MessageCatalog::Languages(), (std::vector<std::string>{"en", "xy"}));
 }
 
 TEST_F(CatalogTest, WithoutACatalogTheMessageIsTheId) {
     MessageCatalog::SetFolder("/nowhere");
-    EXPECT_EQ(Narrow(MakeError()->GetNLSMessage()), "Id");
+    EXPECT_EQ(Message(), "Id");
     EXPECT_EQ(MessageCatalog::Languages(), std::vector<std::string>{"en"});
 }
 
@@ -196,22 +181,18 @@ TEST_F(CatalogTest, WithoutACatalogTheMessageIsTheId) {
 TEST_F(CatalogTest, FileOrFolderWithoutPermissionCountsAsMissing) {
     using std::filesystem::perms;
     const auto user = geteuid();
-    const auto other = user == 0 ? uid_t{65534} : user; // root can read every file
-    ASSERT_EQ(seteuid(other), 0);
-    const auto setPermissions = [&](const char* name, perms permissions) {
-        ASSERT_EQ(seteuid(user), 0);
+    const std::tuple<const char*, perms, const char*, bool> rows[] = {
+        {"", perms::all, kEnglish, true}, {"Tests.msg", perms::none, "Id", true}, {"", perms::none, "Id", false}};
+    for (const auto& [name, permissions, message, hasTranslation] : rows) {
         std::filesystem::permissions(Utf8::ToPath(m_folder.Path(name)), permissions);
-        ASSERT_EQ(seteuid(other), 0);
-    };
-    EXPECT_EQ(Narrow(MakeError()->GetNLSDiagnostic()), "Bad: ä, b");
-    setPermissions("Tests.msg", perms::none);
-    MessageCatalog::SetFolder(m_folder.Path(".")); // reads the file again
-    EXPECT_EQ(Narrow(MakeError()->GetNLSMessage()), "Id");
-    EXPECT_TRUE(MessageCatalog::SetLanguage("xy"));
-    setPermissions("", perms::none);
-    EXPECT_FALSE(MessageCatalog::SetLanguage("xy"));
-    setPermissions("", perms::owner_all);
-    EXPECT_EQ(seteuid(user), 0);
+        ASSERT_EQ(seteuid(user == 0 ? uid_t{65534} : user), 0); // root can read every file
+        MessageCatalog::SetFolder(m_folder.Path("."));          // reads the files again
+        EXPECT_EQ(Message(), message) << name;
+        EXPECT_EQ(MessageCatalog::SetLanguage("xy"), hasTranslation) << name;
+        MessageCatalog::SetLanguage("");
+        ASSERT_EQ(seteuid(user), 0);
+    }
+    std::filesystem::permissions(Utf8::ToPath(m_folder.Path("")), perms::owner_all);
 }
 #endif
 

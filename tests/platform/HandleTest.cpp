@@ -2,13 +2,18 @@
 #include "object-model/ZFXInterfaces.h"
 #include "support/DocumentTest.h"
 
+#include <array>
+#include <tuple>
+
 namespace {
+
+using Counts = std::array<int, 3>; // QueryInterface, AddRef, Release
 
 /// Counts the calls of its root operations. Offers ZFXIAlias only.
 class Counting final : public ZFXIAlias {
 public:
     HRESULT QueryInterface(const IID& iid, void** result) override {
-        ++queries;
+        ++calls[0];
         *result = nullptr;
         if (iid != IID_ZFXIAlias)
             return E_NOINTERFACE;
@@ -17,26 +22,17 @@ public:
         return S_OK;
     }
     using ZFXIAlias::QueryInterface;
-    ULONG AddRef() override { return static_cast<ULONG>(++added); }
-    ULONG Release() override { return static_cast<ULONG>(++released); }
+    ULONG AddRef() override { return static_cast<ULONG>(++calls[1]); }
+    ULONG Release() override { return static_cast<ULONG>(++calls[2]); }
     void SetAlias(const ZFXUnicodeString&) override {}
     ZFXUnicodeString GetAlias() override { return "counting"; }
 
-    int queries = 0;
-    int added = 0;
-    int released = 0;
+    Counts calls{};
 };
 
-using Counts = std::array<int, 3>; // QueryInterface, AddRef, Release
-
 TEST(Handle, CallsNoMoreRootOperationsThanNeeded) {
-    struct Row {
-        const char* what;
-        void (*act)(Counting&);
-        Counts expected;
-    };
     // clang-format off
-    const Row rows[] = {
+    const std::tuple<const char*, void (*)(Counting&), Counts> rows[] = {
         {"same type", [](Counting& o) { ZFXIAlias_var a(static_cast<ZFXIAlias*>(&o)); }, {0, 1, 1}},
         {"root", [](Counting& o) { ZFXBaseUnknown_var a(&o); }, {0, 1, 1}},
         {"cast that hits", [](Counting& o) { ZFXIAlias_var a(static_cast<ZFXBaseUnknown*>(&o)); }, {1, 1, 1}},
@@ -57,51 +53,43 @@ TEST(Handle, CallsNoMoreRootOperationsThanNeeded) {
         {"assignment of null", [](Counting& o) { ZFXIAlias_var a(&o); a = nullptr; }, {0, 1, 1}},
         {"assignment by a cast", [](Counting& o) { ZFXBaseUnknown_var a(&o); ZFXIAlias_var b; b = a; }, {1, 2, 2}},
         {"comparison", [](Counting& o) { ZFXIAlias_var a(&o); EXPECT_TRUE(a == &o); EXPECT_TRUE(a != nullptr); }, {0, 1, 1}},
-        {"comparison of handles", [](Counting& o) { ZFXIAlias_var a(&o); ZFXBaseUnknown_var b(&o); EXPECT_TRUE(a == b); },
-         {0, 2, 2}},
-        {"in a list", [](Counting& o) { ZFXListVal<ZFXIAlias_var> a; a.Append(&o); a.Append(a[1]); a.RemovePosition(1); },
-         {0, 2, 2}},
+        {"comparison of handles", [](Counting& o) { EXPECT_TRUE(ZFXIAlias_var(&o) == ZFXBaseUnknown_var(&o)); }, {0, 2, 2}},
+        {"in a list", [](Counting& o) { ZFXListVal<ZFXIAlias_var> a; a.Append(&o); a.Append(a[1]); }, {0, 2, 2}},
     };
     // clang-format on
-    for (const Row& row : rows) {
+    for (const auto& [what, act, expected] : rows) {
         Counting object;
-        row.act(object);
-        EXPECT_EQ((Counts{object.queries, object.added, object.released}), row.expected) << row.what;
+        act(object);
+        EXPECT_EQ(object.calls, expected) << what;
     }
 }
 
 class IdentityTest : public DocumentTest {};
 
 TEST_F(IdentityTest, AllInterfacePointersOfAnObjectAreEqual) {
-    MemoryFeature step = document.Case("Static").Step("QVRGeneralStaticStepLT", "Step-1");
-    MemoryFeature other = document.Case("Other").Step("QVRGeneralStaticStepLT", "Step-1");
-    const ZFXISpecObject_var feature(step);
+    const ZFXISpecObject_var feature(document.Case("Static").Step("QVRGeneralStaticStepLT", "Step-1"));
     const ZFXISamAnalysisScan_var scan(feature);
     const ZFXBaseUnknown_var root(scan);
     ASSERT_NE(feature, nullptr);
-    ASSERT_NE(scan, nullptr);
-    EXPECT_TRUE(feature == scan);
-    EXPECT_TRUE(scan == root);
-    EXPECT_TRUE(root == step.Object());
+    EXPECT_TRUE(feature == scan && scan == root && root == feature.Get());
     EXPECT_NE(root->IsEqual(feature), 0);
     EXPECT_EQ(root->IsEqual(nullptr), 0);
     EXPECT_EQ(root->IsNull(), 0);
-    EXPECT_TRUE(feature != ZFXISpecObject_var(other));
+    EXPECT_TRUE(feature != ZFXISpecObject_var(document.Model()));
     EXPECT_TRUE(feature != ZFXISpecObject_var());
     EXPECT_EQ(ZFXIdentityOf(feature), ZFXIdentityOf(scan));
     EXPECT_EQ(ZFXIdentityOf(nullptr), nullptr);
 }
 
 TEST_F(IdentityTest, AnInterfaceIsFoundByItsName) {
-    const ZFXISamAnalysisScan_var scan(document.Case("Static").Step("QVRGeneralStaticStepLT", "Step-1"));
-    const ZFXBaseUnknown_var root(scan);
+    const ZFXISamAnalysisScan_var scan(document.Case("Static"));
     void* byName = nullptr;
-    EXPECT_EQ(root->QueryInterface("ZFXISamAnalysisScan", &byName), S_OK);
+    EXPECT_EQ(scan->QueryInterface("ZFXISamAnalysisScan", &byName), S_OK);
     EXPECT_EQ(byName, scan.Get());
     scan->Release();
     for (const char* unknown : {"ZFXINowhere", "", static_cast<const char*>(nullptr)}) {
         byName = scan.Get();
-        EXPECT_EQ(root->QueryInterface(unknown, &byName), E_NOINTERFACE);
+        EXPECT_EQ(scan->QueryInterface(unknown, &byName), E_NOINTERFACE);
         EXPECT_EQ(byName, nullptr);
     }
 }

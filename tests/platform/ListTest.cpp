@@ -31,16 +31,13 @@ TEST_F(ListTest, IndexesStartAtOneAndFollowTheOrderOfAppending) {
 TEST_F(ListTest, LocatesAnObjectByAnyOfItsInterfacePointers) {
     MemoryFeature load = document.Model().Feature("QVRPressure", "Pressure-1");
     ZFXListValZFXISpecObject_var list;
-    list.Append(ZFXISpecObject_var(document.Model()));
-    list.Append(ZFXISpecObject_var(load));
-    list.Append(ZFXISpecObject_var(load));
+    for (MemoryFeature feature : {document.Model(), load, load})
+        list.Append(ZFXISpecObject_var(feature));
     const ZFXIAlias_var otherInterface(load);
     EXPECT_EQ(list.Locate(ZFXISpecObject_var(otherInterface), 1), 2);
-    EXPECT_EQ(list.Locate(document.Model(), 1), 1);
-    EXPECT_EQ(list.Locate(document.Model(), 2), 0);
-    EXPECT_EQ(list.Locate(load, 3), 3);
-    EXPECT_EQ(list.Locate(load, 4), 0);
-    EXPECT_EQ(list.Locate(load, -7), 2);
+    const std::pair<int, int> rows[] = {{-7, 2}, {2, 2}, {3, 3}, {4, 0}, {5, 0}};
+    for (const auto& [from, found] : rows)
+        EXPECT_EQ(list.Locate(load, from), found) << from;
     EXPECT_EQ(list.Locate(ZFXISpecObject_var(), 1), 0);
     const ZFXListValZFXISpecObject_var copy(list); // copies handles, not objects
     EXPECT_EQ(load.References(), 5);

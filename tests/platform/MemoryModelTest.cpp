@@ -14,10 +14,10 @@ using Features = ZFXListValZFXISpecObject_var;
 
 class MemoryModelTest : public DocumentTest {};
 
-std::string Names(const ZFXListValZFXBaseUnknown_var& list) {
+std::string Names(const Objects& list) {
     std::string names;
-    for (int i = 1; i <= list.Size(); ++i)
-        names += Narrow(ZFXIAlias_var(list[i])->GetAlias()) + " ";
+    for (const ZFXBaseUnknown_var& object : list)
+        names += Narrow(ZFXIAlias_var(object)->GetAlias()) + " ";
     return names;
 }
 
@@ -30,15 +30,13 @@ TEST_F(MemoryModelTest, SearchesFollowTheOrderOfTheDocument) {
     second.Set("QVRLoadContainerLT").Feature("QVRPressure", "b");
     loads.Feature("QVRPressure", "c");
 
-    ZFXListValZFXBaseUnknown_var found;
+    Objects found;
     const ZFXISamAnalysisScan_var scan(analysisCase);
-    EXPECT_EQ(scan->FindObjectsOfType("QVRPressure", found, 3), S_OK);
-    EXPECT_EQ(Names(found), "a c b ");
-    found.RemoveAll();
     EXPECT_EQ(scan->FindObjectsOfType("QVRpressure", found, 3), S_OK);
-    EXPECT_EQ(found.Size(), 0);
+    EXPECT_EQ(Names(found), "");
+    EXPECT_EQ(scan->FindObjectsOfType("QVRPressure", found, 3), S_OK);
     EXPECT_EQ(ZFXISamAnalysisScan_var(analysisCase.History())->ListChildren(found, 3), S_OK);
-    EXPECT_EQ(Names(found), "First Second ");
+    EXPECT_EQ(Names(found), "a c b First Second ");
 
     ZFXISpecObject_var step;
     ZFXISpecObject_var parent;
@@ -46,29 +44,25 @@ TEST_F(MemoryModelTest, SearchesFollowTheOrderOfTheDocument) {
     EXPECT_TRUE(step == first.Object());
     EXPECT_EQ(QVRAnalysisEntityUtils::GetParentCaseFromObject(ZFXISpecObject_var(a), parent), S_OK);
     EXPECT_TRUE(parent == analysisCase.Object());
-    const ZFXListValZFXISpecAttribute_var* pointing =
-        ZFXISpecObject_var(second)->ListPointingAttributes("ZFXISpecObject", "", "");
+    const auto* pointing = ZFXISpecObject_var(second)->ListPointingAttributes("ZFXISpecObject", "", "");
     ASSERT_EQ(pointing->Size(), 1);
     EXPECT_TRUE(ZFXBaseUnknown_var::Attach((*pointing)[1]->GetOwner()) == analysisCase.History().Object());
 
-    MemoryFeature job = analysisCase.Job("Job-1");
-    ZFXListValZFXBaseUnknown_var* sets = nullptr;
-    EXPECT_EQ(ZFXISamAnalysisEntity_var(job)->GetParentSets(sets), S_OK);
-    const ZFXISpecObject_var container((*sets)[1]);
+    Objects* sets = nullptr;
+    EXPECT_EQ(ZFXISamAnalysisEntity_var(analysisCase.Job("Job-1"))->GetParentSets(sets), S_OK);
+    const ZFXISpecObject_var container((*std::unique_ptr<Objects>(sets))[1]);
     EXPECT_TRUE(ZFXBaseUnknown_var::Attach(container->GetFather()) == document.Model().Object());
-    delete sets;
 }
 
 TEST_F(MemoryModelTest, KindsOfferTheirInterfacesUnlessWithheld) {
     MemoryFeature step = document.Case("Static").Step("QVRGeneralStaticStepLT", "Step-1");
     MemoryFeature load = step.Set("QVRLoadContainerLT").Feature("QVRPressure", "Pressure-1");
     MemoryFeature section = document.PropertySet().Feature("QVRShellSectionEnhLT", "Section");
-    MemoryFeature amplitude = document.PropertySet().Feature("QVRTabularAmplitudeLT", "Amplitude");
     EXPECT_TRUE(QVRIPropagatingFeature_var(load) && ZFXISamAnalysisEntity_var(load) && !QVRIStep_var(load));
     EXPECT_TRUE(QVRIStep_var(step) && ZFXISamAnalysisScan_var(step) && !ZFXISamAnalysisEntity_var(step));
     EXPECT_TRUE(ZFXISamAnalysisEntity_var(section) && !QVRIPropagatingFeature_var(section));
     ZFXISpecObject_var property(section);
-    ZFXISpecObject_var curve(amplitude);
+    ZFXISpecObject_var curve(document.PropertySet().Feature("QVRTabularAmplitudeLT", "Amplitude"));
     EXPECT_TRUE(QVRAnalysisEntityUtils::IsObjectAProperty(property) &&
                 !QVRAnalysisEntityUtils::IsObjectAProperty(curve) &&
                 QVRAnalysisEntityUtils::IsObjectAnAmplitude(curve));
@@ -97,12 +91,8 @@ TEST(MemoryModelArguments, OthersThanThoseOfTheModuleAreRejected) {
     const auto pointing = [](MemoryFeature set, const char* interfaceName, const char* type, const char* name) {
         return ZFXISpecObject_var(set)->ListPointingAttributes(interfaceName, type, name) == nullptr;
     };
-    struct Row {
-        const char* request;
-        std::function<bool(MemoryFeature set)> isRejected;
-    };
     // clang-format off
-    const Row rows[] = {
+    const std::pair<const char*, std::function<bool(MemoryFeature set)>> rows[] = {
         {"FindObjectsOfType", [](auto set) { Objects found; return ZFXISamAnalysisScan_var(set)->FindObjectsOfType("T", found, 2) == E_INVALIDARG; }},
         {"ListChildren", [](auto set) { Objects found; return ZFXISamAnalysisScan_var(set)->ListChildren(found, 4) == E_INVALIDARG; }},
         {"ListMembers", [](auto set) { Features found; return ZFXISamAnalysisSet_var(set)->ListMembers(found, IID_ZFXISpecObject, 0) == E_INVALIDARG; }},
@@ -116,12 +106,12 @@ TEST(MemoryModelArguments, OthersThanThoseOfTheModuleAreRejected) {
         {"SetString", [](auto set) { const ZFXISpecAttrAccess_var access(set); access->SetString(ZFXISpecAttrKey_var::Attach(access->GetAttrKey("Alias")), "b", 1); return set.StoredAlias() == "a"; }},
     };
     // clang-format on
-    for (const Row& row : rows) {
+    for (const auto& [request, isRejected] : rows) {
         MemoryModel model;
         MemoryFeature set = model.NewDocument().Model().Set("T").With(IID_ZFXISamExplicit).Alias("a");
         EXPECT_STREQ(model.FirstUnexpectedArgument(), "");
-        EXPECT_TRUE(row.isRejected(set)) << row.request;
-        EXPECT_STREQ(model.FirstUnexpectedArgument(), row.request);
+        EXPECT_TRUE(isRejected(set)) << request;
+        EXPECT_STREQ(model.FirstUnexpectedArgument(), request);
     }
 }
 

@@ -4,35 +4,32 @@
 
 namespace {
 
-TEST(MetaClass, IsTheSameForEachLookUpOfAName) {
-    ZFXMetaClass* first = fct_FindMetaObject("A type that nobody declared yet");
-    ASSERT_NE(first, nullptr);
-    EXPECT_EQ(fct_FindMetaObject("A type that nobody declared yet"), first);
-    EXPECT_EQ(first->GetTypeOfClass(), ENUMTypeOfClass::Implementation);
-    EXPECT_FALSE(first->IsDeclared());
-    EXPECT_EQ(fct_FindMetaObject(nullptr), nullptr);
-    EXPECT_EQ(fct_RetrieveMetaObject(nullptr, ENUMTypeOfClass::Interface, nullptr, nullptr, "Tests", 0), nullptr);
+using enum ENUMTypeOfClass;
+
+ZFXMetaClass* Declare(const char* name, ENUMTypeOfClass kind, ZFXMetaClass* base, const char* extended = nullptr) {
+    return fct_RetrieveMetaObject(name, kind, base, extended, "Tests", 0);
 }
 
 TEST(MetaClass, KeepsItsFirstDeclaration) {
-    const ZFXMetaClass* found = fct_FindMetaObject("Looked up first");
-    const ZFXMetaClass* declared = fct_RetrieveMetaObject("Looked up first", ENUMTypeOfClass::DataExtension,
-                                                          ZFXBaseUnknown::MetaObject(), nullptr, "Tests", 0);
-    EXPECT_EQ(declared, found);
-    EXPECT_EQ(fct_RetrieveMetaObject("Looked up first", ENUMTypeOfClass::Interface, nullptr, nullptr, "Tests", 0),
-              found);
-    EXPECT_TRUE(declared->IsDeclared());
-    EXPECT_EQ(declared->GetTypeOfClass(), ENUMTypeOfClass::DataExtension);
-    EXPECT_EQ(declared->GetBaseMetaClass(), ZFXBaseUnknown::MetaObject());
-    EXPECT_EQ(declared->IsAKindOf("Looked up first"), 1);
-    EXPECT_EQ(declared->IsAKindOf("ZFXBaseUnknown"), 1);
-    EXPECT_EQ(declared->IsAKindOf("ZFXIAlias"), 0);
-    EXPECT_EQ(declared->IsAKindOf(nullptr), 0);
+    ZFXMetaClass* found = fct_FindMetaObject("Looked up first");
+    ASSERT_NE(found, nullptr);
+    EXPECT_EQ(found->GetTypeOfClass(), Implementation);
+    EXPECT_FALSE(found->IsDeclared());
+    EXPECT_EQ(Declare("Looked up first", DataExtension, ZFXBaseUnknown::MetaObject()), found);
+    EXPECT_EQ(Declare("Looked up first", Interface, nullptr), found);
+    EXPECT_TRUE(found->IsDeclared());
+    EXPECT_EQ(found->GetTypeOfClass(), DataExtension);
+    EXPECT_EQ(found->GetBaseMetaClass(), ZFXBaseUnknown::MetaObject());
+    for (const char* kind : {"Looked up first", "ZFXBaseUnknown"})
+        EXPECT_EQ(found->IsAKindOf(kind), 1);
+    for (const char* other : {"ZFXIAlias", static_cast<const char*>(nullptr)})
+        EXPECT_EQ(found->IsAKindOf(other), 0);
+    EXPECT_EQ(fct_FindMetaObject(nullptr), nullptr);
+    EXPECT_EQ(Declare(nullptr, Interface, nullptr), nullptr);
 }
 
 TEST(MetaClass, ExtendsTheLateTypesThatItNames) {
-    const ZFXMetaClass* extension = fct_RetrieveMetaObject("An extension", ENUMTypeOfClass::DataExtension,
-                                                           ZFXnull::MetaObject(), "A late type", "Tests", 0);
+    const ZFXMetaClass* extension = Declare("An extension", DataExtension, ZFXnull::MetaObject(), "A late type");
     EXPECT_EQ(extension->IsExtensionOf(fct_FindMetaObject("A late type")), 1);
     EXPECT_EQ(extension->IsExtensionOf(fct_FindMetaObject("Another late type")), 0);
     EXPECT_EQ(extension->IsExtensionOf(nullptr), 0);
@@ -41,21 +38,20 @@ TEST(MetaClass, ExtendsTheLateTypesThatItNames) {
 }
 
 TEST(MetaClass, HasTheKindOfItsClass) {
-    const std::pair<int, ENUMTypeOfClass> rows[] = {{0, ENUMTypeOfClass::Interface},
-                                                    {1, ENUMTypeOfClass::Implementation},
-                                                    {2, ENUMTypeOfClass::DataExtension},
-                                                    {6, ENUMTypeOfClass::TIE}};
+    const std::pair<int, ENUMTypeOfClass> rows[] = {{0, Interface}, {1, Implementation}, {2, DataExtension}, {6, TIE}};
     for (const auto& [number, kind] : rows)
         EXPECT_EQ(ZFXMetaClass(nullptr, "X", nullptr, nullptr, number).GetTypeOfClass(), kind) << number;
-    EXPECT_EQ(ZFXIAlias::MetaObject()->GetTypeOfClass(), ENUMTypeOfClass::Interface);
-    EXPECT_EQ(ZFXBaseUnknown::MetaObject()->GetTypeOfClass(), ENUMTypeOfClass::Implementation);
-    EXPECT_EQ(ZFXnull::MetaObject()->GetTypeOfClass(), ENUMTypeOfClass::Implementation);
+    EXPECT_EQ(ZFXIAlias::MetaObject()->GetTypeOfClass(), Interface);
+    EXPECT_EQ(ZFXBaseUnknown::MetaObject()->GetTypeOfClass(), Implementation);
+    EXPECT_EQ(ZFXnull::MetaObject()->GetTypeOfClass(), Implementation);
 }
 
 TEST(MetaClass, HasAnIdentifierComputedFromItsName) {
-    const GUID a = ZFXMetaClass(nullptr, "a", nullptr, nullptr, 1).GetClassId();
-    EXPECT_EQ(ZFXMetaClass(nullptr, "a", nullptr, nullptr, 1).GetClassId(), a);
-    EXPECT_NE(ZFXMetaClass(nullptr, "b", nullptr, nullptr, 1).GetClassId(), a);
+    const auto identifierOf = [](const char* name) {
+        return ZFXMetaClass(nullptr, name, nullptr, nullptr, 1).GetClassId();
+    };
+    EXPECT_EQ(identifierOf("a"), identifierOf("a"));
+    EXPECT_NE(identifierOf("a"), identifierOf("b"));
     EXPECT_EQ(ZFXIAlias::MetaObject()->GetClassId(), IID_ZFXIAlias);
 }
 
@@ -66,14 +62,13 @@ public:
         return fct_RetrieveAdaptorMetaObject(IID_ZFXIAlias, "ZFXIAlias", ZFXIAlias::MetaObject(), Extension());
     }
     static ZFXMetaClass* Extension() {
-        return fct_RetrieveMetaObject("AdaptorTestExtension", ENUMTypeOfClass::DataExtension, ZFXnull::MetaObject(),
-                                      "AdaptorTestLT", "Tests", 0);
+        return Declare("AdaptorTestExtension", DataExtension, ZFXnull::MetaObject(), "AdaptorTestLT");
     }
     template <ZFXImplementationMaker Maker>
     static ZFXBaseUnknown* Make(ZFXBaseUnknown* object, void*) {
         auto* adaptor = new Adaptor;
-        EXPECT_EQ(Tie_Construct(adaptor, adaptor->tie, Class(), CLSID_ZFXBaseUnknown, ENUMTypeOfClass::DataExtension,
-                                nullptr, Maker, object, nullptr),
+        EXPECT_EQ(Tie_Construct(adaptor, adaptor->tie, Class(), CLSID_ZFXBaseUnknown, DataExtension, nullptr, Maker,
+                                object, nullptr),
                   nullptr);
         if (adaptor->tie.implementation != nullptr)
             return adaptor;
@@ -127,14 +122,11 @@ TEST_F(AdaptorTest, IsOfferedWhileADictionaryEntryExists) {
         EXPECT_EQ(Adaptor::Extension()->CountAdaptorFactories(), 1);
     }
     EXPECT_EQ(Alias(), "object");
-}
-
-TEST_F(AdaptorTest, CastFailsIfTheImplementationCannotBeCreated) {
     const auto entry = Entry(Adaptor::Make<Adaptor::NoMemory>);
-    EXPECT_EQ(Alias(), "no interface");
+    EXPECT_EQ(Alias(), "no interface") << "the implementation cannot be created";
 }
 
-TEST_F(AdaptorTest, BelongsToItsObject) {
+TEST_F(AdaptorTest, ForwardsToItsObjectAndImplementation) {
     const auto entry = Entry(Adaptor::Make<Adaptor::MakeImplementation>);
     const ZFXISpecObject_var feature(load);
     const ZFXIAlias_var alias(feature);
@@ -146,28 +138,23 @@ TEST_F(AdaptorTest, BelongsToItsObject) {
     EXPECT_EQ(adaptor->QueryInterface(IID_ZFXIAlias, nullptr), E_POINTER);
     EXPECT_EQ(adaptor->AddRef(), 2U);
     EXPECT_EQ(adaptor->Release(), 1U);
+    // Its implementation has no automation.
+    unsigned int count = 7;
+    EXPECT_EQ(Tie_GetTypeInfoCount(adaptor->tie, &count), S_OK);
+    EXPECT_EQ(count, 0U);
+    EXPECT_EQ(Tie_GetTypeInfo(adaptor->tie, 0, 0, nullptr), E_NOTIMPL);
+    EXPECT_EQ(Tie_GetIDsOfNames(adaptor->tie, IID_ZFXIAlias, nullptr, 0, 0, nullptr), E_NOTIMPL);
+    EXPECT_EQ(Tie_Invoke(adaptor->tie, 0, IID_ZFXIAlias, 0, 0, nullptr, nullptr, nullptr, nullptr), E_NOTIMPL);
 }
 
 TEST_F(AdaptorTest, HasTheMetaClassOfItsInterfaceAndImplementation) {
     const ZFXMetaClass* metaClass = Adaptor::Class();
-    EXPECT_EQ(Adaptor::Class(), metaClass);
+    EXPECT_EQ(Adaptor::Class(), metaClass) << "a second look-up";
     EXPECT_STREQ(metaClass->IsA(), "ZFXIAlias");
-    EXPECT_EQ(metaClass->GetTypeOfClass(), ENUMTypeOfClass::TIE);
+    EXPECT_EQ(metaClass->GetTypeOfClass(), TIE);
     EXPECT_EQ(metaClass->GetClassId(), IID_ZFXIAlias);
     EXPECT_EQ(metaClass->GetBaseMetaClass(), ZFXIAlias::MetaObject());
     EXPECT_EQ(metaClass->GetImplementationMetaClass(), Adaptor::Extension());
-}
-
-TEST_F(AdaptorTest, ForwardsAutomationToItsImplementationWhichHasNone) {
-    const auto entry = Entry(Adaptor::Make<Adaptor::MakeImplementation>);
-    const ZFXIAlias_var alias(load);
-    const ZFXTie& tie = static_cast<Adaptor*>(alias.Get())->tie;
-    unsigned int count = 7;
-    EXPECT_EQ(Tie_GetTypeInfoCount(tie, &count), S_OK);
-    EXPECT_EQ(count, 0U);
-    EXPECT_EQ(Tie_GetTypeInfo(tie, 0, 0, nullptr), E_NOTIMPL);
-    EXPECT_EQ(Tie_GetIDsOfNames(tie, IID_ZFXIAlias, nullptr, 0, 0, nullptr), E_NOTIMPL);
-    EXPECT_EQ(Tie_Invoke(tie, 0, IID_ZFXIAlias, 0, 0, nullptr, nullptr, nullptr, nullptr), E_NOTIMPL);
 }
 
 } // namespace

@@ -71,26 +71,21 @@ TEST(UnicodeString, HalfASurrogatePairIsKeptAndWrittenAsReplacement) {
 }
 
 TEST(UnicodeString, NarrowFormFollowsTheText) {
-    String text("a");
-    EXPECT_STREQ(text, "a");
-    text.Append("c");
-    EXPECT_STREQ(text, "ac");
+    String text("aZ");
+    EXPECT_STREQ(text, "aZ");
     for (void (String::*change)() : {&String::ToUpper, &String::ToLower}) {
-        String letters("aA");
-        EXPECT_STREQ(letters, "aA");
-        (letters.*change)();
-        EXPECT_EQ(letters, letters.ConvertToChar());
+        (text.*change)();
+        EXPECT_EQ(text, text.ConvertToChar());
     }
-    String moved("long before");
-    EXPECT_STREQ(moved, "long before");
+    EXPECT_STREQ(text.Append("c"), "azc");
     String source("new");
     EXPECT_STREQ(source, "new");
-    moved = std::move(source);
-    EXPECT_STREQ(moved, "new");
+    text = std::move(source);
     EXPECT_STREQ(source, ""); // NOLINT(bugprone-use-after-move): a moved-from string is empty
-    String& self = moved;
-    moved = std::move(self);
-    EXPECT_STREQ(moved, "new");
+    EXPECT_STREQ(text, "new");
+    String& self = text;
+    text = std::move(self);
+    EXPECT_STREQ(text, "new");
 }
 
 TEST(UnicodeString, CompareReturns2IfIdentical1IfEqualApartFromCase) {
@@ -170,14 +165,11 @@ TEST(UnicodeString, PositionsOutsideTheTextAreClamped) {
         EXPECT_EQ(Narrow(text), removed);
     }
     String cut(kLong);
-    cut.Resize(72);
-    EXPECT_EQ(cut, Repeated('x', 72));
-    cut.Resize(500);
-    EXPECT_EQ(cut.GetLengthInChar(), 72);
-    cut.Resize(-1);
-    EXPECT_EQ(cut.GetLengthInChar(), 72);
-    cut.Resize(0);
-    EXPECT_TRUE(cut.IsNull());
+    const std::pair<int, int> sizes[] = {{72, 72}, {500, 72}, {-1, 72}, {0, 0}};
+    for (const auto& [size, left] : sizes) {
+        cut.Resize(size);
+        EXPECT_EQ(cut, Repeated('x', left)) << size;
+    }
     EXPECT_EQ(String("ab")[7].ConvertToUC2Bytes(), 0);
     String pair("😀");
     pair.Resize(1);
@@ -223,13 +215,8 @@ TEST(UnicodeString, AnArgumentCanBeTheStringItself) {
 TEST(UnicodeString, ParsesAndFormatsDecimalNumbers) {
     constexpr int kMost = std::numeric_limits<int>::max();
     constexpr int kLeast = std::numeric_limits<int>::min();
-    struct Row {
-        const char* text;
-        int result;
-        int number; // 77: unchanged
-    };
     // clang-format off
-    const Row rows[] = {
+    const std::tuple<const char*, int, int> rows[] = { // the number 77 is unchanged
         {"12", 1, 12}, {"abc", 0, 77}, {"", 0, 77}, {"2b", 1, 2}, {" \t\n5", 1, 5}, {"-4", 1, -4}, {"+4", 1, 4},
         {"--4", 0, 77}, {"-", 0, 77}, {"- 4", 0, 77}, {"007", 1, 7}, {"1 2", 1, 1}, {"2147483647", 1, kMost},
         {"2147483648", 0, 77}, {"-2147483648", 1, kLeast}, {"-2147483649", 0, 77}, {"99999999999999999999", 0, 77},
@@ -237,10 +224,10 @@ TEST(UnicodeString, ParsesAndFormatsDecimalNumbers) {
         {"\xC2\xA0" "5", 0, 77}, // white space of another kind
     };
     // clang-format on
-    for (const Row& row : rows) {
+    for (const auto& [text, result, expected] : rows) {
         int number = 77;
-        EXPECT_EQ(String(row.text).ConvertToNum(&number, "%d"), row.result) << row.text;
-        EXPECT_EQ(number, row.number) << row.text;
+        EXPECT_EQ(String(text).ConvertToNum(&number, "%d"), result) << text;
+        EXPECT_EQ(number, expected) << text;
     }
     int untouched = 77;
     EXPECT_EQ(String("12").ConvertToNum(&untouched, "%x") + untouched, 77); // any other format
@@ -264,22 +251,21 @@ TEST(UnicodeChar, DigitsAreAsciiAndWhiteSpaceIsThatOfUnicode) {
         const auto c = ZFXUnicodeChar::FromUnit(static_cast<char16_t>(unit));
         EXPECT_EQ(c.IsDigit() != 0, unit >= '0' && unit <= '9') << unit;
     }
-    const String white("\t \xC2\x85\xC2\xA0\u1680\u2003\u2028\u202F\u205F\u3000");
-    for (std::size_t i = 0; i < white.Units().size(); ++i)
-        EXPECT_TRUE(white[i].IsSpace()) << i;
-    const String black("a_-\u200B\u180E\uFEFF"); // the last three are invisible
-    for (std::size_t i = 0; i < black.Units().size(); ++i)
-        EXPECT_FALSE(black[i].IsSpace()) << i;
+    const std::pair<String, bool> rows[] = {{"\t \xC2\x85\xC2\xA0\u1680\u2003\u2028\u202F\u205F\u3000", true},
+                                            {"a_-\u200B\u180E\uFEFF", false}}; // the last three are invisible
+    for (const auto& [text, isSpace] : rows)
+        for (std::size_t i = 0; i < text.Units().size(); ++i)
+            EXPECT_EQ(text[i].IsSpace() != 0, isSpace) << i;
 }
 
 TEST(UnicodeChar, AssignsTheFirstCodeUnitOfANarrowText) {
-    ZFXUnicodeChar c('x');
-    EXPECT_EQ((c = "\\") == ZFXUnicodeChar('\\'), 1);
-    EXPECT_EQ((c = "é").ConvertToUC2Bytes(), 0xE9);
-    EXPECT_EQ((c = "😀").ConvertToUC2Bytes(), 0xD83D); // the high half of the pair
-    EXPECT_EQ((c = "\x80").ConvertToUC2Bytes(), 0xFFFD);
-    EXPECT_EQ((c = static_cast<const char*>(nullptr)).ConvertToUC2Bytes(), 0);
-    EXPECT_EQ((c = "").ConvertToUC2Bytes(), 0);
+    const std::pair<const char*, int> rows[] = {{"\\", '\\'},     {"é", 0xE9}, {"😀", 0xD83D},
+                                                {"\x80", 0xFFFD}, {"", 0},     {nullptr, 0}};
+    for (const auto& [text, unit] : rows) {
+        ZFXUnicodeChar c('x');
+        EXPECT_EQ((c = text).ConvertToUC2Bytes(), unit);
+        EXPECT_EQ(c == ZFXUnicodeChar::FromUnit(static_cast<char16_t>(unit)), 1);
+    }
 }
 
 } // namespace
