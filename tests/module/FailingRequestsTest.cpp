@@ -1,6 +1,5 @@
 #include "QVREFeatureAlias.h"
 #include "QVRGenI18NUtils.h"
-#include "QVRGenInstanceName.h"
 
 #include "support/ScopeTest.h"
 
@@ -18,10 +17,7 @@ using Util = QVRNameUtil;
 using I18N = QVRGenI18NUtils;
 
 /// A document with an object for every operation, and one call of each operation.
-class Requests : public ScopeTest {
-public:
-    using ScopeTest::Call, ScopeTest::Propose, ScopeTest::Rename;
-
+struct Requests : ScopeTest {
     MemoryFeature analysisCase = document.Case("Static");
     MemoryFeature step = analysisCase.Step("QVRStaticLPStepLT", "Step-1");
     MemoryFeature step2 = analysisCase.Step("QVRStaticLPStepLT", "Step-2");
@@ -55,25 +51,9 @@ public:
         const std::string result = Call(first, "", call);
         return result + ", " + Call(second, "", call);
     }
-    std::string Sides() {
-        QVRISamAnalysisConnectionDesign_var handle(design);
-        ZFXUnicodeString slave("s");
-        const auto call = [&](auto& name) { return Util::GetGrpNameofMasterAndSlave(handle, name, slave); };
-        const std::string master = Call("m", call);
-        return master + "|" + Narrow(slave);
-    }
     std::string InSet() {
         const auto scope = MakeList({bolt, step, twin});
         return Call(bolt, "", [&](auto& handle, auto& name) { return Util::IsNameUniqueInSet(handle, scope, name); });
-    }
-    std::string Instance() {
-        const ZFXIMSHMeshPart_var handle(widePart);
-        ZFXUnicodeString partName("p");
-        const auto call = [&](auto& name) {
-            return QVRGenInstanceName::GetUniqueLegalInstanceName(handle, name, partName);
-        };
-        const std::string instance = Call("i", call);
-        return instance + "|" + Narrow(partName);
     }
 };
 
@@ -90,7 +70,7 @@ const Operation kOperations[] = {
     {"GetMorvelObjectName", [](Requests& d) { return Requests::Call(d.bolt, "x", Util::GetMorvelObjectName); }},
     {"GetParentStepName", [](Requests& d) { return Requests::Call(d.load, "x", Util::GetParentStepName); }},
     {"GetSupportGroupName", [](Requests& d) { return Requests::Call(d.support, "x", [](auto& handle, auto& name) { return Util::GetSupportGroupName(handle, name); }); }},
-    {"GetGrpNameofMasterAndSlave", [](Requests& d) { return d.Sides(); }},
+    {"GetGrpNameofMasterAndSlave", [](Requests& d) { return Requests::GroupNames(d.design); }},
     {"GetNextUniqueName", [](Requests& d) { return Requests::Call("P-", [&](auto& name) { return Util::GetNextUniqueName(name, ZFXISamAnalysisSet_var(d.set)); }); }},
     {"GenerateUniqueName", [](Requests& d) { return Requests::Call(d.wide, "x", [](auto& handle, auto& name) { return handle == nullptr ? E_FAIL : Util::GenerateUniqueName(*handle.Get(), name); }); }},
     {"CreateBaseName", [](Requests& d) { return Requests::Call(d.load, "x", Util::CreateBaseName); }},
@@ -112,7 +92,7 @@ const Operation kOperations[] = {
     {"GetFeatureName", [](Requests& d) { return d.Both(d.steel, d.steel2, &I18N::GetFeatureName); }},
     {"GetMaterialName", [](Requests& d) { return d.Both(d.steel, d.steel2, &I18N::GetMaterialName); }},
     {"GetGenericEnglishMaterialName", [](Requests& d) { return d.Both(d.steel, d.steel2, &I18N::GetGenericEnglishMaterialName); }},
-    {"GetUniqueLegalInstanceName", [](Requests& d) { return d.Instance(); }},
+    {"GetUniqueLegalInstanceName", [](Requests& d) { return Requests::InstanceNames(d.widePart); }},
     {"SetAlias, refused", [](Requests& d) { return Requests::Rename(d.step.Alias("Step-1"), "1.0"); }},
     {"SetAlias, stored", [](Requests& d) { return Requests::Rename(d.section.Alias("P-1"), " P-3_"); }},
     {"SetAlias, emptied", [](Requests& d) { return Requests::Rename(d.section.Alias("P-1"), " _"); }},
@@ -151,10 +131,10 @@ auto RaisesOnlyItsMessages(std::string_view name, Call call) {
     return result;
 }
 
-/// Injects four responses into each request of one operation and compares the results with failing-requests.txt.
+/// Counts the requests of one operation and injects four responses into each. Compares the number and the results with
+/// failing-requests.txt.
 /// To regenerate that file, run module-tests with QVR_WRITE_EXPECTED=1 and examine the difference.
-class FailingRequestsTest : public Requests, public ::testing::WithParamInterface<Operation> {
-protected:
+struct FailingRequestsTest : Requests, ::testing::WithParamInterface<Operation> {
     /// Returns the result, and the number of references that the singleton has.
     std::string Result() {
         std::string result = RaisesOnlyItsMessages(GetParam().name, [&] { return GetParam().call(*this); });
@@ -164,15 +144,11 @@ protected:
         EXPECT_EQ(model.References(), 0) << result;
         return result;
     }
-    /// Returns the section of an operation in the file of expected results.
-    static std::string Expected(const std::string& name) {
-        std::ostringstream file;
-        file << std::ifstream(kExpected).rdbuf();
-        const std::string text = file.str();
-        const std::string heading = "[" + name + "]\n";
+    /// Returns the section with this heading in the file of expected results.
+    static std::string Expected(const std::string& heading) {
+        const std::string text = TextOf(kExpected);
         const std::size_t begin = text.find(heading);
-        const std::size_t end = text.find("\n\n", begin) + 1;
-        return begin == std::string::npos ? "" : text.substr(begin + heading.size(), end - begin - heading.size());
+        return begin == text.npos ? "" : text.substr(begin, text.find("\n\n", begin) - begin + 1);
     }
 
     static constexpr const char* kExpected = SOURCE_ROOT "/tests/module/failing-requests.txt";
@@ -187,7 +163,8 @@ TEST_P(FailingRequestsTest, GiveTheExpectedResult) {
     const long requests = model.Requests() - before;
     ASSERT_GT(requests, 0);
     const long live = ZFXBaseUnknown::LiveAllocations();
-    std::string text = "no failure: " + normal + "\n";
+    const std::string heading = std::string("[") + GetParam().name + "]\n";
+    std::string text = heading + "no failure: " + normal + ", requests: " + std::to_string(requests) + "\n";
     std::map<std::string, int> occurrences;
     for (long k = 1; k <= requests; ++k) {
         std::string request;
@@ -209,30 +186,29 @@ TEST_P(FailingRequestsTest, GiveTheExpectedResult) {
     }
     if (std::getenv("QVR_WRITE_EXPECTED") != nullptr) { // NOLINT(concurrency-mt-unsafe): there is one thread
         const bool isFirst = GetParam().name == std::string_view(kOperations[0].name);
-        std::ofstream(kExpected, isFirst ? std::ios::trunc : std::ios::app) << "[" << GetParam().name << "]\n"
-                                                                            << text << "\n";
+        std::ofstream(kExpected, isFirst ? std::ios::trunc : std::ios::app) << text << "\n";
     }
-    EXPECT_EQ(text, Expected(GetParam().name));
+    EXPECT_EQ(text, Expected(heading));
 }
 
 TEST_F(Requests, ChecksOfTextsRaiseOnlyTheirMessages) {
     ZFXISpecObject_var feature(step);
+    ZFXUnicodeString out;
     const std::string tooLong(73, 'a');
-    for (const char* text : {"", "1", "a.", "a b", "ä", "厚", "step-2", tooLong.c_str()}) {
-        ZFXUnicodeString name(text);
-        ZFXUnicodeString offending;
-        RaisesOnlyItsMessages("IsNameValid", [&] { return Util::IsNameValid(name, 1); });
-        RaisesOnlyItsMessages("IsFileNameValid", [&] { return Util::IsFileNameValid(name); });
-        RaisesOnlyItsMessages("CheckName", [&] { return Util::CheckName(feature, name, 1); });
-        RaisesOnlyItsMessages("CheckFileName", [&] { return Util::CheckFileName(feature, name); });
-        RaisesOnlyItsMessages("SetAlias", [&] { return Rename(step.Alias("Step-1"), text); });
-        RaisesOnlyItsMessages("DoesNameContainDoubleByteChar",
-                              [&] { return Util::DoesNameContainDoubleByteChar(name, offending); });
-        RaisesOnlyItsMessages("DoesNameContainSignedChar",
-                              [&] { return Util::DoesNameContainSignedChar(name, offending); });
-        RaisesOnlyItsMessages("GetTARNISCompliantFeatureName",
-                              [&] { return utils->GetTARNISCompliantFeatureName(name, "G", offending); });
-    }
+    const std::pair<const char*, std::function<HRESULT(ZFXUnicodeString&)>> checks[] = {
+        {"IsNameValid", [](auto& name) { return Util::IsNameValid(name, 1); }},
+        {"IsFileNameValid", Util::IsFileNameValid},
+        {"CheckName", [&](auto& name) { return Util::CheckName(feature, name, 1); }},
+        {"CheckFileName", [&](auto& name) { return Util::CheckFileName(feature, name); }},
+        {"SetAlias", [&](auto& name) { return Rename(step.Alias("Step-1"), name), S_OK; }},
+        {"DoesNameContainDoubleByteChar", [&](auto& name) { return Util::DoesNameContainDoubleByteChar(name, out); }},
+        {"DoesNameContainSignedChar", [&](auto& name) { return Util::DoesNameContainSignedChar(name, out); }},
+        {"GetTARNISCompliantFeatureName",
+         [&](auto& name) { return utils->GetTARNISCompliantFeatureName(name, "G", out); }},
+    };
+    for (ZFXUnicodeString name : {"", "1", "a.", "a b", "ä", "厚", "step-2", tooLong.c_str()})
+        for (const auto& check : checks)
+            RaisesOnlyItsMessages(check.first, [&] { return check.second(name); });
     utils->ResetAllLists();
 }
 

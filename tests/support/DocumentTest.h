@@ -7,8 +7,7 @@
 
 /// A test on a document. At its end, no reference on an object of the document may be left, and the model may not have
 /// rejected an argument.
-class DocumentTest : public ::testing::Test {
-protected:
+struct DocumentTest : ::testing::Test {
     void TearDown() override {
         EXPECT_EQ(model.References(), 0) << "a reference was not released";
         EXPECT_STREQ(model.FirstUnexpectedArgument(), "") << "a request was made with an unexpected argument";

@@ -2,6 +2,8 @@
 
 #include "errors/ZFXError.h"
 
+#include <filesystem>
+#include <fstream>
 #include <iostream>
 #include <sstream>
 #include <string>
@@ -28,6 +30,13 @@ std::string CapturedOutput(Action action) {
     action();
     std::cout.rdbuf(before);
     return written.str();
+}
+
+/// Returns the contents of a file. Returns an empty text if it cannot be read.
+inline std::string TextOf(const std::filesystem::path& file) {
+    std::ostringstream text;
+    text << std::ifstream(file, std::ios::binary).rdbuf();
+    return text.str();
 }
 
 /// Returns the text in UTF-8.
