@@ -22,12 +22,10 @@ TEST_F(CompliantNamesTest, GenericNameReplacesANameThatTheSolverRejects) {
         EXPECT_EQ(other.GetTARNISCompliantFeatureName(name, generic, compliant), S_OK);
         EXPECT_EQ(compliant, expected) << name << " " << generic;
     }
-    int count = 0;
-    EXPECT_EQ(utils->FindNameAndNextID("SAMThickness", count), 1);
-    EXPECT_EQ(count, 3);
     ZFXUnicodeString generic("SAMThickness"); // one object for the generic name and the result
     EXPECT_EQ(utils->GetTARNISCompliantFeatureName("厚", generic, generic), S_OK);
     EXPECT_EQ(generic, "Thickness-3");
+    int count = 0;
     utils->FindNameAndNextID("SAMThickness", count);
     EXPECT_EQ(count, 4);
 }

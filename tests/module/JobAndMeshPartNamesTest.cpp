@@ -4,8 +4,7 @@
 
 namespace {
 
-class JobAndMeshPartNamesTest : public DocumentTest {
-protected:
+struct JobAndMeshPartNamesTest : DocumentTest {
     static std::string Propose() { return Call("ignored", QVRNameUtil::GetUniqueNameForJob); }
     static std::string Check(MemoryFeature job, const char* name) {
         return Call(job, name, QVRNameUtil::IsUniqueNameForJob);
@@ -13,37 +12,32 @@ protected:
 
     MemoryFeature first = document.Case("First");
     MemoryFeature second = document.Case("Second");
+    MemoryDocument other = model.NewDocument();
 };
 
 TEST_F(JobAndMeshPartNamesTest, JobNumberFollowsTheHighestOfAllCases) {
-    EXPECT_EQ(Propose(), "S_OK|Job-1");
     for (const char* name : {"Job-", "Job-x", "MyJob-7", ""})
         first.Job(name);
     EXPECT_EQ(Propose(), "S_OK|Job-1");
     first.Job("job-4"); // letter case is ignored
-    second.Job("JOB-2");
-    second.Job("Job-1-copy");
-    second.Job("JOB-9").Without(IID_ZFXIAlias);
+    for (const char* name : {"JOB-2", "Job-1-copy"})
+        second.Job(name);
     EXPECT_EQ(Propose(), "S_OK|Job-5");
     second.Job("jOB-2147483647");
     EXPECT_EQ(Propose(), "S_OK|Job-3");
-    MemoryDocument other = model.NewDocument();
     model.MakeCurrent(other);
     EXPECT_EQ(Propose(), "S_OK|Job-1") << "only the current document counts";
 }
 
 TEST_F(JobAndMeshPartNamesTest, JobNameIsComparedWithTheJobsOfAllCases) {
-    first.Job("Job-");
     first.Job("");
     MemoryFeature job = first.Job("job-4");
     second.Job("JOB-2");
     const char* const duplicate = "DuplicateNameERR_03";
-    EXPECT_EQ(Check(job, "JOB-4"), "S_OK");
+    EXPECT_EQ(Check(job, "JOB-4"), "S_OK") << "its own name";
     EXPECT_EQ(Check(job, "job-2"), duplicate);
-    EXPECT_EQ(Check(job, "job-"), duplicate);
     EXPECT_EQ(Check(job, ""), duplicate) << "an empty name clashes with an unnamed job";
     EXPECT_EQ(Check({}, "job-4"), duplicate);
-    MemoryDocument other = model.NewDocument();
     model.MakeCurrent(other);
     EXPECT_EQ(Check(job, "job-2"), "S_OK") << "only the current document counts";
 }

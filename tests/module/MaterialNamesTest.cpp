@@ -2,8 +2,7 @@
 
 namespace {
 
-class MaterialNamesTest : public SingletonTest {
-protected:
+struct MaterialNamesTest : SingletonTest {
     MemoryFeature Material(const char* name) {
         return document.Model().Add(MemoryKind::Material, "SAM.Mat", "alias").MaterialName(name);
     }
@@ -20,21 +19,14 @@ TEST_F(MaterialNamesTest, NumberIsTheCountOfEarlierMaterialsWithTheName) {
     EXPECT_EQ(NameBy(kMaterial, byAlias), "Steel-2");
     EXPECT_EQ(NameBy(kMaterial, aluminium), "Aluminium");
     EXPECT_EQ(NameBy(kMaterial, steel2), "Steel-1");
-    EXPECT_EQ(NameBy(kMaterial, steel), "Steel");
     EXPECT_EQ(NameBy(kGenericMaterial, steel), "SAM-Mat-1");
     steel.MaterialName("Iron.2");
     EXPECT_EQ(NameBy(kMaterial, steel2), "Steel");
     EXPECT_EQ(NameBy(kMaterial, byAlias), "Steel-1");
-    EXPECT_EQ(NameBy(kMaterial, Material("Iron.2")), "Iron-2-1"); // full stops are replaced after the numbering
-
-    MemoryFeature nameless = set.Feature("M", "n").Without(IID_ZFXIAlias);
-    EXPECT_EQ(NameBy(kMaterial, nameless), "E_FAIL|before");
-    EXPECT_EQ(nameless.References(), 0);
+    EXPECT_EQ(NameBy(kMaterial, Material("Iron.2")), "Iron-2-1");      // full stops are replaced after the numbering
     aluminium.Without(IID_ZFXIMaterialFeature).Without(IID_ZFXIAlias); // a listed material without a name
     EXPECT_EQ(NameBy(kMaterial, byAlias), "E_FAIL|Steel") << "a listed material gets its name without a number";
-    MemoryFeature unlisted = Material("New");
-    EXPECT_EQ(NameBy(kMaterial, unlisted), "E_FAIL|before");
-    EXPECT_EQ(unlisted.References(), 0);
+    EXPECT_EQ(NameBy(kMaterial, Material("New")), "E_FAIL|before");
     EXPECT_EQ(NameBy(kMaterial, steel), "Iron-2") << "no material is before it";
 }
 

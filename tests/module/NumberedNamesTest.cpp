@@ -25,38 +25,29 @@ TEST_F(NumberedNamesTest, NextNumberFollowsTheHighest) {
     };
     // clang-format on
     for (const auto& [inUse, baseName, expected] : rows) {
-        ZFXListValZFXBaseUnknown_var scope;
-        MemoryFeature members = document.Model().Set("S");
+        MemoryFeature set = document.Model().Set("S");
+        auto scope = MakeList({set.Feature("T", "P-8").Without(IID_ZFXIAlias), MemoryFeature()}); // nameless elements
         for (const char* name : inUse)
-            scope.Append(ZFXBaseUnknown_var(members.Feature("T", name)));
+            scope.Append(ZFXBaseUnknown_var(set.Feature("T", name)));
         ZFXUnicodeString bySet(baseName);
-        EXPECT_EQ(QVRNameUtil::GetNextUniqueName(bySet, ZFXISamAnalysisSet_var(members)), S_OK);
+        EXPECT_EQ(QVRNameUtil::GetNextUniqueName(bySet, ZFXISamAnalysisSet_var(set)), S_OK);
         EXPECT_EQ(bySet, expected);
         // A batch has the names that single proposals return if each proposed name is used.
         ZFXUnicodeString base(baseName);
         ZFXListValZFXUnicodeString batch;
         EXPECT_EQ(QVRNameUtil::GetNextUniqueNames(base, scope, 5, batch), S_OK);
-        ASSERT_EQ(batch.Size(), 5) << baseName;
+        for (const int count : {0, -1})
+            EXPECT_EQ(QVRNameUtil::GetNextUniqueNames(base, scope, count, batch), E_FAIL);
+        ASSERT_EQ(batch.Size(), 5) << "a rejected count changed the list";
         EXPECT_EQ(base, baseName);
         EXPECT_EQ(batch[1], expected);
         for (const ZFXUnicodeString& name : batch) {
             ZFXUnicodeString single(baseName);
             EXPECT_EQ(QVRNameUtil::GetNextUniqueName(single, scope), S_OK);
             EXPECT_EQ(name, single);
-            scope.Append(ZFXBaseUnknown_var(members.Feature("T", single)));
+            scope.Append(ZFXBaseUnknown_var(set.Feature("T", single)));
         }
-        for (const int count : {0, -1})
-            EXPECT_EQ(QVRNameUtil::GetNextUniqueNames(base, scope, count, batch), E_FAIL);
-        EXPECT_EQ(batch.Size(), 5) << "a rejected count changed the list";
     }
-}
-
-TEST_F(NumberedNamesTest, ElementsWithoutANameAreIgnored) {
-    MemoryFeature set = document.Model().Set("S");
-    MemoryFeature two = set.Feature("T", "P-2");
-    MemoryFeature nameless = set.Feature("T", "P-8").Without(IID_ZFXIAlias);
-    const auto scope = MakeList({nameless, two, two, MemoryFeature()});
-    EXPECT_EQ(Call("P-", [&](auto& name) { return QVRNameUtil::GetNextUniqueName(name, scope); }), "S_OK|P-3");
 }
 
 TEST_F(NumberedNamesTest, ExactLateTypeDeterminesTheBaseName) {

@@ -3,15 +3,13 @@
 namespace {
 
 TEST_F(SingletonTest, CountsIssuedNamesExactlyUntilTheReset) {
-    EXPECT_EQ(utils, QVRGenI18NUtils::Instance());
     int count = 9;
-    EXPECT_EQ(utils->FindNameAndNextID("Thickness", count), 0);
-    EXPECT_EQ(count, 0);
     for (const char* name : {"Thickness", "Layup", "Thickness"})
         EXPECT_EQ(utils->PushNameToList(name), S_OK);
     EXPECT_EQ(utils->FindNameAndNextID("Thickness", count), 1);
     EXPECT_EQ(count, 2);
     EXPECT_EQ(utils->FindNameAndNextID("thickness", count), 0);
+    EXPECT_EQ(count, 0);
     utils->ResetAllLists();
     EXPECT_EQ(utils->FindNameAndNextID("Thickness", count), 0);
 }

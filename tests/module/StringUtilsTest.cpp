@@ -12,7 +12,6 @@ using Utils = QVRGenZFXUnicodeStringUtils;
 
 TEST(StringUtils, RemoveAndReplaceCharacters) {
     EXPECT_EQ(Utils::RemoveSpaces("  a  b "), "ab");
-    EXPECT_EQ(Utils::RemoveSpaces(""), "");
     EXPECT_EQ(Utils::RemoveDoubleQuotes("\"a\"b"), "ab");
     EXPECT_EQ(Utils::RemoveBackSlashes("\\a\\\\b/"), "ab/");
     EXPECT_EQ(Utils::RemovePeriods(".1.2."), "12");
@@ -22,13 +21,12 @@ TEST(StringUtils, RemoveAndReplaceCharacters) {
     EXPECT_EQ(Utils::RemoveLeadingUnderscores("__a_b_"), "a_b_");
     EXPECT_EQ(Utils::RemoveTrailingSpaces(" a b   "), " a b");
     EXPECT_EQ(Utils::RemoveTrailingUnderscores("_a_b__"), "_a_b");
-    EXPECT_EQ(Utils::RemoveTrailingUnderscores(Repeated('_', kMillion)), "");
     EXPECT_EQ(Utils::ReplaceBackslashWithForwardslash("\\a\\b"), "/a/b");
     EXPECT_EQ(Utils::ReplacePeriodWithDash("1.2.3"), "1-2-3");
 }
 
 TEST(StringUtils, TruncateTo72Units) {
-    for (const int length : {0, 71, 72, 73, 200, kMillion})
+    for (const int length : {0, 72, 73, kMillion})
         EXPECT_EQ(Utils::TrucateToLegalLength(Repeated('a', length)), Repeated('a', std::min(length, 72)));
     EXPECT_EQ(Utils::TrucateToLegalLength(Repeated('a', 71) + "😀"),
               Repeated('a', 71) + ZFXUnicodeString(u"\xD83D")); // splits the surrogate pair

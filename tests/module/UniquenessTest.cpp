@@ -13,7 +13,6 @@ TEST_F(UniquenessTest, FirstElementThatFailsDeterminesTheError) {
     MemoryFeature other = set.Feature("T", "Load-2");
     MemoryFeature nameless = set.Feature("T", "x").Without(IID_ZFXIAlias);
     const std::tuple<const char*, std::vector<MemoryFeature>, MemoryFeature, const char*, const char*> rows[] = {
-        {"an empty scope", {}, feature, "Load-1", "S_OK"},
         {"only the feature itself", {feature, feature}, feature, "Load-1", "S_OK"},
         {"different letter case", {feature, twin}, feature, "Load-1", kDuplicate},
         {"an empty name stands for the stored one", {twin}, feature, "", kDuplicate},
@@ -42,7 +41,6 @@ TEST_F(UniquenessTest, JobsAreComparedInTheFirstJobContainerOfEachCase) {
     EXPECT_EQ(check("JOB-2"), kDuplicate);
     EXPECT_EQ(check("Job-1"), "S_OK");
     EXPECT_EQ(check("In a second container"), "S_OK");
-    EXPECT_EQ(check(""), "S_OK");
     model.FailNth(MemoryRequest::GetParentSets, 1, {3, false});
     EXPECT_EQ(check("JOB-2"), "3") << "the code of a request that returned no list";
     job = document.Model().Feature("QVRJobLT", "x");

@@ -4,8 +4,7 @@
 #include "support/DocumentTest.h"
 
 /// A test of names that the singleton caches. The caches are empty before and after each test.
-class SingletonTest : public DocumentTest {
-protected:
+struct SingletonTest : DocumentTest {
     using Operation = HRESULT (QVRGenI18NUtils::*)(const ZFXISpecObject_var&, ZFXUnicodeString&);
 
     void SetUp() override { utils->ResetAllLists(); }
