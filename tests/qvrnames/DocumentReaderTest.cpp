@@ -34,7 +34,7 @@ TEST(DocumentReader, ReportsTheFirstErrorWithItsPosition) {
     WriteIfRequested(path, documents.dump(1) + "\n");
     EXPECT_EQ(ErrorOf(std::string(1'000'000, '[')), "line 1, column 101: nested more deeply than 100 levels");
     EXPECT_EQ(ErrorOf("{\"comment\": \"\xC3\x28\"}"),
-              "line 1, column 15: syntax error while parsing value - invalid string: ill-formed UTF-8 byte");
+              "line 1, column 15: the text is not JSON: invalid string: ill-formed UTF-8 byte");
 }
 
 TEST(DocumentReader, ReportsEveryDamagedFileAsBadInput) {

@@ -25,7 +25,7 @@ public:
     bool parse_error(std::size_t position, const std::string& lastRead,
                      const nlohmann::detail::exception& error) override {
         offset = position == 0 ? 0 : position - 1;
-        message = WithoutLocation(error.what(), lastRead);
+        message = Reason(error.what(), lastRead);
         return false;
     }
 
@@ -39,9 +39,9 @@ private:
         return true;
     }
 
-    /// Removes the location, which the caller reports as line and column, and the text read last, which may be half the
-    /// file or ill-formed.
-    static std::string WithoutLocation(std::string reason, const std::string& lastRead) {
+    /// Returns the reason in a message of the library. Removes the location, which the caller reports as line and
+    /// column, the state of the parser, and the text read last, which may be half the file or ill-formed.
+    static std::string Reason(std::string reason, const std::string& lastRead) {
         if (const auto column = reason.find("column "); column != std::string::npos)
             reason.erase(0, reason.find(": ", column) + 2);
         else if (const auto id = reason.find("] "); id != std::string::npos)
@@ -49,6 +49,8 @@ private:
         const std::string read = "; last read: '" + lastRead + "'";
         if (const auto begin = reason.find(read); begin != std::string::npos)
             reason.erase(begin, read.size());
+        if (const auto end = reason.find(" - "); end != std::string::npos && reason.starts_with("syntax error"))
+            reason.replace(0, end + 3, "the text is not JSON: ");
         return reason;
     }
 
