@@ -10,13 +10,13 @@
 
 /// The texts of messages, by message id.
 ///
-/// A catalog is one UTF-8 file: its name with the ending ".msg". A translation is a file beside it with the language in
-/// its name, such as "QVRNameUtility_de.msg". The name of a catalog contains no underscore.
+/// A catalog is one UTF-8 file: its name with the ending ".msg". A translation is another file in that folder, with the
+/// language in its name, such as "QVRNameUtility_de.msg". The name of a catalog contains no underscore.
 ///
 /// A line is `key = text`. A key is a message id followed by ".Request", ".Diagnostic" or ".Advice". Blank lines and
 /// lines that start with "#" are skipped. A file that does not exist or cannot be read has no texts.
 ///
-/// The files are in the folder "msgcatalog" beside the platform's shared library, unless a host sets another folder.
+/// The files are in the folder "msgcatalog" next to the platform's shared library, unless a host sets another folder.
 /// Each file is read once, at the first request for one of its texts.
 namespace MessageCatalog {
 

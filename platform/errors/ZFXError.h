@@ -110,7 +110,7 @@ public:
     virtual ZFXUnicodeString GetSourceContext() const;
     /// Returns the code that SetReturnCode has set, or 0.
     virtual HRESULT GetReturnCode() const;
-    /// Sets a code for the caller beside the registered one, such as -100 for a name with illegal characters.
+    /// Sets a code for the caller in addition to the registered one, such as -100 for a name with illegal characters.
     virtual void SetReturnCode(HRESULT code);
     /// Returns the kind of report that SetInformationOnErrorType has set, or 0.
     virtual int GetInformationOnErrorType() const;

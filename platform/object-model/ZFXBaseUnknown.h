@@ -91,7 +91,7 @@ public:
 protected:
     /// Returns the implementation that SetImpl has set, or null. [borrowed]
     ZFXBaseUnknown* Implementation() const noexcept { return m_implementation; }
-    /// Returns the number of references, for a class that counts in a way of its own.
+    /// Returns the number of references, for a class that overrides AddRef and Release.
     ULONG& Count() noexcept { return m_count; }
 
 private:
@@ -115,7 +115,7 @@ inline constexpr IID CLSID_ZFXBaseUnknown = IID_ZFXBaseUnknown;
     return a == b || (a != nullptr && b != nullptr && a->GetImpl() == b->GetImpl());
 }
 
-/// Stands for "no base class": the base of the root in the meta classes.
+/// Represents "no base class": the base class of the root class in the meta classes.
 class ZFX_PLATFORM_EXPORT ZFXnull {
 public:
     /// Returns the meta class. [borrowed]

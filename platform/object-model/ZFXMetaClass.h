@@ -25,7 +25,7 @@ using ZFXAdaptorFactory = ZFXBaseUnknown* (*)(ZFXBaseUnknown* object, void* cont
 /// The description of a class or late type: name, kind, base, and the extensions and adaptors that modules add.
 ///
 /// Meta classes returned by `fct_RetrieveMetaObject`, `fct_RetrieveAdaptorMetaObject` and `fct_FindMetaObject` belong
-/// to the platform and live until the process ends. There is one for each name of a class or late type.
+/// to the platform and exist until the process ends. There is one for each name of a class or late type.
 class ZFX_PLATFORM_EXPORT ZFXMetaClass {
 public:
     /// Creates a meta class that is not yet declared.

@@ -24,7 +24,7 @@ using ZFXImplementationMaker = ZFXBaseUnknown* (*)();
 /// Initializes an adaptor: creates its implementation, connects both with `object`, and sets the adaptor's reference
 /// count to 1. Adds one reference to `object`. If the implementation cannot be created, `tie.implementation` is null.
 /// Returns the implementation that the module's next adaptor can share: always null, because each adaptor of this
-/// platform has an implementation of its own.
+/// platform has its own implementation.
 /// @param adaptor       the adaptor; not null
 /// @param tie           the data of the adaptor
 /// @param maker         creates the implementation; not null

@@ -17,7 +17,7 @@ constexpr std::size_t kSafeDigits = 9; // any number of nine digits fits an int
 
 std::optional<int> Read(std::u16string_view text) noexcept {
     std::size_t at = 0;
-    // Most texts are a few digits and nothing else.
+    // Most texts consist of a few digits.
     int small = 0;
     for (const std::size_t end = std::min(text.size(), kSafeDigits); at < end && IsDigit(text[at]); ++at)
         small = small * 10 + (text[at] - u'0');

@@ -11,7 +11,7 @@ class ZFX_PLATFORM_EXPORT ZFXUnicodeChar {
 public:
     /// Constructs U+0000.
     constexpr ZFXUnicodeChar() noexcept = default;
-    /// Constructs an ASCII character. Any other byte is no character by itself and gives U+FFFD.
+    /// Constructs an ASCII character. Any other byte is not a complete character and gives U+FFFD.
     constexpr ZFXUnicodeChar(char c) noexcept : m_unit(UnitOf(c)) {}
 
     /// Returns the character of any code unit, including half a surrogate pair.

@@ -9,7 +9,7 @@ readme=$(realpath "$1") build=$2 version=$3 generator=$4 compiler=$5 option=$6 e
 enter_work_folder
 copy="$work/a moved & renamed cöpy"
 
-# run PROGRAM ARGUMENT...: runs a program beside the installed ones, where Windows looks for libraries.
+# run PROGRAM ARGUMENT...: runs a program in the folder of the installed programs, where Windows looks for libraries.
 run() { $emulator "$copy/bin/$1${emulator:+.exe}" "${@:2}" | tr -d '\r'; }
 
 # CMake's list of installed files goes into the work folder, because the folder of the build may be read-only.

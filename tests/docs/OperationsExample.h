@@ -1,6 +1,6 @@
 #pragma once
 
-// What the examples of docs/operations.md stand on. Their "assert" is a check of the test.
+// The declarations that the examples of docs/operations.md use. Their "assert" is an expectation of the test.
 
 #include "QVREFeatureAlias.h"
 #include "QVRGenI18NUtils.h"

@@ -35,6 +35,8 @@ TEST_F(NumberedNamesTest, NextNumberFollowsTheHighest) {
         // A batch has the names that single proposals return if each proposed name is used.
         ZFXUnicodeString base(baseName);
         ZFXListValZFXUnicodeString batch;
+        EXPECT_EQ(QVRNameUtil::GetNextUniqueNames(base, scope, 1, batch), S_OK);
+        batch.RemoveAll();
         EXPECT_EQ(QVRNameUtil::GetNextUniqueNames(base, scope, 5, batch), S_OK);
         for (const int count : {0, -1})
             EXPECT_EQ(QVRNameUtil::GetNextUniqueNames(base, scope, count, batch), E_FAIL);

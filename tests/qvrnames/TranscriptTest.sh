@@ -17,7 +17,7 @@ terminal() {
     local words=("${program[@]}" "${@:2}")
     script -qec "stty cols $1; ${words[*]@Q} 2>/dev/null" /dev/null | tr -d '\r' | sed 's/\x1b/^[/g'
 }
-# closed_pipe COMMAND...: runs the command with an output that nobody reads any more.
+# closed_pipe COMMAND...: runs the command with standard output connected to a pipe whose reader has exited.
 closed_pipe() {
     exec 3> >(:)
     wait $!

@@ -40,7 +40,7 @@ private:
             return a->Compare(*b) != 0;
         }
     };
-    /// The first two objects with one name. The second is the answer for the first one.
+    /// The first two objects with one name. The name of the first object clashes with that of the second.
     struct Owners {
         std::size_t first;
         std::optional<std::size_t> second = {};
