@@ -41,6 +41,9 @@ TEST(Error, IsFoundUnderACodeOfItsOwn) {
     EXPECT_EQ(ResultText(second), "Second");
     EXPECT_EQ(ZFXError::ZFXGetLastError(first, nullptr)->GetId(), first);
     EXPECT_EQ(ZFXError::ZFXGetLastError(E_FAIL, nullptr), nullptr);
+    // Without an error object the type gives the code.
+    EXPECT_EQ(ZFXError::GetReturn(ZFXErrorTypeSuccess, nullptr, nullptr, "", 0), S_OK);
+    EXPECT_EQ(ZFXError::GetReturn(ZFXErrorTypeInput, nullptr, nullptr, "", 0), E_FAIL);
 }
 
 TEST(Error, IsReleasedWhenThirtyTwoOthersWereRaised) {
@@ -54,11 +57,6 @@ TEST(Error, IsReleasedWhenThirtyTwoOthersWereRaised) {
     EXPECT_EQ(ZFXBaseUnknown::LiveAllocations(), before);
 }
 
-TEST(Error, WithoutAnErrorObjectTheTypeGivesTheCode) {
-    EXPECT_EQ(ZFXError::GetReturn(ZFXErrorTypeSuccess, nullptr, nullptr, "", 0), S_OK);
-    EXPECT_EQ(ZFXError::GetReturn(ZFXErrorTypeInput, nullptr, nullptr, "", 0), E_FAIL);
-}
-
 TEST(Error, IsAnInputErrorAndAnError) {
     const Error error = MakeError();
     EXPECT_STREQ(error->IsA(), "ZFXInputError");
@@ -69,16 +67,12 @@ TEST(Error, IsAnInputErrorAndAnError) {
     EXPECT_EQ(error->GetErrorTable()->base->base, nullptr);
 }
 
-TEST(Error, HasNoCodePositionAndHelpAtFirst) {
+TEST(Error, RecordsWhereItIsRaisedOrThrown) {
     const Error error = MakeError();
     EXPECT_EQ(Content(*error), "Tests.Id at :0 in  returns 0 of type 0");
     EXPECT_EQ(error->GetId(), 0);
     EXPECT_EQ(Narrow(error->GetNLSHelpFile()), "");
     EXPECT_EQ(error->GetNLSHelpContext(), 0);
-}
-
-TEST(Error, RecordsWhereItIsRaisedOrThrown) {
-    const Error error = MakeError();
     static_cast<void>(Raise(error));
     EXPECT_EQ(Narrow(error->GetNLSSource()), "File.cpp:7");
     std::ostringstream history;
@@ -114,8 +108,7 @@ protected:
                                     "All.Request = r /P1 /P2\nAll.Diagnostic = d /P1 /P2\nAll.Advice = a /P1 /P2\n");
         m_folder.Write("Tests_xy.msg", "Id.Diagnostic = /P2, /P1: böse\n");
         MessageCatalog::SetFolder(m_folder.Path("."));
-        ZFXUnicodeString a("ä");
-        ZFXUnicodeString b("b");
+        ZFXUnicodeString a("ä"), b("b");
         m_error->SetNLSParameters(2, &a, &b);
     }
     ~CatalogTest() override {
@@ -136,8 +129,7 @@ protected:
 TEST_F(CatalogTest, MessageJoinsTheSectionsWithTheirParameters) {
     EXPECT_EQ(Message(), kEnglish);
     const Error error = MakeError("All");
-    ZFXUnicodeString a("A");
-    ZFXUnicodeString b("B");
+    ZFXUnicodeString a("A"), b("B");
     error->SetNLSRequestParams(2, &a, &b);
     error->SetNLSDiagnosticParams(2, &b, nullptr); // null counts as empty
     error->SetNLSAdviceParams(1, &a);
@@ -152,8 +144,7 @@ TEST_F(CatalogTest, MessageJoinsTheSectionsWithTheirParameters) {
 
 TEST_F(CatalogTest, PlaceholdersAreReplacedInOnePass) {
     const Error error = MakeError("Once");
-    ZFXUnicodeString a("x/P2y");
-    ZFXUnicodeString b("/P1");
+    ZFXUnicodeString a("x/P2y"), b("/P1");
     error->SetNLSParameters(2, &a, &b);
     EXPECT_EQ(Narrow(error->GetNLSDiagnostic()), "x/P2y /P1 x/P2y /P3 /P //P1");
 }

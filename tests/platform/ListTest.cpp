@@ -17,10 +17,9 @@ TEST_F(ListTest, IndexesStartAtOneAndFollowTheOrderOfAppending) {
     EXPECT_EQ(Narrow(names[1]), "a");
     EXPECT_EQ(names.NbOccur("a"), 2);
     EXPECT_EQ(names.NbOccur("c"), 0);
-    names.RemovePosition(1);
+    for (const int index : {1, 0, 4}) // the last two are outside of the list
+        names.RemovePosition(index);
     EXPECT_EQ(Narrow(names[1]), "b");
-    names.RemovePosition(0);
-    names.RemovePosition(4);
     EXPECT_EQ(names.Size(), 3);
     EXPECT_EQ(Narrow(names[0]), ""); // an index outside of the list
     EXPECT_EQ(Narrow(names[9]), "");

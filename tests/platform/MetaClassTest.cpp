@@ -37,19 +37,14 @@ TEST(MetaClass, ExtendsTheLateTypesThatItNames) {
     EXPECT_FALSE(fct_FindMetaObject("Another late type")->IsExtended());
 }
 
-TEST(MetaClass, HasTheKindOfItsClass) {
+TEST(MetaClass, HasTheKindOfItsClassAndAnIdentifierComputedFromItsName) {
     const std::pair<int, ENUMTypeOfClass> rows[] = {{0, Interface}, {1, Implementation}, {2, DataExtension}, {6, TIE}};
     for (const auto& [number, kind] : rows)
         EXPECT_EQ(ZFXMetaClass(nullptr, "X", nullptr, nullptr, number).GetTypeOfClass(), kind) << number;
     EXPECT_EQ(ZFXIAlias::MetaObject()->GetTypeOfClass(), Interface);
     EXPECT_EQ(ZFXBaseUnknown::MetaObject()->GetTypeOfClass(), Implementation);
     EXPECT_EQ(ZFXnull::MetaObject()->GetTypeOfClass(), Implementation);
-}
-
-TEST(MetaClass, HasAnIdentifierComputedFromItsName) {
-    const auto identifierOf = [](const char* name) {
-        return ZFXMetaClass(nullptr, name, nullptr, nullptr, 1).GetClassId();
-    };
+    const auto identifierOf = [](auto name) { return ZFXMetaClass(nullptr, name, nullptr, nullptr, 1).GetClassId(); };
     EXPECT_EQ(identifierOf("a"), identifierOf("a"));
     EXPECT_NE(identifierOf("a"), identifierOf("b"));
     EXPECT_EQ(ZFXIAlias::MetaObject()->GetClassId(), IID_ZFXIAlias);
