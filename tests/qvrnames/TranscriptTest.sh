@@ -1,20 +1,19 @@
 #!/usr/bin/env bash
 # Runs the command lines of a transcript and compares what they print and their exit codes with the transcript. To write
 # it anew, run this with QVR_WRITE_EXPECTED=1 and look at the difference.
-# Usage: TranscriptTest.sh TRANSCRIPT EXAMPLES_FOLDER PROGRAM...
+# Usage: TranscriptTest.sh TRANSCRIPT EXAMPLES_FOLDER PROGRAM
 # shellcheck source=tests/support/checks.sh disable=SC2317  # the transcripts call the functions
 source "$(dirname "$0")/../support/checks.sh"
-transcript=$(realpath "$1") examples=$(realpath "$2") program=("${@:3}")
+transcript=$(realpath "$1") examples=$(realpath "$2") program=$3
 enter_work_folder
 ln -s "$examples" "{examples}"
-ln -s "$(dirname "$transcript")" "{here}"
 export TERM=xterm SHELL=$BASH
 unset NO_COLOR
 
-qvrnames() { "${program[@]}" "$@"; }
+qvrnames() { "$program" "$@"; }
 # terminal COLUMNS ARGUMENT...: prints the result of the program on a terminal of this width, with ^[ for an escape.
 terminal() {
-    local words=("${program[@]}" "${@:2}")
+    local words=("$program" "${@:2}")
     script -qec "stty cols $1; ${words[*]@Q} 2>/dev/null" /dev/null | tr -d '\r' | sed 's/\x1b/^[/g'
 }
 # closed_pipe COMMAND...: runs the command with standard output connected to a pipe whose reader has exited.
@@ -36,7 +35,7 @@ while IFS= read -r line; do
     (eval "${line#??}") </dev/null 2>messages || code=$?
     [ ! -s messages ] || printf 'standard error: %s\n' "$(<messages)"
     printf 'exit code %s\n\n' "$code"
-done <"$transcript" | tr -d '\r' >found
+done <"$transcript" >found
 [ -z "${QVR_WRITE_EXPECTED:-}" ] || cp found "$transcript"
 check "$transcript is printed again" diff -u "$transcript" found
 finish
