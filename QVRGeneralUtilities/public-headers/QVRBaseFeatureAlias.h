@@ -38,6 +38,8 @@ public:
     ///
     /// Returns the code of the check that SetAlias would make for `alias`, and registers the same errors.
     /// - E_FAIL: the handle is empty. `finding` is unchanged.
+    /// @param feature  the feature that SetAlias would change
+    /// @param alias    the text that SetAlias would receive
     /// @param finding  if not null and the check fails, receives the rule and, for a clash, the other feature
     static HRESULT CheckAlias(const ZFXISpecObject_var& feature, const ZFXUnicodeString& alias,
                               QVRNameFinding* finding = nullptr) noexcept;

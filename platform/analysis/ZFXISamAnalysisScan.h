@@ -15,6 +15,7 @@ class ZFX_PLATFORM_EXPORT ZFXISamAnalysisScan : public ZFXBaseUnknown {
     /// Succeeds if there are none. On failure, the naming module treats the search for a simulation history or for the
     /// sets of a step as failed; for the property set and for job containers it uses the objects that are in the list.
     /// @param lateType  compared case-sensitively
+    /// @param found     receives the objects
     /// @param mode      always kScanMode
     virtual HRESULT FindObjectsOfType(const ZFXUnicodeString& lateType, ZFXListValZFXBaseUnknown_var& found,
                                       int mode) = 0;
@@ -22,7 +23,8 @@ class ZFX_PLATFORM_EXPORT ZFXISamAnalysisScan : public ZFXBaseUnknown {
     ///
     /// On failure, operations on steps fail. For the siblings of a bolt tightening, the naming module uses the objects
     /// that are in the list.
-    /// @param mode  always kScanMode
+    /// @param children  receives the objects
+    /// @param mode      always kScanMode
     virtual HRESULT ListChildren(ZFXListValZFXBaseUnknown_var& children, int mode) = 0;
 };
 

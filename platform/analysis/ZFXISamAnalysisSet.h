@@ -14,8 +14,9 @@ class ZFX_PLATFORM_EXPORT ZFXISamAnalysisSet : public ZFXBaseUnknown {
     ///
     /// On failure, the operation of the naming module fails. For the objects of a step, it uses the features that are
     /// in the list.
-    /// @param filter  always CLSID_ZFXBaseUnknown: all members, without a filter
-    /// @param flag    always kMemberFlag
+    /// @param members  receives the features
+    /// @param filter   always CLSID_ZFXBaseUnknown: all members, without a filter
+    /// @param flag     always kMemberFlag
     virtual HRESULT ListMembers(ZFXListValZFXISpecObject_var& members, const IID& filter, int flag) = 0;
 };
 

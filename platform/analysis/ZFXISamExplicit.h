@@ -7,9 +7,10 @@
 class ZFX_PLATFORM_EXPORT ZFXISamExplicit : public ZFXBaseUnknown {
     ZFX_DECLARE_INTERFACE(ZFXISamExplicit)
 
-    /// Makes `child` a view of the explicit data of this object. On failure the naming module does not read `child`.
+    /// Returns a view of the explicit data of this object.
     ///
-    /// @param flag  always 1
+    /// @param child  receives the view; the naming module does not read it after a failure
+    /// @param flag   always 1
     virtual HRESULT GetExplicitChild(ZFXAnalysisExplicitChild& child, int flag) = 0;
 };
 

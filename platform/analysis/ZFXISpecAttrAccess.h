@@ -13,6 +13,7 @@ class ZFX_PLATFORM_EXPORT ZFXISpecAttrAccess : public ZFXBaseUnknown {
     virtual ZFXISpecAttrKey* GetAttrKey(const char* name) = 0;
     /// Stores a string as the value of an attribute.
     /// @param key    a key that this feature returned
+    /// @param value  the string; may be empty
     /// @param index  always 0
     virtual void SetString(ZFXISpecAttrKey* key, const ZFXUnicodeString& value, int index) = 0;
     /// Returns the value of an attribute, or an empty string if it was never stored.
