@@ -71,7 +71,9 @@ TEST_F(IdentityTest, AllInterfacePointersOfAnObjectAreEqual) {
     const ZFXISamAnalysisScan_var scan(feature);
     const ZFXBaseUnknown_var root(scan);
     ASSERT_NE(feature, nullptr);
-    EXPECT_TRUE(feature == scan && scan == root && root == feature.Get());
+    EXPECT_TRUE(feature == scan);
+    EXPECT_TRUE(scan == root);
+    EXPECT_TRUE(root == feature.Get());
     EXPECT_NE(root->IsEqual(feature), 0);
     EXPECT_EQ(root->IsEqual(nullptr), 0);
     EXPECT_EQ(root->IsNull(), 0);

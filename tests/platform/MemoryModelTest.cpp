@@ -58,14 +58,19 @@ TEST_F(MemoryModelTest, KindsOfferTheirInterfacesUnlessWithheld) {
     MemoryFeature step = document.Case("Static").Step("QVRGeneralStaticStepLT", "Step-1");
     MemoryFeature load = step.Set("QVRLoadContainerLT").Feature("QVRPressure", "Pressure-1");
     MemoryFeature section = document.PropertySet().Feature("QVRShellSectionEnhLT", "Section");
-    EXPECT_TRUE(QVRIPropagatingFeature_var(load) && ZFXISamAnalysisEntity_var(load) && !QVRIStep_var(load));
-    EXPECT_TRUE(QVRIStep_var(step) && ZFXISamAnalysisScan_var(step) && !ZFXISamAnalysisEntity_var(step));
-    EXPECT_TRUE(ZFXISamAnalysisEntity_var(section) && !QVRIPropagatingFeature_var(section));
+    const auto offered = [](MemoryFeature feature) {
+        return std::string(QVRIStep_var(feature) ? "step " : "") + (ZFXISamAnalysisScan_var(feature) ? "scan " : "") +
+               (ZFXISamAnalysisEntity_var(feature) ? "entity " : "") +
+               (QVRIPropagatingFeature_var(feature) ? "propagating " : "");
+    };
+    EXPECT_EQ(offered(load), "entity propagating ");
+    EXPECT_EQ(offered(step), "step scan ");
+    EXPECT_EQ(offered(section), "entity ");
     ZFXISpecObject_var property(section);
     ZFXISpecObject_var curve(document.PropertySet().Feature("QVRTabularAmplitudeLT", "Amplitude"));
-    EXPECT_TRUE(QVRAnalysisEntityUtils::IsObjectAProperty(property) &&
-                !QVRAnalysisEntityUtils::IsObjectAProperty(curve) &&
-                QVRAnalysisEntityUtils::IsObjectAnAmplitude(curve));
+    EXPECT_TRUE(QVRAnalysisEntityUtils::IsObjectAProperty(property));
+    EXPECT_FALSE(QVRAnalysisEntityUtils::IsObjectAProperty(curve));
+    EXPECT_TRUE(QVRAnalysisEntityUtils::IsObjectAnAmplitude(curve));
 #define ZFX_INTERFACE(name)                                                                                            \
     EXPECT_EQ(bool(name##_var(load.With(IID_##name))), IID_##name != IID_ZFXISpecAttribute) << #name;                  \
     EXPECT_TRUE(!name##_var(load) || name##_var(load) == load.Object()) << #name;                                      \
