@@ -114,12 +114,13 @@ ListedScope& NameChecker::Listed(const Scope& scope) {
     if (std::holds_alternative<NameScopes::Propagating>(scope))
         key.setType = NameScopes::SetTypeOf(m_feature);
     const auto [entry, isNew] = m_scopes.try_emplace(std::move(key), ListedScope{ScopeIndex(m_names)});
+    const std::optional<ZFXUnicodeString>& setType = entry->first.setType;
     ListedScope& listed = entry->second;
     if (isNew)
         listed.result = NameScopes::CompareWith(
             scope,
             [&](const ZFXISpecObject_var& step, ZFXListValZFXBaseUnknown_var& features) {
-                return NameScopes::AppendFeaturesOfStep(step, entry->first.setType, features);
+                return NameScopes::AppendFeaturesOfStep(step, setType, features);
             },
             [&](const ZFXListValZFXBaseUnknown_var& features) {
                 listed.isCompared = true;
