@@ -84,9 +84,9 @@ const Operation kOperations[] = {
     {"IsNameUnique, a section", [](Requests& d) { return Requests::Call(d.section, "p-2", Util::IsNameUnique); }},
     {"CheckName", [](Requests& d) { return Requests::Call(d.step, "", [](auto& handle, auto& name) { return Util::CheckName(handle, name, 1); }); }},
     {"CheckFileName", [](Requests& d) { return Requests::Call(d.section, "", Util::CheckFileName); }},
-    {"GetUniqueName, a step", [](Requests& d) { return d.Propose(d.step, "Step-", {}); }},
-    {"GetUniqueName, a section", [](Requests& d) { return d.Propose(d.section, "P-", d.analysisCase); }},
-    {"GetUniqueName, a load", [](Requests& d) { return d.Propose(d.load, "Load-", d.analysisCase); }},
+    {"GetUniqueName, a step", [](Requests& d) { return Requests::Propose(d.step, "Step-", {}); }},
+    {"GetUniqueName, a section", [](Requests& d) { return Requests::Propose(d.section, "P-", d.analysisCase); }},
+    {"GetUniqueName, a load", [](Requests& d) { return Requests::Propose(d.load, "Load-", d.analysisCase); }},
     {"GetGenericEnglishName", [](Requests& d) { return Requests::Call(d.section2, "x", std::bind_front(&I18N::GetGenericEnglishName, d.utils)); }},
     {"GetGenericEnglishFeatureName", [](Requests& d) { return d.Both(d.steel, d.steel2, &I18N::GetGenericEnglishFeatureName); }},
     {"GetFeatureName", [](Requests& d) { return d.Both(d.steel, d.steel2, &I18N::GetFeatureName); }},
@@ -148,7 +148,7 @@ struct FailingRequestsTest : Requests, ::testing::WithParamInterface<Operation> 
     static std::string Expected(const std::string& heading) {
         const std::string text = TextOf(kExpected);
         const std::size_t begin = text.find(heading);
-        return begin == text.npos ? "" : text.substr(begin, text.find("\n\n", begin) - begin + 1);
+        return begin == std::string::npos ? "" : text.substr(begin, text.find("\n\n", begin) - begin + 1);
     }
 
     static constexpr const char* kExpected = SOURCE_ROOT "/tests/module/failing-requests.txt";

@@ -111,7 +111,7 @@ protected:
         ZFXUnicodeString a("ä"), b("b");
         m_error->SetNLSParameters(2, &a, &b);
     }
-    ~CatalogTest() override {
+    void TearDown() override {
         MessageCatalog::SetFolder("/nowhere");
         MessageCatalog::SetLanguage("");
     }

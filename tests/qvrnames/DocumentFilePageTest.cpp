@@ -26,7 +26,7 @@ Words Keys(MemoryKind kind) {
 /// that lead to the objects below the kinds that have features.
 Words FurtherKeys(MemoryKind kind) {
     Words keys = Keys(kind);
-    for (const std::string& key : Keys(keys.count("features") > 0 ? MemoryKind::Step : MemoryKind::History))
+    for (const std::string& key : Keys(keys.contains("features") ? MemoryKind::Step : MemoryKind::History))
         keys.erase(key);
     return keys;
 }
@@ -59,7 +59,7 @@ TEST(DocumentFilePage, ListsTheKeysAndDefaultTypesOfTheReader) {
         const auto row = rows.find(SpellingOf(key));
         if (row == rows.end())
             continue; // a further key, as `listed` shows
-        const bool hasDefault = defaultType != nullptr && Keys(kind).count("type") > 0;
+        const bool hasDefault = defaultType != nullptr && Keys(kind).contains("type");
         EXPECT_EQ(row->second.first, hasDefault ? Words{defaultType} : Words{}) << row->first;
         EXPECT_EQ(row->second.second, FurtherKeys(kind)) << row->first;
     }
