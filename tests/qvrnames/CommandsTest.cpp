@@ -52,10 +52,11 @@ TEST_P(TranscriptTest, OutputIsUnchanged) {
         if (!line.starts_with("$ ") || program == std::string::npos)
             continue;
         const std::size_t columns = line.find("COLUMNS=") == 2 ? std::stoul(line.substr(10)) : 0;
-        std::string command = line.substr(program + 8);
-        for (const auto& [name, value] : variables)
-            command = Replaced(command, name, value);
-        const RunResult result = RunWith(Words(command), {columns, columns > 0});
+        std::vector<std::string> words = Words(line.substr(program + 8));
+        for (std::string& word : words)
+            for (const auto& [name, value] : variables)
+                word = Replaced(word, name, value);
+        const RunResult result = RunWith(words, {columns, columns > 0});
         EXPECT_EQ(MemoryModel::LiveObjects(), 0) << "the document was not released: " << line;
         std::string output = result.out + (result.err.empty() ? "" : "standard error: " + result.err);
         for (const auto& [name, value] : variables)
