@@ -38,7 +38,11 @@ struct Mapping {
 };
 
 /// Case folding: two characters are equal apart from case exactly if they fold to one character.
-extern const Mapping kFold __attribute__((visibility("hidden")));
+extern const Mapping kFold
+#ifndef _WIN32 // a Windows library exports only what is marked
+    __attribute__((visibility("hidden")))
+#endif
+    ;
 
 /// Returns a hash that is equal for two texts that are equal after case folding.
 [[nodiscard]] std::size_t HashIgnoringCase(const char16_t* units, int length) noexcept;
