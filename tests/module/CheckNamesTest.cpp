@@ -148,9 +148,11 @@ TEST_F(CheckNames, FindingsListEveryRuleAndTheOtherFeature) {
     ZFXListVal<QVRNameFinding> findings;
     EXPECT_EQ(Util::CheckNames(list, findings), S_OK);
     std::vector<std::string> found;
-    for (const QVRNameFinding& finding : findings)
+    for (const QVRNameFinding& finding : findings) {
+        EXPECT_EQ(finding.code, S_OK) << "the finding has a message";
         found.push_back(std::string(finding.feature == list[1] ? "1 " : "2 ") + Narrow(finding.messageId) +
                         Narrow(finding.parameter) + (finding.other == ZFXBaseUnknown_var(twin) ? " twin" : ""));
+    }
     const std::vector<std::string> expected{"1 DuplicateNameERR_02 twin", "1 NameLengthERR_01",   "1 IllegalCharERR_01",
                                             "2 NameLengthERR_01",         "2 LeadingDigitERR_01", "2 IllegalCharERR_01",
                                             "2 DoubleByteCharErr_01厚 "};
