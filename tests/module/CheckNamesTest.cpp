@@ -103,6 +103,7 @@ private:
 };
 
 class RandomDocument : public CheckNames, public ::testing::WithParamInterface<unsigned> {};
+
 TEST_P(RandomDocument, HasTheFindingsOfTheSingleChecks) {
     Build(GetParam());
     EXPECT_EQ(Compared(), "");
@@ -119,6 +120,7 @@ TEST_P(RandomDocument, HasTheFindingsOfTheSingleChecks) {
         }
     list.RemoveAll();
 }
+
 TEST_P(RandomDocument, CheckAliasReturnsWhatSetAliasDoes) {
     Build(GetParam());
     for (MemoryFeature& feature : features) {
