@@ -235,6 +235,14 @@ public:
     static void GetUniqueName(ZFXUnicodeString& name, ZFXISpecObject_var& feature,
                               ZFXISamAnalysisCase_var& analysisCase) noexcept;
 
+    /// Appends to `names` the results of `count` calls of GetUniqueName with the base in `name`, as if each result were
+    /// added to the scope. Reads the scope once. Registers an error where GetUniqueName does, and returns its code.
+    /// - E_FAIL: `count` is below 1, the feature is empty, or there is no case.
+    /// - The code of a request: the scope cannot be listed.
+    static HRESULT GetUniqueNames(const ZFXUnicodeString& name, ZFXISpecObject_var& feature,
+                                  ZFXISamAnalysisCase_var& analysisCase, int count,
+                                  ZFXListValZFXUnicodeString& names) noexcept;
+
 private:
     static HRESULT NameCheckUserLength(ZFXUnicodeString& name) noexcept;
     static HRESULT NameCheckStartAndEnd(ZFXUnicodeString& name) noexcept;

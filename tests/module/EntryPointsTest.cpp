@@ -1,5 +1,6 @@
 #include "support/ScopeTest.h"
 
+#include <functional>
 #include <tuple>
 
 namespace {
@@ -40,6 +41,35 @@ TEST_F(EntryPointsTest, UniquenessIsCheckedBeforeTheText) {
     other.Alias(Repeated('y', 80));
     EXPECT_EQ(CheckName(feature, Repeated('y', 80), 1), kDuplicate) << "a name that clashes and is too long";
     EXPECT_EQ(CheckName({}, "x", 1), "ZFXIAliasERR_01");
+}
+
+/// Proposes five names for a feature at once and one after the other, and expects equal names. Each proposed name is
+/// given to a new feature.
+TEST_F(EntryPointsTest, BatchEqualsSingleProposalsThatAreUsed) {
+    MemoryFeature analysisCase = document.Case("Case");
+    analysisCase.Step("QVROruInitialStepLT", "Initial");
+    MemoryFeature step = analysisCase.Step("QVRStaticLPStepLT", "P-1");
+    MemoryFeature loads = step.Set("QVRLoadContainerLT");
+    MemoryFeature properties = document.PropertySet();
+    const std::tuple<MemoryFeature, std::function<void(const char*)>> rows[] = {
+        {step, [&](const char* name) { analysisCase.Step("QVRStaticLPStepLT", name); }},
+        {loads.Feature("QVRPressure", "P-4"), [&](const char* name) { loads.Feature("QVRPressure", name); }},
+        {properties.Feature("QVRShellSectionEnhLT", "P-2147483647"),
+         [&](const char* name) { properties.Feature("QVRShellSectionEnhLT", name); }},
+    };
+    for (const auto& [subject, use] : rows) {
+        ZFXISpecObject_var handle(subject);
+        ZFXISamAnalysisCase_var none;
+        ZFXListValZFXUnicodeString names;
+        names.Append("kept");
+        EXPECT_EQ(QVRNameUtil::GetUniqueNames("P-", handle, none, 5, names), S_OK);
+        EXPECT_EQ(QVRNameUtil::GetUniqueNames("P-", handle, none, 0, names), E_FAIL);
+        ASSERT_EQ(names.Size(), 6);
+        for (int i = 2; i <= names.Size(); ++i) {
+            EXPECT_EQ(Narrow(names[i]), Propose(subject, "P-", {})) << subject.LateType();
+            use(names[i].ConvertToChar());
+        }
+    }
 }
 
 } // namespace

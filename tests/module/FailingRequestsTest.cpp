@@ -51,6 +51,14 @@ struct Requests : ScopeTest {
         const std::string result = Call(first, "", call);
         return result + ", " + Call(second, "", call);
     }
+    static std::string ProposeTwo(MemoryFeature feature) {
+        ZFXISamAnalysisCase_var current;
+        ZFXListValZFXUnicodeString names;
+        const std::string result = Call(feature, "P-", [&](auto& handle, auto& base) {
+            return Util::GetUniqueNames(base, handle, current, 2, names);
+        });
+        return result + (names.Size() == 2 ? "|" + Narrow(names[1]) + "|" + Narrow(names[2]) : "");
+    }
     std::string InSet() {
         const auto scope = MakeList({bolt, step, twin});
         return Call(bolt, "", [&](auto& handle, auto& name) { return Util::IsNameUniqueInSet(handle, scope, name); });
@@ -87,6 +95,9 @@ const Operation kOperations[] = {
     {"GetUniqueName, a step", [](Requests& d) { return Requests::Propose(d.step, "Step-", {}); }},
     {"GetUniqueName, a section", [](Requests& d) { return Requests::Propose(d.section, "P-", d.analysisCase); }},
     {"GetUniqueName, a load", [](Requests& d) { return Requests::Propose(d.load, "Load-", d.analysisCase); }},
+    {"GetUniqueNames, a step", [](Requests& d) { return Requests::ProposeTwo(d.step); }},
+    {"GetUniqueNames, a section", [](Requests& d) { return Requests::ProposeTwo(d.section); }},
+    {"GetUniqueNames, a load", [](Requests& d) { return Requests::ProposeTwo(d.load); }},
     {"GetGenericEnglishName", [](Requests& d) { return Requests::Call(d.section2, "x", std::bind_front(&I18N::GetGenericEnglishName, d.utils)); }},
     {"GetGenericEnglishFeatureName", [](Requests& d) { return d.Both(d.steel, d.steel2, &I18N::GetGenericEnglishFeatureName); }},
     {"GetFeatureName", [](Requests& d) { return d.Both(d.steel, d.steel2, &I18N::GetFeatureName); }},

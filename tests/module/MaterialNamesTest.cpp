@@ -1,5 +1,8 @@
 #include "support/SingletonTest.h"
 
+#include <random>
+#include <tuple>
+
 namespace {
 
 struct MaterialNamesTest : SingletonTest {
@@ -28,6 +31,40 @@ TEST_F(MaterialNamesTest, NumberIsTheCountOfEarlierMaterialsWithTheName) {
     EXPECT_EQ(NameBy(kMaterial, byAlias), "E_FAIL|Steel") << "a listed material gets its name without a number";
     EXPECT_EQ(NameBy(kMaterial, Material("New")), "E_FAIL|before");
     EXPECT_EQ(NameBy(kMaterial, steel), "Iron-2") << "no material is before it";
+}
+
+/// Names random materials, some of them twice and some without a name, at once and one after the other.
+TEST_F(MaterialNamesTest, BatchEqualsSingleCalls) {
+    std::mt19937 random(7);
+    for (int run = 0; run < 200; ++run) {
+        utils->ResetAllLists();
+        std::vector<MemoryFeature> materials{MemoryFeature(), set.Feature("T", "A").Without(IID_ZFXIAlias)};
+        for (int i = 0; i < 6; ++i)
+            materials.push_back(Material(random() % 2 == 0 ? "A" : "B.1"));
+        const std::size_t first = run % 4 == 0 ? 0 : 2; // in one of four runs, some materials have no name
+        ZFXListValZFXISpecObject_var list;
+        for (int i = 0; i < 9; ++i)
+            list.Append(materials[first + random() % (materials.size() - first)]);
+        for (std::size_t known = random() % 3; known > 0; --known)
+            std::ignore = NameBy(kMaterial, materials[1 + known]);
+        if (run % 4 == 1) // a known material loses its name
+            materials[2].Without(IID_ZFXIMaterialFeature).Without(IID_ZFXIAlias);
+        QVRGenI18NUtils single(*utils);
+        ZFXListValZFXUnicodeString names;
+        const HRESULT code = utils->GetMaterialNames(list, names);
+        ASSERT_EQ(names.Size(), list.Size());
+        HRESULT expectedCode = S_OK;
+        for (int i = 1; i <= list.Size(); ++i) {
+            ZFXUnicodeString expected;
+            if (Failed(single.GetMaterialName(list[i], expected)))
+                expectedCode = E_FAIL;
+            EXPECT_EQ(names[i], expected) << "run " << run << ", material " << i;
+        }
+        EXPECT_EQ(code, expectedCode) << "run " << run;
+        ZFXUnicodeString next;
+        std::ignore = single.GetGenericEnglishMaterialName(ZFXISpecObject_var(set), next);
+        EXPECT_EQ(NameBy(kGenericMaterial, set), Narrow(next)) << "as many materials are known";
+    }
 }
 
 } // namespace

@@ -2,13 +2,24 @@
 
 #include "QVRNameUtil.h"
 
-#include "analysis/QVRIStep.h"
 #include "analysis/WorkbenchUtilities.h"
 #include "analysis/ZFXIAlias.h"
 #include "internal/InputErrors.h"
 #include "internal/NameDecisions.h"
 
 #include <tuple>
+
+namespace {
+
+/// Returns the case, or the current case if the handle is empty. Returns an empty handle if there is no case.
+ZFXISamAnalysisCase_var ThisOrCurrent(const ZFXISamAnalysisCase_var& analysisCase) {
+    ZFXISamAnalysisCase_var current;
+    if (analysisCase != nullptr)
+        return analysisCase;
+    return Failed(QVRStepUtils::GetCurrentAnalysisCaseSP(current, nullptr)) ? ZFXISamAnalysisCase_var() : current;
+}
+
+} // namespace
 
 QVRNameUtil::QVRNameUtil() = default;
 QVRNameUtil::QVRNameUtil(const QVRNameUtil& other) = default;
@@ -47,16 +58,44 @@ void QVRNameUtil::GetUniqueName(ZFXUnicodeString& name, ZFXISpecObject_var& feat
                                 ZFXISamAnalysisCase_var& analysisCase) noexcept {
     if (feature == nullptr)
         return;
-    ZFXISamAnalysisCase_var scopeCase(analysisCase);
-    if (scopeCase == nullptr &&
-        (Failed(QVRStepUtils::GetCurrentAnalysisCaseSP(scopeCase, nullptr)) || scopeCase == nullptr))
+    ZFXISamAnalysisCase_var scopeCase = ThisOrCurrent(analysisCase);
+    if (scopeCase == nullptr)
         return;
     // The operation returns no code. Each failure below leaves the name unchanged.
-    if (QVRIStep_var(feature) != nullptr)
+    switch (NameScopes::ProposalKindOf(feature)) {
+    case NameScopes::ProposalKind::Step:
         std::ignore = GetUniqueNameForStep(name, scopeCase);
-    else if (QVRAnalysisEntityUtils::IsObjectAProperty(feature) != 0 ||
-             QVRAnalysisEntityUtils::IsObjectAnAmplitude(feature) != 0)
+        break;
+    case NameScopes::ProposalKind::Property:
         std::ignore = GetUniqueNameForProperty(name, scopeCase);
-    else
+        break;
+    case NameScopes::ProposalKind::PropagatingObject:
         std::ignore = GetUniqueNameForPropagatingObject(name, feature, scopeCase);
+        break;
+    }
+}
+
+HRESULT QVRNameUtil::GetUniqueNames(const ZFXUnicodeString& name, ZFXISpecObject_var& feature,
+                                    ZFXISamAnalysisCase_var& analysisCase, int count,
+                                    ZFXListValZFXUnicodeString& names) noexcept {
+    if (count < 1 || feature == nullptr)
+        return E_FAIL;
+    ZFXISamAnalysisCase_var scopeCase = ThisOrCurrent(analysisCase);
+    if (scopeCase == nullptr)
+        return E_FAIL;
+    ZFXListValZFXBaseUnknown_var scope;
+    HRESULT code = S_OK;
+    switch (NameScopes::ProposalKindOf(feature)) {
+    case NameScopes::ProposalKind::Step:
+        code = Raise(NameScopes::AppendNumberedSteps(scopeCase, scope));
+        break;
+    case NameScopes::ProposalKind::Property:
+        code = Raise(NameScopes::AppendProperties(scopeCase, scope));
+        break;
+    case NameScopes::ProposalKind::PropagatingObject:
+        code = GetAllPropagatingObjects(scopeCase, scope, feature);
+        break;
+    }
+    ZFXUnicodeString base(name);
+    return Failed(code) ? code : GetNextUniqueNames(base, scope, count, names);
 }

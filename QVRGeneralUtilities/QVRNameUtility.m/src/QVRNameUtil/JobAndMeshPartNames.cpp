@@ -1,11 +1,7 @@
 #include "QVRNameUtil.h"
 
-#include "analysis/WorkbenchUtilities.h"
-#include "analysis/ZFXILinkableObject.h"
 #include "errors/ZFXError.h"
-#include "internal/InputErrors.h"
 #include "internal/NameScopes.h"
-#include "internal/Navigation.h"
 #include "internal/Numbering.h"
 #include "internal/ScopeNames.h"
 #include "internal/Vocabulary.h"
@@ -43,17 +39,10 @@ HRESULT QVRNameUtil::IsUniqueNameForJob(const ZFXISpecObject_var& job, const ZFX
 }
 
 HRESULT QVRNameUtil::GetUniqueNameForMeshPart(ZFXISpecObject_var& meshPart, ZFXUnicodeString& name) noexcept {
-    const ZFXILinkableObject_var linkable(meshPart);
-    const ZFXDocument* document = linkable == nullptr ? nullptr : linkable->GetOwningDocument();
-    if (document == nullptr)
-        return InputErrorReturn(MessageId::MeshPartUniqueNameERR);
-    ZFXIMSHMeshManager_var manager;
-    if (Failed(QVRAnalysisDocUtils::GetMeshManager(manager, document)))
-        return InputErrorReturn(MessageId::MeshPartUniqueNameERR);
-    const ZFXISamAnalysisSet_var set(manager);
-    ZFXListValZFXBaseUnknown_var scope;
-    if (set == nullptr || Failed(Navigation::AppendMembers(set, scope)))
-        return InputErrorReturn(MessageId::MeshPartUniqueNameERR);
-    std::ignore = GetNextUniqueName(name, scope); // always S_OK
+    ZFXListValZFXBaseUnknown_var meshParts;
+    const HRESULT code = Raise(NameScopes::AppendMeshParts(meshPart, meshParts));
+    if (Failed(code))
+        return code;
+    std::ignore = GetNextUniqueName(name, meshParts); // always S_OK
     return ZFXError::GetReturn(ZFXErrorTypeSuccess, nullptr, nullptr, __FILE__, __LINE__);
 }

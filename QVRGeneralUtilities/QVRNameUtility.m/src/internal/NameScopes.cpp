@@ -225,14 +225,6 @@ Decision CompareWith(const Scope& scope, const ListStep& listStep, const Compare
                       scope);
 }
 
-ZFXListValZFXISpecObject_var AllJobs() {
-    List cases;
-    std::ignore = QVRAnalysisDocUtils::GetAllAnalysisCases(cases, nullptr); // the list counts, not the code
-    ZFXListValZFXISpecObject_var jobs;
-    std::ignore = QVRAnalysisDocUtils::GetJobs(cases, jobs); // the list counts, not the code
-    return jobs;
-}
-
 Decision ComparisonFailed(const Scope& scope, MessageId comparison, const ZFXBaseUnknown_var& other) {
     if (std::holds_alternative<Steps>(scope)) {
         const bool isClash = comparison == MessageId::DuplicateNameERR_02;
@@ -246,6 +238,73 @@ Decision ComparisonFailed(const Scope& scope, MessageId comparison, const ZFXBas
     if (std::holds_alternative<JobsOfDocument>(scope))
         return {.rule = MessageId::DuplicateNameERR_03, .other = other};
     return {.rule = comparison, .other = other};
+}
+
+ProposalKind ProposalKindOf(ZFXISpecObject_var& feature) {
+    if (QVRIStep_var(feature) != nullptr)
+        return ProposalKind::Step;
+    return QVRAnalysisEntityUtils::IsObjectAProperty(feature) != 0 ||
+                   QVRAnalysisEntityUtils::IsObjectAnAmplitude(feature) != 0
+               ? ProposalKind::Property
+               : ProposalKind::PropagatingObject;
+}
+
+Decision AppendNumberedSteps(ZFXISamAnalysisCase_var& analysisCase, List& features) {
+    if (analysisCase == nullptr)
+        return Decision::Broken(MessageId::AnalysisCaseERR_01);
+    if (QVRAnalysisDocUtils::IsTarnisAnalysisCase(analysisCase) == 0)
+        return Decision::Broken(MessageId::AnalysisCaseERR_02);
+    const auto [outcome, history] = Navigation::SimulationHistoryOf(analysisCase);
+    if (outcome != Navigation::HistoryOutcome::Found)
+        return Decision::Broken(MessageId::AnalysisCaseERR_03);
+    List steps;
+    const HRESULT code = history->ListChildren(steps, ZFXISamAnalysisScan::kScanMode);
+    if (Failed(code))
+        return {.code = code};
+    for (int i = 2; i <= steps.Size(); ++i) // the numbering skips the first child of a history
+        features.Append(steps[i]);
+    return {};
+}
+
+Decision AppendProperties(const ZFXISamAnalysisCase_var& analysisCase, List& features) {
+    const ZFXILinkableObject_var linkable(analysisCase);
+    if (linkable == nullptr)
+        return Decision::Broken(MessageId::AnalysisCaseERR_01);
+    const ZFXDocument* document = linkable->GetOwningDocument();
+    if (document == nullptr)
+        return Decision::Broken(MessageId::DocumentERR_01);
+    ZFXISamAnalysisModel_var model;
+    if (Failed(QVRAnalysisDocUtils::GetAnalysisModel(model, document)))
+        return Decision::Broken(MessageId::ErrorAnalysisModelErr_0004);
+    const ZFXISamAnalysisScan_var scan(model);
+    List found;
+    if (scan != nullptr) // the list counts, not the code
+        std::ignore =
+            scan->FindObjectsOfType(Vocabulary::QVRTarnisPropertySetLT, found, ZFXISamAnalysisScan::kScanMode);
+    const ZFXISamAnalysisSet_var propertySet(found.Size() == 0 ? ZFXBaseUnknown_var() : found[1]);
+    if (propertySet == nullptr || Failed(Navigation::AppendMembers(propertySet, features)))
+        return Decision::Broken(MessageId::PropertySetERR_01);
+    return {};
+}
+
+Decision AppendMeshParts(const ZFXISpecObject_var& meshPart, List& features) {
+    const ZFXILinkableObject_var linkable(meshPart);
+    const ZFXDocument* document = linkable == nullptr ? nullptr : linkable->GetOwningDocument();
+    ZFXIMSHMeshManager_var manager;
+    if (document == nullptr || Failed(QVRAnalysisDocUtils::GetMeshManager(manager, document)))
+        return Decision::Broken(MessageId::MeshPartUniqueNameERR);
+    const ZFXISamAnalysisSet_var set(manager);
+    if (set == nullptr || Failed(Navigation::AppendMembers(set, features)))
+        return Decision::Broken(MessageId::MeshPartUniqueNameERR);
+    return {};
+}
+
+ZFXListValZFXISpecObject_var AllJobs() {
+    List cases;
+    std::ignore = QVRAnalysisDocUtils::GetAllAnalysisCases(cases, nullptr); // the list counts, not the code
+    ZFXListValZFXISpecObject_var jobs;
+    std::ignore = QVRAnalysisDocUtils::GetJobs(cases, jobs); // the list counts, not the code
+    return jobs;
 }
 
 } // namespace NameScopes

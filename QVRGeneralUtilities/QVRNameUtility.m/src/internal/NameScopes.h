@@ -10,9 +10,11 @@
 #include <optional>
 #include <variant>
 
-/// The scopes of names: which features a name is compared with. Nothing here registers an error or prints: a failure is
-/// part of the result.
+/// The scopes of names: which features a name is compared with, and which names are counted for a proposal. Nothing
+/// here registers an error or prints: a failure is part of the result.
 namespace NameScopes {
+
+// ---- Checks: the features that a name is compared with ----
 
 /// The steps of a simulation history.
 struct Steps {
@@ -73,11 +75,25 @@ using Compare = std::function<Decision(const ZFXListValZFXBaseUnknown_var& featu
 /// @param listStep  lists the features of one step for Propagating
 Decision CompareWith(const Scope& scope, const ListStep& listStep, const Compare& compare);
 
-/// Returns every job of every case of the current document. Skips cases and jobs that cannot be listed.
-[[nodiscard]] ZFXListValZFXISpecObject_var AllJobs();
-
 /// Returns the decision about a name for which the comparison with a feature of the scope failed.
 /// @param comparison  "DuplicateNameERR_02" for a clash, "ZFXIAliasERR_01" for a feature without a name
 Decision ComparisonFailed(const Scope& scope, MessageId comparison, const ZFXBaseUnknown_var& other);
+
+// ---- Proposals: the features whose names are counted ----
+
+enum class ProposalKind { Step, Property, PropagatingObject };
+/// Returns the kind of scope that a proposal for a feature has. Amplitudes are properties.
+[[nodiscard]] ProposalKind ProposalKindOf(ZFXISpecObject_var& feature);
+
+/// Appends the steps of a case except the first.
+[[nodiscard]] Decision AppendNumberedSteps(ZFXISamAnalysisCase_var& analysisCase,
+                                           ZFXListValZFXBaseUnknown_var& features);
+/// Appends the members of the property set in the document of a case.
+[[nodiscard]] Decision AppendProperties(const ZFXISamAnalysisCase_var& analysisCase,
+                                        ZFXListValZFXBaseUnknown_var& features);
+/// Appends the mesh parts in the document of a mesh part.
+[[nodiscard]] Decision AppendMeshParts(const ZFXISpecObject_var& meshPart, ZFXListValZFXBaseUnknown_var& features);
+/// Returns every job of every case of the current document. Skips cases and jobs that cannot be listed.
+[[nodiscard]] ZFXListValZFXISpecObject_var AllJobs();
 
 } // namespace NameScopes
