@@ -4,7 +4,16 @@
 
 #include "analysis/ZFXIMSHMeshPart.h"
 #include "base/ZFXResult.h"
+#include "collections/ZFXListVal.h"
+#include "object-model/ZFXHandle.h"
 #include "text/ZFXUnicodeString.h"
+
+/// The names of a mesh part in the solver deck.
+struct QVRMeshPartNames {
+    HRESULT code = S_OK; ///< the result of GetUniqueLegalInstanceName; after a failure, both names are empty
+    ZFXUnicodeString instanceName;
+    ZFXUnicodeString partName;
+};
 
 /// Builds the names that a mesh part has in the solver deck. Only the integer tag of the part makes them unique: they
 /// are not compared with other names. One thread at a time uses the class. No operation throws an exception.
@@ -28,6 +37,11 @@ public:
     /// - "GetGenericEnglishNameERR_01": a unit is above U+00FF, and GetGenericEnglishName failed.
     static HRESULT GetUniqueLegalInstanceName(const ZFXIMSHMeshPart_var& meshPart, ZFXUnicodeString& instanceName,
                                               ZFXUnicodeString& partName) noexcept;
+
+    /// Appends to `names` the results of GetUniqueLegalInstanceName for each of the mesh parts, in their order. Always
+    /// returns S_OK. The time is linear in the number of mesh parts and of the members of their fathers.
+    static HRESULT GetUniqueLegalInstanceNames(const ZFXListVal<ZFXIMSHMeshPart_var>& meshParts,
+                                               ZFXListVal<QVRMeshPartNames>& names) noexcept;
 
     /// Sets `tag` to the integer between the first "INSTANCE" (upper case) in `name` and the next "-" or the end. If no
     /// int, as "%d" reads it, follows "INSTANCE", leaves `tag` unchanged and returns S_OK.

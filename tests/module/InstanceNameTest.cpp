@@ -27,6 +27,26 @@ TEST_F(InstanceNameTest, IsFormedFromTheTagAndTheCleanedDisplayName) {
     EXPECT_EQ(both, "Part5-B");
 }
 
+TEST_F(InstanceNameTest, BatchEqualsSingleCalls) {
+    ZFXListVal<ZFXIMSHMeshPart_var> parts;
+    parts.Append({});
+    for (const char* display : {"Bracket", "部品", "部品", "OrphanMesh-", "軸"})
+        parts.Append(ZFXIMSHMeshPart_var(document.MeshPart(display, parts.Size())));
+    parts.Append(ZFXIMSHMeshPart_var(document.MeshPart("x", 9).Without(IID_ZFXIAlias)));
+    parts.Append(ZFXIMSHMeshPart_var(document.Model().Add(MemoryKind::MeshPart, "T", "孤")));
+    ZFXListVal<QVRMeshPartNames> names;
+    EXPECT_EQ(QVRGenInstanceName::GetUniqueLegalInstanceNames(parts, names), S_OK);
+    ASSERT_EQ(names.Size(), parts.Size());
+    for (int i = 1; i <= parts.Size(); ++i) {
+        ZFXUnicodeString instance;
+        ZFXUnicodeString part;
+        const HRESULT code = QVRGenInstanceName::GetUniqueLegalInstanceName(parts[i], instance, part);
+        EXPECT_EQ(ResultText(names[i].code), ResultText(code)) << i;
+        EXPECT_EQ(names[i].instanceName, instance) << i;
+        EXPECT_EQ(names[i].partName, part) << i;
+    }
+}
+
 TEST_F(InstanceNameTest, ContainsTheTag) {
     const auto tagOf = [](const char* name) {
         int tag = 77;

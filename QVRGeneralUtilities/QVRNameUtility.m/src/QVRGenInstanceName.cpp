@@ -1,13 +1,14 @@
 #include "QVRGenInstanceName.h"
 
-#include "QVRGenI18NUtils.h"
 #include "QVRGenZFXUnicodeStringUtils.h"
 #include "QVRNameUtil.h"
 #include "analysis/ZFXIAlias.h"
 #include "analysis/ZFXISamExplicit.h"
+#include "internal/GenericEnglishNames.h"
 #include "internal/Numbering.h"
 
 #include <tuple>
+#include <utility>
 
 namespace {
 
@@ -60,13 +61,8 @@ ZFXUnicodeString DeckName(const char* word, int tag, const ZFXUnicodeString& bas
     return Utils::TrucateToLegalLength(name);
 }
 
-} // namespace
-
-QVRGenInstanceName& QVRGenInstanceName::operator=(const QVRGenInstanceName&) = default;
-
-HRESULT QVRGenInstanceName::GetUniqueLegalInstanceName(const ZFXIMSHMeshPart_var& meshPart,
-                                                       ZFXUnicodeString& instanceName,
-                                                       ZFXUnicodeString& partName) noexcept {
+HRESULT SetDeckNames(const ZFXIMSHMeshPart_var& meshPart, GenericEnglishNames& genericNames,
+                     ZFXUnicodeString& instanceName, ZFXUnicodeString& partName) {
     int tag = 0;
     const HRESULT tagged = ReadTag(meshPart, tag);
     if (Failed(tagged))
@@ -82,7 +78,7 @@ HRESULT QVRGenInstanceName::GetUniqueLegalInstanceName(const ZFXIMSHMeshPart_var
     ZFXUnicodeString base;
     ZFXUnicodeString offending;
     if (Failed(QVRNameUtil::DoesNameContainDoubleByteChar(display, offending))) {
-        const HRESULT code = QVRGenI18NUtils::Instance()->GetGenericEnglishName(ZFXISpecObject_var(meshPart), base);
+        const HRESULT code = genericNames.Of(ZFXISpecObject_var(meshPart), base);
         if (Failed(code))
             return code;
     } else {
@@ -91,6 +87,29 @@ HRESULT QVRGenInstanceName::GetUniqueLegalInstanceName(const ZFXIMSHMeshPart_var
     base = CleanedName(base);
     instanceName = DeckName("Instance", tag, base);
     partName = DeckName("Part", tag, base);
+    return S_OK;
+}
+
+} // namespace
+
+QVRGenInstanceName& QVRGenInstanceName::operator=(const QVRGenInstanceName&) = default;
+
+HRESULT QVRGenInstanceName::GetUniqueLegalInstanceName(const ZFXIMSHMeshPart_var& meshPart,
+                                                       ZFXUnicodeString& instanceName,
+                                                       ZFXUnicodeString& partName) noexcept {
+    GenericEnglishNames genericNames;
+    return SetDeckNames(meshPart, genericNames, instanceName, partName);
+}
+
+HRESULT QVRGenInstanceName::GetUniqueLegalInstanceNames(const ZFXListVal<ZFXIMSHMeshPart_var>& meshParts,
+                                                        ZFXListVal<QVRMeshPartNames>& names) noexcept {
+    GenericEnglishNames genericNames;
+    names.Reserve(names.Size() + meshParts.Size());
+    for (const ZFXIMSHMeshPart_var& meshPart : meshParts) {
+        QVRMeshPartNames row;
+        row.code = SetDeckNames(meshPart, genericNames, row.instanceName, row.partName);
+        names.Append(std::move(row));
+    }
     return S_OK;
 }
 

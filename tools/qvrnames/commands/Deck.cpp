@@ -6,9 +6,12 @@
 #include "QVRNameUtil.h"
 
 #include <tuple>
+#include <utility>
 
 namespace {
 
+using Features = ZFXListValZFXISpecObject_var;
+/// The names of one object, in the order of the columns of its section.
 using Names = std::vector<std::optional<std::string>>;
 
 /// Returns the text if the operation that set it succeeded, else nothing.
@@ -45,21 +48,32 @@ std::optional<std::string> TagIn(const ZFXUnicodeString& instance) {
     return std::to_string(tag);
 }
 
-Names MeshPartNames(const ZFXISpecObject_var& feature) {
-    ZFXUnicodeString instance;
-    ZFXUnicodeString part;
-    const HRESULT named = QVRGenInstanceName::GetUniqueLegalInstanceName(feature, instance, part);
-    return {DisplayName(feature), ValueIf(named, instance), ValueIf(named, part),
-            Failed(named) ? std::nullopt : TagIn(instance)};
+std::vector<Names> MeshPartNames(const Features& features) {
+    ZFXListVal<ZFXIMSHMeshPart_var> meshParts;
+    for (const ZFXISpecObject_var& feature : features)
+        meshParts.Append(ZFXIMSHMeshPart_var(feature));
+    ZFXListVal<QVRMeshPartNames> names;
+    std::ignore = QVRGenInstanceName::GetUniqueLegalInstanceNames(meshParts, names); // always S_OK
+    std::vector<Names> rows;
+    for (int i = 1; i <= features.Size(); ++i) {
+        const auto& [code, instance, part] = names[i];
+        rows.push_back({DisplayName(features[i]), ValueIf(code, instance), ValueIf(code, part),
+                        Failed(code) ? std::nullopt : TagIn(instance)});
+    }
+    return rows;
 }
 
-Names MaterialNames(const ZFXISpecObject_var& feature) {
+std::vector<Names> MaterialNames(const Features& materials) {
     QVRGenI18NUtils* english = QVRGenI18NUtils::Instance();
-    ZFXUnicodeString name;
-    ZFXUnicodeString generic;
-    const HRESULT named = english->GetMaterialName(feature, name);
-    const HRESULT generated = english->GetGenericEnglishMaterialName(feature, generic);
-    return {DisplayName(feature), ValueIf(named, name), ValueIf(generated, generic)};
+    ZFXListValZFXUnicodeString names;
+    const HRESULT named = english->GetMaterialNames(materials, names); // each object of the section has a name
+    std::vector<Names> rows;
+    for (int i = 1; i <= materials.Size(); ++i) {
+        ZFXUnicodeString generic;
+        const HRESULT generated = english->GetGenericEnglishMaterialName(materials[i], generic);
+        rows.push_back({DisplayName(materials[i]), ValueIf(named, names[i]), ValueIf(generated, generic)});
+    }
+    return rows;
 }
 
 /// Returns nothing if the name is empty: the group is ambiguous or has no legal name.
@@ -84,6 +98,15 @@ Names DesignNames(const ZFXISpecObject_var& feature) {
 
 Names JobNames(const ZFXISpecObject_var& feature) { return {DisplayName(feature)}; }
 
+/// Names the objects of a section one after the other.
+template <Names (*namesOf)(const ZFXISpecObject_var& feature)>
+std::vector<Names> Each(const Features& features) {
+    std::vector<Names> rows;
+    for (const ZFXISpecObject_var& feature : features)
+        rows.push_back(namesOf(feature));
+    return rows;
+}
+
 template <class Interface>
 bool Offers(const ZFXISpecObject_var& feature) {
     return Interface(feature) != nullptr;
@@ -95,8 +118,8 @@ bool IsJob(const ZFXISpecObject_var& feature) { return feature->GetLateType() ==
 struct SectionType {
     const char* title;
     const char* key;
-    bool (*matches)(const ZFXISpecObject_var& feature);  ///< null: every object that matches no other section
-    Names (*namesOf)(const ZFXISpecObject_var& feature); ///< in the order of the columns
+    bool (*matches)(const ZFXISpecObject_var& feature); ///< null: every object that matches no other section
+    std::vector<Names> (*namesOf)(const Features& features);
     std::vector<DeckColumn> columns;
 };
 
@@ -108,7 +131,7 @@ const std::vector<SectionType>& SectionTypes() {
         {"FEATURE",
          "features",
          nullptr,
-         FeatureNames,
+         Each<FeatureNames>,
          {kDisplay, {"SOLVER NAME", "solverName", true}, {"GENERIC NAME", "genericName", false}}},
         {"MESH PART",
          "meshParts",
@@ -123,14 +146,14 @@ const std::vector<SectionType>& SectionTypes() {
         {"SUPPORT",
          "supports",
          Offers<ZFXISamAnalysisSupport_var>,
-         SupportNames,
+         Each<SupportNames>,
          {kDisplay, {"GROUP", "group", false}}},
         {"CONNECTION DESIGN",
          "connectionDesigns",
          Offers<QVRISamAnalysisConnectionDesign_var>,
-         DesignNames,
+         Each<DesignNames>,
          {kDisplay, {"MASTER GROUP", "masterGroup", false}, {"SLAVE GROUP", "slaveGroup", false}}},
-        {"JOB", "jobs", IsJob, JobNames, {{"NAME", "name", true}}},
+        {"JOB", "jobs", IsJob, Each<JobNames>, {{"NAME", "name", true}}},
     };
     return types;
 }
@@ -162,13 +185,20 @@ std::vector<DeckSection> BuildDeck(const LoadedDocument& loaded) {
     std::vector<DeckSection> deck;
     for (const SectionType& type : SectionTypes())
         deck.push_back({type.title, type.key, type.columns, {}});
-    QVRGenI18NUtils::Instance()->ResetAllLists();
+    std::vector<Features> featuresOf(deck.size());
     for (std::uint32_t entry = 0; entry < loaded.entries.size(); ++entry) {
         const ZFXISpecObject_var feature = loaded.entries[entry].feature;
         if (!IsInDeck(loaded.entries[entry], feature))
             continue;
         const std::size_t section = SectionOf(feature);
-        deck[section].rows.push_back({entry, SectionTypes()[section].namesOf(feature)});
+        deck[section].rows.push_back({entry, {}});
+        featuresOf[section].Append(feature);
+    }
+    QVRGenI18NUtils::Instance()->ResetAllLists();
+    for (std::size_t section = 0; section < deck.size(); ++section) {
+        std::vector<Names> names = SectionTypes()[section].namesOf(featuresOf[section]);
+        for (std::size_t row = 0; row < names.size(); ++row)
+            deck[section].rows[row].names = std::move(names[row]);
     }
     QVRGenI18NUtils::Instance()->ResetAllLists();
     return deck;

@@ -3,22 +3,11 @@
 #include "QVRGenI18NUtils/Index.h"
 #include "QVRGenZFXUnicodeStringUtils.h"
 #include "analysis/ZFXIAlias.h"
-#include "analysis/ZFXISamAnalysisSet.h"
-#include "internal/InputErrors.h"
+#include "internal/GenericEnglishNames.h"
 #include "internal/Numbering.h"
 
 HRESULT QVRGenI18NUtils::GetGenericEnglishName(const ZFXISpecObject_var& feature, ZFXUnicodeString& name) noexcept {
-    if (feature == nullptr)
-        return InputErrorReturn(MessageId::GetGenericEnglishNameERR_01);
-    const ZFXISamAnalysisSet_var set(ZFXBaseUnknown_var::Attach(feature->GetFather()));
-    ZFXListValZFXISpecObject_var members;
-    if (set == nullptr || Failed(set->ListMembers(members, CLSID_ZFXBaseUnknown, ZFXISamAnalysisSet::kMemberFlag)))
-        return InputErrorReturn(MessageId::GetGenericEnglishNameERR_01);
-    const int position = members.Locate(feature, 1);
-    if (position == 0)
-        return InputErrorReturn(MessageId::GetGenericEnglishNameERR_01);
-    name = Numbering::NumberedName(feature->GetLateType() + "-", position);
-    return S_OK;
+    return GenericEnglishNames().Of(feature, name);
 }
 
 HRESULT QVRGenI18NUtils::GetGenericEnglishFeatureName(const ZFXISpecObject_var& feature,
