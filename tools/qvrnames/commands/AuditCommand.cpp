@@ -10,19 +10,10 @@
 
 #include <nlohmann/json.hpp>
 
-#include <optional>
 #include <ostream>
 #include <tuple>
 
 namespace {
-
-struct Finding {
-    std::uint32_t entry;
-    std::string name;
-    Verdict verdict;
-    std::optional<std::uint32_t> other = {}; ///< the entry that the name clashes with
-    std::string deckColumn = {};             ///< the column of a name in the deck; empty for the name of the feature
-};
 
 struct Findings {
     std::size_t checked = 0;       ///< number of features
@@ -32,19 +23,16 @@ struct Findings {
 
 /// Returns the findings about the stored names of the named entries, in document order.
 std::vector<Finding> CheckEntries(const LoadedDocument& loaded, const std::vector<std::uint32_t>& named) {
-    const auto entryOf = EntriesByObject(loaded);
+    const EntriesByObject entryOf = IndexByObject(loaded);
     ZFXListValZFXISpecObject_var features;
     for (const std::uint32_t entry : named)
         features.Append(loaded.entries[entry].feature);
     ZFXListVal<QVRNameFinding> found;
     std::ignore = QVRNameUtil::CheckNames(features, found); // always S_OK
     std::vector<Finding> findings;
-    for (const QVRNameFinding& finding : found) {
+    for (const QVRNameFinding& finding : found)
         findings.push_back(
-            {entryOf.at(ZFXIdentityOf(finding.feature)), finding.name.ConvertToChar(), VerdictOf(finding)});
-        if (const auto other = entryOf.find(ZFXIdentityOf(finding.other)); other != entryOf.end())
-            findings.back().other = other->second;
-    }
+            {entryOf.at(ZFXIdentityOf(finding.feature)), finding.name.ConvertToChar(), VerdictOf(finding, entryOf)});
     return findings;
 }
 
@@ -63,7 +51,7 @@ void PrintFindings(const LoadedDocument& loaded, const Findings& findings, bool 
                                   {(finding.name.empty() ? "\"\"" : Printable(finding.name)) +
                                    (finding.deckColumn.empty() ? "" : "  (deck, " + finding.deckColumn + ")")},
                                   {finding.verdict.messageId.empty() ? "-" : finding.verdict.messageId, Style::Refusal},
-                                  {finding.other ? Printable(DisplayPath(loaded, *finding.other)) : ""},
+                                  {finding.verdict.other ? Printable(DisplayPath(loaded, *finding.verdict.other)) : ""},
                                   {Printable(finding.verdict.message)}});
     if (!table.rows.empty()) {
         PrintTable(out, table, console.screen);
@@ -86,11 +74,8 @@ nlohmann::ordered_json AsJson(const LoadedDocument& loaded, const std::vector<Fi
                         {"line", position.line},
                         {"column", position.column},
                         {"type", feature.LateType().ConvertToChar()},
-                        {"name", finding.name},
-                        {"messageId", finding.verdict.messageId},
-                        {"message", finding.verdict.message}});
-        if (finding.other)
-            list.back()["other"] = ReferenceTo(loaded, *finding.other);
+                        {"name", finding.name}});
+        AddVerdict(list.back(), loaded, finding.verdict);
         if (!finding.deckColumn.empty())
             list.back()["deck"] = finding.deckColumn;
     }
@@ -104,9 +89,7 @@ int AuditDocument(const AuditRequest& request, Console console) {
     const std::vector<std::uint32_t> named = NamedEntries(*loaded);
     Findings findings{named.size(), CheckEntries(*loaded, named), {}};
     if (request.withDeck)
-        for (DeckFinding& finding : CheckDeck(BuildDeck(*loaded), *loaded))
-            findings.deck.push_back(
-                {finding.entry, finding.name, std::move(finding.verdict), finding.other, std::move(finding.column)});
+        findings.deck = CheckDeck(BuildDeck(*loaded), *loaded);
     if (console.isJson) {
         nlohmann::ordered_json json{{"featuresChecked", findings.checked},
                                     {"refusals", AsJson(*loaded, findings.refusals)}};

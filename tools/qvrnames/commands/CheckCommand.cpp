@@ -1,6 +1,5 @@
 #include "ExitCode.h"
 #include "commands/Commands.h"
-#include "commands/NameChecks.h"
 #include "terminal/DisplayWidth.h"
 #include "terminal/Table.h"
 

@@ -4,6 +4,7 @@
 #include "document/FeaturePaths.h"
 #include "files/FileErrors.h"
 #include "files/WholeFile.h"
+#include "terminal/DisplayWidth.h"
 
 #include <nlohmann/json.hpp>
 
@@ -36,8 +37,19 @@ ZFXUnicodeString ToUnicode(const std::string& argument) {
     return text;
 }
 
-nlohmann::ordered_json ReferenceTo(const LoadedDocument& loaded, std::uint32_t entry) {
-    return {{"feature", DisplayPath(loaded, entry)}, {"pointer", PointerOf(loaded, entry)}};
+std::string ReasonOf(const LoadedDocument& loaded, const Verdict& verdict) {
+    return Printable(verdict.message +
+                     (verdict.other ? " The other feature is " + DisplayPath(loaded, *verdict.other) + "." : ""));
+}
+
+void AddVerdict(nlohmann::ordered_json& json, const LoadedDocument& loaded, const Verdict& verdict) {
+    if (!verdict.IsRefusal())
+        return;
+    json["messageId"] = verdict.messageId;
+    json["message"] = verdict.message;
+    if (verdict.other)
+        json["other"] = {{"feature", DisplayPath(loaded, *verdict.other)},
+                         {"pointer", PointerOf(loaded, *verdict.other)}};
 }
 
 std::string Counted(std::size_t count, const std::string& noun) {

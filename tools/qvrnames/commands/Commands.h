@@ -1,5 +1,6 @@
 #pragma once
 
+#include "commands/NameChecks.h"
 #include "document/LoadedDocument.h"
 #include "terminal/Terminal.h"
 
@@ -60,8 +61,10 @@ int RenameFeature(const RenameRequest& request, Console console);
                                         const std::string& reference);
 /// Converts an argument. Throws BadInput if it is not UTF-8.
 [[nodiscard]] ZFXUnicodeString ToUnicode(const std::string& argument);
-/// Returns the path and the JSON pointer of an object as JSON.
-[[nodiscard]] nlohmann::ordered_json ReferenceTo(const LoadedDocument& loaded, std::uint32_t entry);
+/// Returns the message of a refusal and, for a clash, the other feature.
+[[nodiscard]] std::string ReasonOf(const LoadedDocument& loaded, const Verdict& verdict);
+/// Adds the message of a refusal, its id and, for a clash, the other feature to a JSON object.
+void AddVerdict(nlohmann::ordered_json& json, const LoadedDocument& loaded, const Verdict& verdict);
 /// Returns "1 feature", "2 features".
 [[nodiscard]] std::string Counted(std::size_t count, const std::string& noun);
 void PrintJson(std::ostream& out, const nlohmann::ordered_json& value);

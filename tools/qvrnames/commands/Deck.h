@@ -33,14 +33,14 @@ struct DeckSection {
 /// depends on the document only.
 [[nodiscard]] std::vector<DeckSection> BuildDeck(const LoadedDocument& loaded);
 
-/// A name in the deck that breaks a rule of the solver or is used for two objects. The audit may accept the name of the
-/// object nevertheless, because the deck contains another form of it.
-struct DeckFinding {
+/// A rule that the name of an object breaks.
+struct Finding {
     std::uint32_t entry;
-    std::string column;
     std::string name;
     Verdict verdict;
-    std::optional<std::uint32_t> other; ///< the object that has the same name in the deck
+    std::string deckColumn = {}; ///< the column of a name in the deck; empty for the name of the feature
 };
-/// Returns the findings in the columns of deck names.
-[[nodiscard]] std::vector<DeckFinding> CheckDeck(const std::vector<DeckSection>& deck, const LoadedDocument& loaded);
+
+/// Returns the findings in the columns of deck names: names that break a rule of the solver or are used for two
+/// objects. The names of these objects may be legal nevertheless, because the deck contains another form of them.
+[[nodiscard]] std::vector<Finding> CheckDeck(const std::vector<DeckSection>& deck, const LoadedDocument& loaded);

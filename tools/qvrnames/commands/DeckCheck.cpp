@@ -54,26 +54,26 @@ private:
 
 /// Appends the findings in one column.
 void CheckColumn(const DeckSection& section, std::size_t column, const LoadedDocument& loaded,
-                 std::vector<DeckFinding>& findings) {
+                 std::vector<Finding>& findings) {
     UsedNames usedNames(loaded);
     for (const DeckRow& row : section.rows) {
         if (!row.names[column])
             continue;
         const std::string& name = *row.names[column];
-        const auto add = [&](Verdict verdict, std::optional<std::uint32_t> other = {}) {
-            findings.push_back({row.entry, section.columns[column].title, name, std::move(verdict), other});
+        const auto add = [&](Verdict verdict) {
+            findings.push_back({row.entry, name, std::move(verdict), section.columns[column].title});
         };
         if (Verdict textVerdict = CheckText(name.c_str()); textVerdict.IsRefusal())
             add(std::move(textVerdict));
         if (const auto other = usedNames.FindOwnerOrAdd(section, row.entry, name))
-            add({E_FAIL, {}, "The deck also uses this name for " + OtherPath(loaded, *other, row.entry) + "."}, other);
+            add({E_FAIL, {}, "The deck also uses this name for " + OtherPath(loaded, *other, row.entry) + ".", other});
     }
 }
 
 } // namespace
 
-std::vector<DeckFinding> CheckDeck(const std::vector<DeckSection>& deck, const LoadedDocument& loaded) {
-    std::vector<DeckFinding> findings;
+std::vector<Finding> CheckDeck(const std::vector<DeckSection>& deck, const LoadedDocument& loaded) {
+    std::vector<Finding> findings;
     for (const DeckSection& section : deck)
         for (std::size_t column = 0; column < section.columns.size(); ++column)
             if (section.columns[column].isDeckName)

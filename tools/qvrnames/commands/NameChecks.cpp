@@ -30,9 +30,12 @@ Verdict VerdictOf(HRESULT code, const char* operation, const char* requirement) 
     return FailedWithoutError(code, operation, requirement);
 }
 
-Verdict VerdictOf(const QVRNameFinding& finding) {
-    if (finding.messageId.IsNull() == 0)
-        return {E_FAIL, finding.messageId.ConvertToChar(), finding.Message().ConvertToChar()};
+Verdict VerdictOf(const QVRNameFinding& finding, const EntriesByObject& entries) {
+    if (finding.messageId.IsNull() == 0) {
+        const auto other = entries.find(ZFXIdentityOf(finding.other));
+        return {E_FAIL, finding.messageId.ConvertToChar(), finding.Message().ConvertToChar(),
+                other == entries.end() ? std::nullopt : std::optional(other->second)};
+    }
     const bool isJob = finding.feature != nullptr && finding.feature->GetLateType() == LateTypes::QVRJobLT;
     return isJob ? FailedWithoutError(finding.code, "IsNameUniqueAcrossCases", kJobRequirement)
                  : FailedWithoutError(finding.code, "CheckName", kScopeRequirement);

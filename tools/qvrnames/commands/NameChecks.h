@@ -1,9 +1,13 @@
 #pragma once
 
+#include "document/LoadedDocument.h"
+
 #include "QVRNameFinding.h"
 #include "base/ZFXResult.h"
 #include "text/ZFXUnicodeString.h"
 
+#include <cstdint>
+#include <optional>
 #include <string>
 
 /// The result of a check by the naming module.
@@ -11,6 +15,7 @@ struct Verdict {
     HRESULT code = S_OK;
     std::string messageId; ///< empty if the name is accepted, or if it is refused without a registered error
     std::string message;   ///< why the name is refused; empty if it is accepted
+    std::optional<std::uint32_t> other = {}; ///< the entry of the object that the name clashes with
 
     bool IsRefusal() const noexcept { return Failed(code); }
 };
@@ -27,4 +32,4 @@ struct Verdict {
 [[nodiscard]] Verdict CheckFileName(const ZFXUnicodeString& name);
 
 /// Returns the verdict for a finding of the naming module.
-[[nodiscard]] Verdict VerdictOf(const QVRNameFinding& finding);
+[[nodiscard]] Verdict VerdictOf(const QVRNameFinding& finding, const EntriesByObject& entries);

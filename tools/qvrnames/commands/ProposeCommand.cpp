@@ -6,13 +6,15 @@
 #include "terminal/Table.h"
 
 #include "LateTypes.h"
+#include "QVRBaseFeatureAlias.h"
 #include "QVRNameUtil.h"
 #include "analysis/WorkbenchUtilities.h"
 #include "analysis/ZFXIMSHMeshPart.h"
 
 #include <nlohmann/json.hpp>
 
-#include <ostream>
+#include <optional>
+#include <string>
 #include <tuple>
 
 namespace {
@@ -48,26 +50,54 @@ ZFXISamAnalysisCase_var CaseOf(const ZFXISpecObject_var& feature) {
     return parentCase;
 }
 
-/// Returns the next free name in the scope of the feature's kind, or the base name if none can be proposed. The scope
-/// of jobs and mesh parts is the whole document.
-ZFXUnicodeString NextName(ZFXISpecObject_var feature, const ZFXUnicodeString& base) {
-    ZFXUnicodeString name(base);
-    if (IsJob(feature)) {
-        std::ignore = QVRNameUtil::GetUniqueNameForJob(name);
-        return name;
-    }
+/// Sets `name` to the next free name in the scope of the feature's kind. The scope of jobs and mesh parts is the whole
+/// document.
+HRESULT SetNextName(ZFXISpecObject_var feature, const ZFXUnicodeString& base, ZFXUnicodeString& name) {
+    if (IsJob(feature))
+        return QVRNameUtil::GetUniqueNameForJob(name);
     if (ZFXIMSHMeshPart_var(feature) != nullptr) {
-        std::ignore = QVRNameUtil::GetUniqueNameForMeshPart(feature, name); // unchanged on failure
-        return name;
+        name = base;
+        return QVRNameUtil::GetUniqueNameForMeshPart(feature, name);
     }
     ZFXISamAnalysisCase_var analysisCase = CaseOf(feature);
-    QVRNameUtil::GetUniqueName(name, feature, analysisCase);
-    return name;
+    ZFXListValZFXUnicodeString names;
+    const HRESULT code = QVRNameUtil::GetUniqueNames(base, feature, analysisCase, 1, names);
+    if (!Failed(code))
+        name = names[1];
+    return code;
 }
 
-void PrintProposal(const std::string& base, const std::string& name, Console console) {
-    const Table table{{},
-                      {{{"base name"}, {Printable(base)}}, {{"next free name"}, {Printable(name), Style::Proposal}}}};
+struct Proposal {
+    std::string base;
+    std::optional<std::string> name = {}; ///< nothing if no name can be proposed
+    Verdict verdict = {};                 ///< why there is no name, or which rule the name breaks
+};
+
+Proposal Propose(const LoadedDocument& loaded, const ZFXISpecObject_var& feature, const ZFXUnicodeString& base) {
+    Proposal proposal{base.ConvertToChar()};
+    ZFXUnicodeString name;
+    const HRESULT code = SetNextName(feature, base, name);
+    if (Failed(code)) {
+        proposal.verdict = VerdictOf(code, "GetUniqueNames",
+                                     "There must be an analysis case, a set must contain the feature, and the names in "
+                                     "use must be readable.");
+        return proposal;
+    }
+    proposal.name = name.ConvertToChar();
+    QVRNameFinding finding;
+    if (Failed(QVRBaseFeatureAlias::CheckAlias(feature, name, &finding)))
+        proposal.verdict = VerdictOf(finding, IndexByObject(loaded));
+    return proposal;
+}
+
+void Print(const LoadedDocument& loaded, const Proposal& proposal, Console console) {
+    const Verdict& verdict = proposal.verdict;
+    Table table{{}, {{{"base name"}, {Printable(proposal.base)}}}};
+    table.rows.push_back({{"next free name"}, {proposal.name ? Printable(*proposal.name) : "-", Style::Proposal}});
+    if (verdict.IsRefusal())
+        table.rows.push_back({{proposal.name ? "refused" : "no proposal"},
+                              {(verdict.messageId.empty() ? "" : verdict.messageId + ": ") + ReasonOf(loaded, verdict),
+                               Style::Refusal}});
     PrintTable(console.out, table, console.screen);
 }
 
@@ -81,7 +111,7 @@ int ProposeJobName(const ProposeRequest& request, Console console) {
     if (console.isJson)
         PrintJson(console.out, {{"base", kJobBase}, {"proposal", name.ConvertToChar()}});
     else
-        PrintProposal(kJobBase, name.ConvertToChar(), console);
+        Print(*loaded, {kJobBase, name.ConvertToChar()}, console);
     return kSuccess;
 }
 
@@ -94,20 +124,19 @@ int ProposeName(const ProposeRequest& request, Console console) {
         throw BadInput("FEATURE is required; see --help");
     const auto loaded = OpenDocument(request.document);
     const std::uint32_t entry = FindFeature(*loaded, request.document, request.feature);
-    ZFXISpecObject_var feature = loaded->entries[entry].feature;
-    const ZFXUnicodeString base = BaseOf(request, feature);
-    const ZFXUnicodeString name = NextName(feature, base);
-    const bool isProposed = name != base; // GetUniqueName returns no code
+    const ZFXISpecObject_var feature = loaded->entries[entry].feature;
+    const Proposal proposal = Propose(*loaded, feature, BaseOf(request, feature));
     if (console.isJson) {
         nlohmann::ordered_json json{{"feature", DisplayPath(*loaded, entry)},
                                     {"type", loaded->entries[entry].feature.LateType().ConvertToChar()},
-                                    {"base", base.ConvertToChar()}};
-        json["proposal"] = isProposed ? nlohmann::ordered_json(name.ConvertToChar()) : nlohmann::ordered_json();
+                                    {"base", proposal.base},
+                                    {"proposal", nullptr}};
+        if (proposal.name)
+            json["proposal"] = *proposal.name;
+        AddVerdict(json, *loaded, proposal.verdict);
         PrintJson(console.out, json);
-    } else if (isProposed) {
-        PrintProposal(base.ConvertToChar(), name.ConvertToChar(), console);
     } else {
-        console.out << "no name can be proposed: there is no analysis case, or the names in use cannot be listed\n";
+        Print(*loaded, proposal, console);
     }
-    return isProposed ? kSuccess : kRefused;
+    return proposal.verdict.IsRefusal() ? kRefused : kSuccess;
 }

@@ -11,7 +11,6 @@
 
 #include <nlohmann/json.hpp>
 
-#include <optional>
 #include <ostream>
 
 namespace {
@@ -20,8 +19,7 @@ struct Outcome {
     std::string oldName;
     std::string newName; ///< the stored name: `oldName` if the renaming was refused
     bool isRefused = false;
-    Verdict verdict;                         ///< on the requested name
-    std::optional<std::uint32_t> other = {}; ///< the entry that the requested name clashes with
+    Verdict verdict; ///< on the requested name
 };
 
 /// Renames the feature through its interface ZFXIAlias, as a workbench does, if the name passes the check. With
@@ -40,10 +38,7 @@ Outcome ApplyName(const LoadedDocument& loaded, std::uint32_t entry, const Renam
     outcome.oldName = outcome.newName = alias->GetAlias().ConvertToChar();
     QVRNameFinding finding;
     if (Failed(QVRBaseFeatureAlias::CheckAlias(feature, name, &finding))) {
-        outcome.verdict = VerdictOf(finding);
-        const auto entries = EntriesByObject(loaded);
-        if (const auto other = entries.find(ZFXIdentityOf(finding.other)); other != entries.end())
-            outcome.other = other->second;
+        outcome.verdict = VerdictOf(finding, IndexByObject(loaded));
         outcome.isRefused = !request.force || LateTypes::IsGuarded(feature->GetLateType());
     }
     if (!outcome.isRefused) {
@@ -55,12 +50,6 @@ Outcome ApplyName(const LoadedDocument& loaded, std::uint32_t entry, const Renam
 
 std::string Quoted(const std::string& name) { return "\"" + Printable(name) + "\""; }
 
-/// Returns the message of the check and, for a clash, the other feature.
-std::string Reason(const LoadedDocument& loaded, const Outcome& outcome) {
-    const std::string other = outcome.other ? " The other feature is " + DisplayPath(loaded, *outcome.other) + "." : "";
-    return Printable(outcome.verdict.message + other);
-}
-
 void Print(const LoadedDocument& loaded, const std::string& feature, const RenameRequest& request,
            const Outcome& outcome, Console console) {
     std::ostream& out = console.out;
@@ -68,14 +57,14 @@ void Print(const LoadedDocument& loaded, const std::string& feature, const Renam
     const std::string id = Styled(outcome.verdict.messageId, Style::Refusal, console.screen);
     if (outcome.isRefused) {
         out << "refused" << (id.empty() ? "" : " (" + id + ")") << "; the name is still " << Quoted(outcome.oldName)
-            << "\n  " << Reason(loaded, outcome) << '\n';
+            << "\n  " << ReasonOf(loaded, outcome.verdict) << '\n';
         return;
     }
     out << Quoted(outcome.oldName) << " -> " << Quoted(outcome.newName);
     out << (outcome.newName != request.name ? " (without spaces and underscores at its ends)\n" : "\n");
     if (outcome.verdict.IsRefusal())
         out << "  stored because of --force; an audit refuses it" << (id.empty() ? "" : " (" + id + ")") << ": "
-            << Reason(loaded, outcome) << '\n';
+            << ReasonOf(loaded, outcome.verdict) << '\n';
 }
 
 void PrintAsJson(const LoadedDocument& loaded, const std::string& feature, const RenameRequest& request,
@@ -83,12 +72,7 @@ void PrintAsJson(const LoadedDocument& loaded, const std::string& feature, const
     nlohmann::ordered_json json{{"feature", feature},        {"renamed", !outcome.isRefused},
                                 {"former", outcome.oldName}, {"requested", request.name},
                                 {"name", outcome.newName},   {"legal", !outcome.verdict.IsRefusal()}};
-    if (outcome.verdict.IsRefusal()) {
-        json["messageId"] = outcome.verdict.messageId;
-        json["message"] = outcome.verdict.message;
-    }
-    if (outcome.other)
-        json["other"] = ReferenceTo(loaded, *outcome.other);
+    AddVerdict(json, loaded, outcome.verdict);
     PrintJson(console.out, json);
 }
 

@@ -10,8 +10,8 @@ std::vector<std::uint32_t> NamedEntries(const LoadedDocument& loaded) {
     return named;
 }
 
-std::unordered_map<const ZFXBaseUnknown*, std::uint32_t> EntriesByObject(const LoadedDocument& loaded) {
-    std::unordered_map<const ZFXBaseUnknown*, std::uint32_t> entries;
+EntriesByObject IndexByObject(const LoadedDocument& loaded) {
+    EntriesByObject entries;
     for (std::uint32_t entry = 0; entry < loaded.entries.size(); ++entry)
         entries.emplace(loaded.entries[entry].feature.Object(), entry);
     return entries;

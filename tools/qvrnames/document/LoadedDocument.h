@@ -37,7 +37,8 @@ struct LoadedDocument {
 [[nodiscard]] std::vector<std::uint32_t> NamedEntries(const LoadedDocument& loaded);
 
 /// Returns the entries by the identity of their objects.
-[[nodiscard]] std::unordered_map<const ZFXBaseUnknown*, std::uint32_t> EntriesByObject(const LoadedDocument& loaded);
+using EntriesByObject = std::unordered_map<const ZFXBaseUnknown*, std::uint32_t>;
+[[nodiscard]] EntriesByObject IndexByObject(const LoadedDocument& loaded);
 
 /// Returns the offset of the entry's name in the file, or of its JSON object if it has no name.
 [[nodiscard]] std::size_t NameOffset(const LoadedDocument& loaded, std::uint32_t entry);
