@@ -30,6 +30,15 @@ TEST_F(PropagatingObjectsTest, ScopeIsAllSetsOfOneLateTypeInAllSteps) {
     EXPECT_EQ(Propose(), "Pressure-6") << "the feature itself is skipped in every set";
 }
 
+TEST_F(PropagatingObjectsTest, PropagatedFeaturesAreSkippedExceptInitialTemperatures) {
+    loads3.Feature("QVRPressure", "Pressure-4").Propagated();
+    EXPECT_EQ(Propose(), "Pressure-3");
+    loads3.Feature("QVRInitialTemperatureLT", "Pressure-6").Propagated();
+    EXPECT_EQ(Propose(), "Pressure-7");
+    loads3.Feature("QVRPressure", "Pressure-8").Propagated().Without(IID_QVRIPropagatingFeature);
+    EXPECT_EQ(Propose(), "Pressure-9") << "a feature that does not offer QVRIPropagatingFeature";
+}
+
 TEST_F(PropagatingObjectsTest, FeatureOutsideOfACaseIsComparedInTheCurrentCase) {
     load = document.Model().Set("QVRLoadContainerLT").Feature("QVRPressure", "New").With(IID_QVRIPropagatingFeature);
     EXPECT_EQ(Check(load, "Pressure-1"), kDuplicate);
