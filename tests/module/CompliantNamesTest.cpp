@@ -26,8 +26,10 @@ TEST_F(CompliantNamesTest, GenericNameReplacesANameThatTheSolverRejects) {
     EXPECT_EQ(utils->GetTARNISCompliantFeatureName("厚", generic, generic), S_OK);
     EXPECT_EQ(generic, "Thickness-3");
     int count = 0;
-    utils->FindNameAndNextID("SAMThickness", count);
+    EXPECT_EQ(utils->FindNameAndNextID("SAMThickness", count), 1);
     EXPECT_EQ(count, 4);
+    EXPECT_EQ(utils->FindNameAndNextID("samthickness", count), 0);
+    EXPECT_EQ(count, 0);
 }
 
 } // namespace

@@ -2,18 +2,6 @@
 
 namespace {
 
-TEST_F(SingletonTest, CountsIssuedNamesExactlyUntilTheReset) {
-    int count = 9;
-    for (const char* name : {"Thickness", "Layup", "Thickness"})
-        EXPECT_EQ(utils->PushNameToList(name), S_OK);
-    EXPECT_EQ(utils->FindNameAndNextID("Thickness", count), 1);
-    EXPECT_EQ(count, 2);
-    EXPECT_EQ(utils->FindNameAndNextID("thickness", count), 0);
-    EXPECT_EQ(count, 0);
-    utils->ResetAllLists();
-    EXPECT_EQ(utils->FindNameAndNextID("Thickness", count), 0);
-}
-
 TEST_F(SingletonTest, CopyHasTheCachesAndChangesIndependently) {
     MemoryFeature a = set.Feature("T", "Load");
     MemoryFeature b = set.Feature("T", "Load");
