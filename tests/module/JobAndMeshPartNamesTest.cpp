@@ -42,10 +42,4 @@ TEST_F(JobAndMeshPartNamesTest, JobNameIsComparedWithTheJobsOfAllCases) {
     EXPECT_EQ(Check(job, "job-2"), "S_OK") << "only the current document counts";
 }
 
-TEST_F(JobAndMeshPartNamesTest, MeshPartNumberFollowsTheHighestInTheMeshManager) {
-    MemoryFeature parts[] = {document.MeshPart("Mesh-1", 1), document.MeshPart("Mesh-7", 2)};
-    for (const MemoryFeature part : parts) // a part also counts for its own proposal
-        EXPECT_EQ(Call(part, "Mesh-", QVRNameUtil::GetUniqueNameForMeshPart), "S_OK|Mesh-8");
-}
-
 } // namespace
