@@ -6,18 +6,13 @@
 
 namespace {
 
-int Count(const std::string& text, const std::string& part) {
-    int count = 0;
-    for (std::size_t at = text.find(part); at != std::string::npos; at = text.find(part, at + 1))
-        ++count;
-    return count;
-}
-
 /// Expects that a file contains the list, and that each list that begins with its first three characters is complete.
 void ExpectList(const std::filesystem::path& file, const std::string& list) {
     const std::string text = TextOf(file);
-    EXPECT_GT(Count(text, list), 0) << file << " does not contain " << list;
-    EXPECT_EQ(Count(text, list), Count(text, list.substr(0, 3))) << file << " has another list than " << list;
+    const std::string begin = list.substr(0, 3);
+    EXPECT_NE(text.find(begin), text.npos) << file << " does not contain " << list;
+    for (std::size_t at = text.find(begin); at != text.npos; at = text.find(begin, at + 1))
+        EXPECT_EQ(text.substr(at, list.size()), list) << file;
 }
 
 TEST(NameRules, TextsForPeopleListTheCharactersOfTheTables) {
@@ -27,25 +22,16 @@ TEST(NameRules, TextsForPeopleListTheCharactersOfTheTables) {
     std::string spaced;
     for (const char c : illegal)
         spaced += std::string(" ") + c;
-    const auto header = sources / "QVRGeneralUtilities/public-headers/QVRNameUtil.h";
-    const auto page = sources / "docs/operations.md";
-    const auto reference = sources / "fuzz/ReferenceRules.cpp";
     for (const auto& catalog :
          std::filesystem::directory_iterator(sources / "QVRGeneralUtilities/resources/msgcatalog")) {
         ExpectList(catalog, spaced);
         for (const char c : reserved)
             ExpectList(catalog, std::string("(") + c + ")");
     }
-    for (const auto& file : {header, page, reference})
-        ExpectList(file, illegal);
-    ExpectList(reference, reserved);
-    ASSERT_EQ(reserved, R"(".\)"); // file names may contain the last one
-    for (const char* list :
-         {": the name contains a double quote, full stop or backslash.",
-          ": the name contains a double quote or full stop.", "Keeps every double quote, full stop and backslash."})
-        EXPECT_EQ(Count(TextOf(header), list), 1) << list;
-    for (const char* list : {R"(no `"`, `.` or `\`,)", R"(no `"` or `.`,)"})
-        EXPECT_EQ(Count(TextOf(page), list), 1) << list;
+    for (const char* file :
+         {"QVRGeneralUtilities/public-headers/QVRNameUtil.h", "docs/operations.md", "fuzz/ReferenceRules.cpp"})
+        ExpectList(sources / file, illegal);
+    ExpectList(sources / "fuzz/ReferenceRules.cpp", reserved);
 }
 
 } // namespace
