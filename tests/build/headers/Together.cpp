@@ -5,14 +5,10 @@
 
 namespace {
 
+/// The number of operators that compare the operands, counted for both orders of the operands.
 template <class Left, class Right, class... Operators>
-constexpr bool kEvery = (std::is_invocable_v<Operators, const Left&, const Right&> && ...);
-template <class Left, class Right, class... Operators>
-constexpr bool kSome = (std::is_invocable_v<Operators, const Left&, const Right&> || ...);
-
-template <class Left, class Right>
-constexpr bool kHaveEquality = kEvery<Left, Right, std::equal_to<>, std::not_equal_to<>>&&
-    kEvery<Right, Left, std::equal_to<>, std::not_equal_to<>>;
+constexpr int kOperators = (... + (std::is_invocable_v<Operators, const Left&, const Right&> +
+                                   std::is_invocable_v<Operators, const Right&, const Left&>));
 #ifdef __cpp_impl_three_way_comparison
 template <class Left, class Right>
 constexpr bool kHaveThreeWay = requires(const Left& left, const Right& right) {
@@ -22,14 +18,13 @@ constexpr bool kHaveThreeWay = requires(const Left& left, const Right& right) {
 template <class Left, class Right>
 constexpr bool kHaveThreeWay = false;
 #endif
-template <class Left, class Right>
-constexpr bool kHaveOrder = kSome<Left, Right, std::less<>, std::less_equal<>, std::greater<>, std::greater_equal<>> ||
-                            kSome<Right, Left, std::less<>, std::less_equal<>, std::greater<>, std::greater_equal<>> ||
-                            kHaveThreeWay<Left, Right> || kHaveThreeWay<Right, Left>;
 
 /// Both orders of the operands compare for equality, and neither compares addresses for an order.
 template <class Left, class Right>
-constexpr bool kHaveOnlyEquality = kHaveEquality<Left, Right> && !kHaveOrder<Left, Right>;
+constexpr bool kHaveOnlyEquality =
+    kOperators<Left, Right, std::equal_to<>, std::not_equal_to<>> == 4 &&
+    kOperators<Left, Right, std::less<>, std::less_equal<>, std::greater<>, std::greater_equal<>> == 0 &&
+    !kHaveThreeWay<Left, Right> && !kHaveThreeWay<Right, Left>;
 
 static_assert(kHaveOnlyEquality<ZFXUnicodeString, ZFXUnicodeString>);
 static_assert(kHaveOnlyEquality<ZFXUnicodeString, const char*>);
