@@ -1,6 +1,7 @@
 #pragma once
 
 #include "commands/CommandLine.h"
+#include "support/Results.h"
 #include "support/TestFolder.h"
 
 #include "text/Utf8Path.h"
@@ -8,16 +9,10 @@
 #include <gtest/gtest.h>
 
 #include <cstdlib>
-#include <fstream>
-#include <sstream>
 #include <string>
 #include <vector>
 
-inline std::string ReadFile(const std::string& path) {
-    std::ostringstream text;
-    text << std::ifstream(Utf8::ToPath(path), std::ios::binary).rdbuf();
-    return text.str();
-}
+inline std::string ReadFile(const std::string& path) { return TextOf(Utf8::ToPath(path)); }
 
 /// Writes a file of expected results if the environment contains QVR_WRITE_EXPECTED.
 inline void WriteIfRequested(const std::string& path, const std::string& text) {
