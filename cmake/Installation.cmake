@@ -29,6 +29,7 @@ function(qvr_install_library library export_name description requires)
     INSTALL_RPATH $ORIGIN) # an installed copy can be moved
   add_library(${package}::${export_name} ALIAS ${library})
   install(TARGETS ${library} EXPORT ${package}Targets INCLUDES DESTINATION ${headers})
+  get_property(link_option TARGET ${library} PROPERTY QVR_PKG_CONFIG_LINK_OPTION)
   configure_file(${PROJECT_SOURCE_DIR}/cmake/library.pc.in ${PROJECT_BINARY_DIR}/pkgconfig/${library}.pc @ONLY)
   install(FILES ${PROJECT_BINARY_DIR}/pkgconfig/${library}.pc DESTINATION ${pkgconfig_files})
 endfunction()
