@@ -6,15 +6,21 @@ set(CMAKE_CXX_EXTENSIONS OFF)
 set(CMAKE_CXX_VISIBILITY_PRESET hidden)
 set(CMAKE_VISIBILITY_INLINES_HIDDEN ON)
 set(CMAKE_POSITION_INDEPENDENT_CODE ON)
-set(CMAKE_RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/bin)
-set(CMAKE_LIBRARY_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/lib)
-set(CMAKE_ARCHIVE_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/lib)
-# The folder of the shared libraries and of the message catalogs. Windows searches for a program's libraries in the
-# folder of the program.
+
+# The build has the folders of an installed copy, because the libraries find the message catalogs by a relative path.
+if(NOT CMAKE_INSTALL_DOCDIR)
+  set(CMAKE_INSTALL_DOCDIR share/doc/qvrnameutility) # where Debian requires the package's copyright file
+endif()
+include(GNUInstallDirs)
+set(CMAKE_RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/${CMAKE_INSTALL_BINDIR})
+set(CMAKE_LIBRARY_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/${CMAKE_INSTALL_LIBDIR})
+set(CMAKE_ARCHIVE_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/${CMAKE_INSTALL_LIBDIR})
+set(QVR_CATALOGS ${CMAKE_INSTALL_DATADIR}/QVRGeneralUtilities/msgcatalog)
+# Windows searches for a program's libraries in the folder of the program.
 if(WIN32)
-  set(QVR_LIBRARIES_HOME ${CMAKE_RUNTIME_OUTPUT_DIRECTORY})
+  file(RELATIVE_PATH QVR_CATALOGS_FROM_LIBRARIES /${CMAKE_INSTALL_BINDIR} /${QVR_CATALOGS})
 else()
-  set(QVR_LIBRARIES_HOME ${CMAKE_LIBRARY_OUTPUT_DIRECTORY})
+  file(RELATIVE_PATH QVR_CATALOGS_FROM_LIBRARIES /${CMAKE_INSTALL_LIBDIR} /${QVR_CATALOGS})
 endif()
 
 set(QVR_SANITIZERS "" CACHE STRING "Sanitizers to build with, such as address,undefined")

@@ -1,8 +1,7 @@
-# Installs the three libraries with the message catalogs in a folder next to them, the headers, the package files for
+# Installs the three libraries, the message catalogs, the headers, the package files for
 # find_package(QVRGeneralUtilities) and for pkg-config, the documentation, and qvrnames if it was built.
 # docs/packaging.md lists the folders.
 
-include(GNUInstallDirs)
 include(CMakePackageConfigHelpers)
 
 set(package QVRGeneralUtilities)
@@ -44,10 +43,7 @@ install(DIRECTORY
   ${PROJECT_BINARY_DIR}/include/
   ${PROJECT_SOURCE_DIR}/platform/
   DESTINATION ${headers} FILES_MATCHING PATTERN "*.h" PATTERN "*.def" PATTERN "unicode" EXCLUDE)
-# The platform library searches for catalogs in the folder "msgcatalog" next to itself. On Windows the libraries are in
-# the folder of the programs.
-install(DIRECTORY ${PROJECT_SOURCE_DIR}/QVRGeneralUtilities/resources/msgcatalog
-        DESTINATION $<IF:$<PLATFORM_ID:Windows>,${CMAKE_INSTALL_BINDIR},${CMAKE_INSTALL_LIBDIR}>)
+install(DIRECTORY ${PROJECT_SOURCE_DIR}/QVRGeneralUtilities/resources/msgcatalog/ DESTINATION ${QVR_CATALOGS})
 
 install(EXPORT ${package}Targets NAMESPACE ${package}:: DESTINATION ${package_files})
 write_basic_package_version_file(${PROJECT_BINARY_DIR}/${package}ConfigVersion.cmake COMPATIBILITY SameMajorVersion)
@@ -58,6 +54,7 @@ install(FILES
   ${PROJECT_BINARY_DIR}/${package}ConfigVersion.cmake
   DESTINATION ${package_files})
 
+install(FILES COPYRIGHT DESTINATION ${CMAKE_INSTALL_DOCDIR} RENAME copyright)
 # The pages keep their relative paths, so that the links between them work.
 install(FILES README.md ARCHITECTURE.md CONTRIBUTING.md CHANGELOG.md DESTINATION ${CMAKE_INSTALL_DOCDIR})
 install(FILES platform/README.md DESTINATION ${CMAKE_INSTALL_DOCDIR}/platform)

@@ -10,5 +10,4 @@ foreach(runtime libgcc_s_seh-1.dll libstdc++-6.dll libwinpthread-1.dll)
 endforeach()
 file(COPY ${runtimes} DESTINATION ${CMAKE_RUNTIME_OUTPUT_DIRECTORY})
 
-include(GNUInstallDirs)
 install(PROGRAMS ${runtimes} DESTINATION ${CMAKE_INSTALL_BINDIR})

@@ -66,6 +66,8 @@ cp "$deb" "$root/tmp/package.deb"
 apt_inside install --no-install-recommends /tmp/package.deb
 readme_block text >"$folder/expected.txt"
 
+inside grep "No license" /usr/share/doc/qvrnameutility/copyright
+
 step "run the command-line host"
 inside qvrnames --version
 inside qvrnames check Step-1

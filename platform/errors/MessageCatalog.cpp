@@ -18,12 +18,13 @@ constexpr const char* kEnding = ".msg";
 
 using Texts = std::map<std::string, ZFXUnicodeString, std::less<>>;
 
-std::filesystem::path FolderBesideThisLibrary() {
+/// Relative to the folder of this library, so that an installed copy can be moved. The build defines the path.
+constexpr const char* kCatalogsFromLibrary = CATALOGS_FROM_LIBRARY;
+
+std::filesystem::path InstalledFolder() {
     const auto library = ZFXLibraryFileAt(reinterpret_cast<const void*>(&Find));
-    if (library.empty())
-        return "msgcatalog";
     std::error_code ignored; // if there is no current folder, the path stays relative
-    return std::filesystem::absolute(library, ignored).parent_path() / "msgcatalog";
+    return std::filesystem::absolute(library, ignored).parent_path() / kCatalogsFromLibrary;
 }
 
 std::string_view Trim(std::string_view text) noexcept {
@@ -49,7 +50,7 @@ Texts Read(const std::filesystem::path& file) {
 /// The settings and the texts that have been read. Any thread can request a message.
 struct Catalogs {
     std::mutex guard;
-    std::filesystem::path folder = FolderBesideThisLibrary();
+    std::filesystem::path folder = InstalledFolder();
     std::string language;                ///< empty: English
     std::map<std::string, Texts> loaded; ///< by the name of the file without its ending
 

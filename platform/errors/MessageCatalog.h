@@ -16,7 +16,8 @@
 /// A line is `key = text`. A key is a message id followed by ".Request", ".Diagnostic" or ".Advice". Blank lines and
 /// lines that start with "#" are skipped. A file that does not exist or cannot be read has no texts.
 ///
-/// The files are in the folder "msgcatalog" next to the platform's shared library, unless a host sets another folder.
+/// The files are in the folder "share/QVRGeneralUtilities/msgcatalog" of the installation, unless a host sets another
+/// folder. Its path is relative to that of the platform's shared library, so the installation can be moved.
 /// Each file is read once, at the first request for one of its texts.
 namespace MessageCatalog {
 

@@ -18,6 +18,9 @@ run() { $emulator "$copy/bin/$1${emulator:+.exe}" "${@:2}" | tr -d '\r'; }
 sed 's|"[^"]*/\(${CMAKE_INSTALL_MANIFEST}\)"|"\1"|' "$build/cmake_install.cmake" >install.cmake
 cmake -DCMAKE_INSTALL_PREFIX="$work/installed" -P install.cmake
 mv installed "$copy"
+check "the package contains its copyright file" grep -q "No license" "$copy/share/doc/qvrnameutility/copyright"
+same "folders of the message catalogs" share/QVRGeneralUtilities/msgcatalog \
+    "$(cd "$copy" && find . -name '*.msg' -printf '%h\n' | sort -u | cut -c 3-)"
 while IFS=: read -r page link; do
     check "$page links to a file that is not installed: $link" [ -e "$(dirname "$page")/$link" ]
 done < <(grep -roP --include='*.md' '\]\(\K[A-Za-z0-9_./-]+(?=[)#])' "$copy")
