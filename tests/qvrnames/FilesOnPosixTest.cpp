@@ -57,6 +57,10 @@ TEST(FilesOnPosix, ReportsMissingPermissions) {
     const std::string file = folder.Write("document.json", R"({"cases": [{"name": "A"}]})");
     const std::string secret = folder.Write("secret.json", "{}");
     const std::string output = folder.Path("output.json");
+    ASSERT_EQ(chmod(file.c_str(), 0444), 0);
+    EXPECT_EQ(RunWith({"rename", file, "A", "B"}).err,
+              "qvrnames: " + file + ": cannot be written: Permission denied\n");
+    EXPECT_EQ(ReadFile(file), R"({"cases": [{"name": "A"}]})");
     ASSERT_EQ(chmod(secret.c_str(), 0), 0);
     ASSERT_EQ(chmod(folder.Path(".").c_str(), 0555), 0);
     const uid_t user = geteuid();

@@ -8,10 +8,14 @@
 
 #include "LateTypes.h"
 #include "QVRBaseFeatureAlias.h"
+#include "text/Utf8Path.h"
 
 #include <nlohmann/json.hpp>
 
+#include <filesystem>
+#include <memory>
 #include <ostream>
+#include <system_error>
 
 namespace {
 
@@ -89,11 +93,16 @@ void WriteDocument(const std::string& bytes, const RenameRequest& request, const
 } // namespace
 
 int RenameFeature(const RenameRequest& request, Console console) {
+    const std::string& target = request.output.empty() ? request.document : request.output;
+    std::error_code error; // a file that does not exist differs from all others
+    const bool isInPlace = request.document != kStandardStream && target != kStandardStream &&
+                           std::filesystem::equivalent(Utf8::ToPath(request.document), Utf8::ToPath(target), error);
+    // From reading to writing, so that no change by another process is lost.
+    const std::shared_ptr<void> lock = isInPlace ? LockFile(request.document) : nullptr;
     const auto loaded = OpenDocument(request.document);
     const std::uint32_t entry = FindFeature(*loaded, request.document, request.feature);
     const std::string feature = DisplayPath(*loaded, entry);
     const Outcome outcome = ApplyName(*loaded, entry, request);
-    const std::string& target = request.output.empty() ? request.document : request.output;
     // The file is written before the result is printed, so that a renaming that cannot be written is not reported.
     const bool needsOutput = outcome.newName != outcome.oldName || !request.output.empty() || target == kStandardStream;
     const bool mustWrite = !outcome.isRefused && needsOutput;

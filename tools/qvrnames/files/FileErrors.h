@@ -16,7 +16,7 @@ inline std::string DisplayFileName(const std::string& path) {
     return path == kStandardStream ? "standard input" : path;
 }
 
-/// Throws BadInput: "PATH: cannot be ACTION: REASON". `action` is "read" or "written".
+/// Throws BadInput: "PATH: cannot be ACTION: REASON". `action` is "read", "written" or "locked".
 [[noreturn]] inline void ThrowFileError(const std::string& path, const std::string& action, const std::string& reason) {
     throw BadInput(DisplayFileName(path) + ": cannot be " + action + ": " + reason);
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <memory>
 #include <string>
 
 // Reads and replaces whole files. A document is read once, kept in memory and written once, so there is no stream
@@ -9,9 +10,15 @@
 /// cannot be read or is larger than kMaxDocumentBytes.
 [[nodiscard]] std::string ReadWholeFile(const std::string& path);
 
+/// Excludes the file from other calls of LockFile, in any process, until the returned object is destroyed or the
+/// process ends. Waits for the current owner of the lock. The content of the file can be read and replaced. If `path`
+/// is a symbolic link, its target is locked. Throws BadInput if the file does not exist or cannot be locked.
+[[nodiscard]] std::shared_ptr<void> LockFile(const std::string& path);
+
 /// Replaces the content of a file, or creates the file. The bytes are written to a temporary file in the same folder,
 /// flushed to the disk and moved over the file in one step, so that the file always has either the former or the new
-/// content, even after a crash. Throws BadInput if any step fails; the file then has its former content.
+/// content, even after a crash. Throws BadInput if any step fails, or if the file is write-protected; the file then has
+/// its former content.
 /// - An existing file keeps its permissions. A new file gets those of `model`, or the default permissions if `model` is
 ///   "-". On Windows, a new file gets those of its folder.
 /// - If `path` is a symbolic link, its target is replaced.

@@ -11,6 +11,7 @@
 #include <tuple>
 
 #include <fcntl.h>
+#include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -88,6 +89,11 @@ private:
     bool m_isInPlace = false;
 };
 
+bool IsWriteProtected(const std::string& path, const struct stat& status) {
+    constexpr mode_t kAnyWriter = S_IWUSR | S_IWGRP | S_IWOTH;
+    return (status.st_mode & kAnyWriter) == 0 || access(path.c_str(), W_OK) < 0; // root has access to every file
+}
+
 /// Returns the permissions that the process gives to new files.
 mode_t DefaultPermissions() {
     const mode_t mask = umask(0); // the mask can only be read by setting it
@@ -116,6 +122,24 @@ std::string ReadWholeFile(const std::string& path) {
     });
 }
 
+std::shared_ptr<void> LockFile(const std::string& path) {
+    for (;;) {
+        auto file = std::make_shared<OpenFile>(open(path.c_str(), O_RDONLY | O_CLOEXEC));
+        if (*file < 0)
+            ThrowFileError(path, "read", errno);
+        while (flock(*file, LOCK_EX) < 0)
+            if (errno != EINTR)
+                ThrowFileError(path, "locked", errno);
+        // The former owner of the lock replaced the file: the lock is on a file that no longer has this path.
+        struct stat locked {};
+        struct stat current {};
+        if (fstat(*file, &locked) < 0 || stat(path.c_str(), &current) < 0)
+            ThrowFileError(path, "locked", errno);
+        if (locked.st_dev == current.st_dev && locked.st_ino == current.st_ino)
+            return file;
+    }
+}
+
 void ReplaceWholeFile(const std::string& path, const std::string& bytes, const std::string& model) {
     assert(path != kStandardStream);
     std::error_code error;
@@ -126,6 +150,8 @@ void ReplaceWholeFile(const std::string& path, const std::string& bytes, const s
     const bool exists = stat(target.c_str(), &status) == 0;
     if (exists && !S_ISREG(status.st_mode))
         throw BadInput(path + ": cannot be written: not a regular file");
+    if (exists && IsWriteProtected(target, status))
+        ThrowFileError(path, "written", EACCES);
     if (!exists && model == kStandardStream) {
         status.st_uid = geteuid();
         status.st_gid = getegid();

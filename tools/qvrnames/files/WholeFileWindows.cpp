@@ -56,6 +56,14 @@ HANDLE StandardInput() {
     return duplicate;
 }
 
+bool IsSameFile(HANDLE a, HANDLE b) {
+    BY_HANDLE_FILE_INFORMATION ofA{};
+    BY_HANDLE_FILE_INFORMATION ofB{};
+    return GetFileInformationByHandle(a, &ofA) != 0 && GetFileInformationByHandle(b, &ofB) != 0 &&
+           ofA.dwVolumeSerialNumber == ofB.dwVolumeSerialNumber && ofA.nFileIndexHigh == ofB.nFileIndexHigh &&
+           ofA.nFileIndexLow == ofB.nFileIndexLow;
+}
+
 bool HasAttribute(DWORD attributes, DWORD attribute) {
     return attributes != INVALID_FILE_ATTRIBUTES && (attributes & attribute) != 0;
 }
@@ -129,6 +137,23 @@ std::string ReadWholeFile(const std::string& path) {
             ThrowFileError(path, "read");
         return static_cast<std::size_t>(count);
     });
+}
+
+std::shared_ptr<void> LockFile(const std::string& path) {
+    const std::filesystem::path name = Utf8::ToPath(path);
+    for (;;) {
+        auto file = std::make_shared<FileHandle>(OpenExisting(name, GENERIC_READ));
+        if (!file->IsOpen())
+            ThrowFileError(path, "read");
+        OVERLAPPED lastByte{}; // not a byte of a document, because other programs may not read a locked byte
+        lastByte.Offset = lastByte.OffsetHigh = 0x7FFFFFFF;
+        if (LockFileEx(*file, LOCKFILE_EXCLUSIVE_LOCK, 0, 1, 0, &lastByte) == 0)
+            ThrowFileError(path, "locked");
+        // The former owner of the lock may have replaced the file: the lock is then on a file that has lost this path.
+        const FileHandle current(OpenExisting(name, GENERIC_READ));
+        if (current.IsOpen() && IsSameFile(*file, current))
+            return file;
+    }
 }
 
 void ReplaceWholeFile(const std::string& path, const std::string& bytes, const std::string& /*model*/) {
