@@ -55,23 +55,15 @@ TEST(DocumentReader, ReportsEveryDamagedFileAsBadInput) {
     EXPECT_EQ(MemoryModel::LiveObjects(), 0);
 }
 
-/// A document with every key. The operator returns an object by its id.
-class FullDocument : public ::testing::Test {
+/// A document with the keys whose effect no transcript shows. The operator returns an object by its id.
+class SmallDocument : public ::testing::Test {
 protected:
-    using Ids = std::vector<std::string>;
-
     MemoryFeature operator[](const std::string& id) { return m_loaded.entries[m_loaded.ids.at(id)].feature; }
     std::string IdOf(const ZFXBaseUnknown_var& object) {
         for (const auto& [id, entry] : m_loaded.ids)
             if (object == m_loaded.entries[entry].feature.Object())
                 return id;
         return object == nullptr ? "none" : "unknown";
-    }
-    Ids IdsOf(const ZFXListValZFXBaseUnknown_var& objects) {
-        Ids ids;
-        for (const ZFXBaseUnknown_var& object : objects)
-            ids.push_back(IdOf(object));
-        return ids;
     }
     std::string FatherOf(const std::string& id) {
         return IdOf(ZFXBaseUnknown_var::Attach(ZFXISpecObject_var((*this)[id])->GetFather()));
@@ -82,18 +74,13 @@ protected:
 
     LoadedDocument m_loaded{R"({
         "id": "model",
-        "meshManager": {"meshParts": [{"id": "part", "tag": -3}]},
-        "materials": [{"id": "steel", "name": "Stahl", "materialName": "Steel"}, {"id": "alu", "name": "Alu"}],
-        "groups": [{"id": "group", "name": "Bolts"}],
-        "connectors": [{"id": "left", "group": "group"}],
-        "supports": [{"id": "support", "connectors": ["left", {"id": "right"}]}],
-        "connectionDesigns": [{"id": "design", "master": [{}], "slave": ["left", "right"]}],
+        "materials": [{"id": "alu", "name": "Alu"}],
         "propertySet": {"features": [{"type": "SAMShell", "id": "shell"},
                                      {"type": "SAMShell", "id": "other", "property": false},
                                      {"type": "QVRTabularAmplitudeLT", "id": "ramp"}]},
         "cases": [
-            {"id": "bare", "history": null, "solverCase": false},
-            {"id": "full", "current": true, "jobs": [{"id": "job"}], "jobContainers": [{"id": "jobs"}],
+            {"id": "other case", "solverCase": false},
+            {"jobs": [{"id": "job"}], "jobContainers": [{"id": "jobs"}],
              "history": {"id": "history"},
              "steps": [{"type": "S", "id": "step", "attributes": {"FileLink": "a.inp"},
                         "sets": [{"type": "L", "id": "loads", "features": [
@@ -102,33 +89,21 @@ protected:
     })"};
 };
 
-TEST_F(FullDocument, HasFathersAndMembers) {
+TEST_F(SmallDocument, HasFathersAndMembers) {
     EXPECT_EQ(FatherOf("jobs"), "model");
     EXPECT_EQ(FatherOf("step"), "history");
     EXPECT_EQ(FatherOf("loads"), "step");
     EXPECT_EQ(FatherOf("load"), "none");
     ZFXListValZFXBaseUnknown_var* sets = nullptr;
     ZFXISamAnalysisEntity_var((*this)["load"])->GetParentSets(sets);
-    EXPECT_EQ(IdsOf(*std::unique_ptr<ZFXListValZFXBaseUnknown_var>(sets)), (Ids{"loads", "more"}));
+    const std::unique_ptr<ZFXListValZFXBaseUnknown_var> owned(sets);
+    ASSERT_EQ(owned->Size(), 2);
+    EXPECT_EQ(IdOf((*owned)[1]) + " " + IdOf((*owned)[2]), "loads more");
     EXPECT_EQ(PointingAttributes("step"), 1);
     EXPECT_EQ(PointingAttributes("more"), 1);
 }
 
-TEST_F(FullDocument, HasConnectors) {
-    ZFXListValZFXBaseUnknown_var connectors;
-    ZFXISamAnalysisSupport_var((*this)["support"])->ListConnectors(connectors);
-    EXPECT_EQ(IdsOf(connectors), (Ids{"left", "right"}));
-    ZFXBaseUnknown* group = nullptr;
-    ZFXISamAnalysisConnector_var((*this)["left"])->GetGroup(group);
-    EXPECT_EQ(IdOf(ZFXBaseUnknown_var::Attach(group)), "group");
-    ZFXListValZFXBaseUnknown_var master;
-    ZFXListValZFXBaseUnknown_var slave;
-    QVRISamAnalysisConnectionDesign_var((*this)["design"])->GetMasterAndSlaveConnectors(master, slave);
-    EXPECT_EQ(IdsOf(master), Ids{"unknown"}); // a connector without an id
-    EXPECT_EQ(IdsOf(slave), (Ids{"left", "right"}));
-}
-
-TEST_F(FullDocument, HasFlagsAndTexts) {
+TEST_F(SmallDocument, HasFlagsAndTexts) {
     ZFXISpecObject_var shell = (*this)["shell"];
     ZFXISpecObject_var other = (*this)["other"];
     ZFXISpecObject_var ramp = (*this)["ramp"];
@@ -136,19 +111,9 @@ TEST_F(FullDocument, HasFlagsAndTexts) {
     EXPECT_FALSE(QVRAnalysisEntityUtils::IsObjectAProperty(other));
     EXPECT_TRUE(QVRAnalysisEntityUtils::IsObjectAnAmplitude(ramp));
     EXPECT_NE(QVRIPropagatingFeature_var((*this)["load"])->IsPropagated(), 0);
-    ZFXISamAnalysisCase_var bare = (*this)["bare"];
-    EXPECT_FALSE(QVRAnalysisDocUtils::IsTarnisAnalysisCase(bare));
-    EXPECT_FALSE((*this)["bare"].History());
-    ZFXISamAnalysisCase_var current;
-    QVRStepUtils::GetCurrentAnalysisCaseSP(current, nullptr);
-    EXPECT_EQ(IdOf(current), "full");
-    EXPECT_EQ(ZFXIMaterialFeature_var((*this)["steel"])->GetMaterialFeatureName(), "Steel");
+    ZFXISamAnalysisCase_var otherCase = (*this)["other case"];
+    EXPECT_FALSE(QVRAnalysisDocUtils::IsTarnisAnalysisCase(otherCase));
     EXPECT_EQ(ZFXIMaterialFeature_var((*this)["alu"])->GetMaterialFeatureName(), "Alu");
-    ZFXAnalysisExplicitChild child;
-    ZFXISamExplicit_var((*this)["part"])->GetExplicitChild(child, 1);
-    int tag = 0;
-    child.GetTag(tag);
-    EXPECT_EQ(tag, -3);
     const ZFXISpecAttrAccess_var attributes = (*this)["step"];
     const auto key = ZFXISpecAttrKey_var::Attach(attributes->GetAttrKey("FileLink"));
     EXPECT_EQ(attributes->GetString(key, 0), "a.inp");
