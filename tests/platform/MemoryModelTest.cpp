@@ -30,6 +30,7 @@ TEST_F(MemoryModelTest, SearchesFollowTheOrderOfTheDocument) {
     second.Set("QVRLoadContainerLT").Feature("QVRPressure", "b");
     loads.Feature("QVRPressure", "c");
 
+    EXPECT_FALSE(MemoryFeature().Step("T", "below no object"));
     Objects found;
     const ZFXISamAnalysisScan_var scan(analysisCase);
     EXPECT_EQ(scan->FindObjectsOfType("QVRpressure", found, 3), S_OK);
@@ -49,7 +50,10 @@ TEST_F(MemoryModelTest, SearchesFollowTheOrderOfTheDocument) {
     EXPECT_TRUE(ZFXBaseUnknown_var::Attach((*pointing)[1]->GetOwner()) == analysisCase.History().Object());
 
     Objects* sets = nullptr;
-    EXPECT_EQ(ZFXISamAnalysisEntity_var(analysisCase.Job("Job-1"))->GetParentSets(sets), S_OK);
+    MemoryFeature job = analysisCase.Job("Job-1");
+    loads.AddMember(job);
+    EXPECT_EQ(ZFXISamAnalysisEntity_var(job)->GetParentSets(sets), S_OK);
+    EXPECT_EQ(sets->Size(), 2);
     const ZFXISpecObject_var container((*std::unique_ptr<Objects>(sets))[1]);
     EXPECT_TRUE(ZFXBaseUnknown_var::Attach(container->GetFather()) == document.Model().Object());
 }
@@ -203,7 +207,7 @@ protected:
     MemoryFeature job = analysisCase.Job("Job-1");
     MemoryFeature step = analysisCase.Step("T", "Step-1");
     MemoryFeature set = step.Set("QVRLoadContainerLT");
-    MemoryFeature load = set.Feature("QVRPressure", "a").Propagated().Property().Amplitude();
+    MemoryFeature load = set.Feature("QVRPressure", "a").Propagated().Property().Amplitude().Attribute("Other", "");
     MemoryFeature connector = root.Add(MemoryKind::Connector, "C", "").SetGroup(set);
     MemoryFeature support = root.Add(MemoryKind::Support, "S", "").AddConnector(connector);
     MemoryFeature design = root.Add(MemoryKind::ConnectionDesign, "D", "").AddMaster(connector).AddSlave(connector);

@@ -247,7 +247,7 @@ TEST(UnicodeChar, DigitsAreAsciiAndWhiteSpaceIsThatOfUnicode) {
         const auto c = ZFXUnicodeChar::FromUnit(static_cast<char16_t>(unit));
         EXPECT_EQ(c.IsDigit() != 0, unit >= '0' && unit <= '9') << unit;
     }
-    const std::pair<String, bool> rows[] = {{"\t \xC2\x85\xC2\xA0\u1680\u2003\u2028\u202F\u205F\u3000", true},
+    const std::pair<String, bool> rows[] = {{"\t\r \xC2\x85\xC2\xA0\u1680\u2003\u2028\u202F\u205F\u3000", true},
                                             {"a_-\u200B\u180E\uFEFF", false}}; // the last three are invisible
     for (const auto& [text, isSpace] : rows)
         for (std::size_t i = 0; i < text.Units().size(); ++i)
