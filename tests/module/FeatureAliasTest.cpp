@@ -84,17 +84,12 @@ TEST_F(FeatureAliasTest, AdaptorIsAnInterfaceOfItsFeature) {
         EXPECT_TRUE(ZFXISpecObject_var(alias) == step.Object());
         EXPECT_TRUE(ZFXIAlias_var(ZFXBaseUnknown_var(alias)) == alias);
         EXPECT_STREQ(alias->IsA(), "ZFXIAlias");
-        unsigned int count = 9;
-        EXPECT_EQ(alias->GetTypeInfoCount(&count), S_OK);
-        EXPECT_EQ(count, 0U);
         EXPECT_EQ(alias->GetTypeInfo(0, 0, nullptr), E_NOTIMPL);
     }
     EXPECT_EQ(ZFXBaseUnknown::LiveAllocations(), before) << "adaptor or extension not released";
 
     const ZFXBaseUnknown_var extension = ZFXBaseUnknown_var::Attach(QVREFeatureAlias::CreateItself());
     EXPECT_STREQ(extension->IsA(), "QVREFeatureAlias");
-    EXPECT_STREQ(QVREFeatureAlias::ClassName(), "QVREFeatureAlias");
-    EXPECT_TRUE(extension->IsAKindOf("QVREFeatureAlias"));
     EXPECT_FALSE(extension->IsAKindOf("QVRBaseFeatureAlias"));
     EXPECT_EQ(extension->GetMetaObject(), QVREFeatureAlias::meta_object);
 }
@@ -109,7 +104,6 @@ TEST_F(FeatureAliasTest, AdaptorKeepsItsFeatureAlive) {
     EXPECT_EQ(found, adaptor);
     EXPECT_EQ(adaptor->QueryInterface(IID_ZFXISpecObject, &found), E_NOINTERFACE) << "the object's result";
     EXPECT_EQ(found, nullptr);
-    EXPECT_EQ(adaptor->QueryInterface(IID_ZFXIAlias, nullptr), E_POINTER);
     EXPECT_EQ(adaptor->Release(), 1U);
     object->AddRef();
     EXPECT_EQ(adaptor->Release(), 0U);
