@@ -106,7 +106,7 @@ protected:
         m_folder.Write("Tests.msg", "# comment\n\nId.Diagnostic = Bad: /P1, /P2 \r\nId.Advice=Fix = it\n"
                                     "Once.Diagnostic = /P1 /P2 /P1 /P3 /P //P2\n"
                                     "All.Request = r /P1 /P2\nAll.Diagnostic = d /P1 /P2\nAll.Advice = a /P1 /P2\n");
-        m_folder.Write("Tests_xy.msg", "Id.Diagnostic = /P2, /P1: böse\n");
+        m_folder.Write("Tests_az.msg", "Id.Diagnostic = /P2, /P1: böse\n");
         MessageCatalog::SetFolder(m_folder.Path("."));
         ZFXUnicodeString a("ä"), b("b");
         m_error->SetNLSParameters(2, &a, &b);
@@ -151,15 +151,15 @@ TEST_F(CatalogTest, PlaceholdersAreReplacedInOnePass) {
 
 TEST_F(CatalogTest, LanguageAppliesToErrorsRaisedBefore) {
     const std::tuple<const char*, bool, const char*> rows[] = {
-        {"xy", true, kTranslated}, {"en_GB", true, kEnglish},          {"XY_ab", true, kTranslated},
-        {"C", true, kEnglish},     {"xy-AB.UTF-8", true, kTranslated}, {"zz", false, kEnglish},
-        {"xy", true, kTranslated}, {"posix", true, kEnglish},          {"xy", true, kTranslated},
+        {"az", true, kTranslated}, {"en_GB", true, kEnglish},          {"AZ_ab", true, kTranslated},
+        {"C", true, kEnglish},     {"az-AB.UTF-8", true, kTranslated}, {"zz", false, kEnglish},
+        {"az", true, kTranslated}, {"posix", true, kEnglish},          {"az", true, kTranslated},
         {"", true, kEnglish}};
     for (const auto& [language, isKnown, message] : rows) {
         EXPECT_EQ(MessageCatalog::SetLanguage(language), isKnown) << language;
         EXPECT_EQ(Message(), message) << language;
     }
-    EXPECT_EQ(MessageCatalog::Languages(), (std::vector<std::string>{"en", "xy"}));
+    EXPECT_EQ(MessageCatalog::Languages(), (std::vector<std::string>{"az", "en"}));
 }
 
 TEST_F(CatalogTest, WithoutACatalogTheMessageIsTheId) {
@@ -179,7 +179,7 @@ TEST_F(CatalogTest, FileOrFolderWithoutPermissionCountsAsMissing) {
         ASSERT_EQ(seteuid(user == 0 ? uid_t{65534} : user), 0); // root can read every file
         MessageCatalog::SetFolder(m_folder.Path("."));          // reads the files again
         EXPECT_EQ(Message(), message) << name;
-        EXPECT_EQ(MessageCatalog::SetLanguage("xy"), hasTranslation) << name;
+        EXPECT_EQ(MessageCatalog::SetLanguage("az"), hasTranslation) << name;
         MessageCatalog::SetLanguage("");
         ASSERT_EQ(seteuid(user), 0);
     }

@@ -200,6 +200,7 @@ protected:
     }
 
     const long live = MemoryModel::LiveObjects();
+    const long allocations = ZFXBaseUnknown::LiveAllocations();
     std::unique_ptr<MemoryModel> model = std::make_unique<MemoryModel>();
     MemoryDocument document = model->NewDocument();
     MemoryFeature root = document.Model();
@@ -255,7 +256,10 @@ TEST_F(MemoryRequestsTest, ObjectsOutliveTheModelWithoutTheirLinks) {
     EXPECT_EQ(MemoryModel::LiveObjects(), live + 10);
     held.clear();
     child.View(nullptr);
+    key = nullptr;
+    attribute = nullptr;
     EXPECT_EQ(MemoryModel::LiveObjects(), live);
+    EXPECT_EQ(ZFXBaseUnknown::LiveAllocations(), allocations) << "the document or a key was not released";
 }
 
 } // namespace

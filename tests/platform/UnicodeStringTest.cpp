@@ -33,7 +33,7 @@ TEST(UnicodeString, ACopyHasATextOfItsOwn) {
 TEST(UnicodeString, NarrowTextIsUtf8BothWays) {
     const std::tuple<const char*, int, const char*> rows[] = {
         {"abc", 3, "abc"},
-        {"é", 1, "é"},
+        {"\u0080é", 2, "\u0080é"},
         {"日本", 2, "日本"},
         {"😀", 2, "😀"}, // a surrogate pair
         {"a\x80z", 3, "a\xEF\xBF\xBDz"},
