@@ -47,13 +47,6 @@ TEST_F(GenericNamesTest, FeaturesAreNumberedInTheOrderOfTheFirstCalls) {
     EXPECT_EQ(NameBy(kGeneric, d), "Tx-1");
 }
 
-TEST_F(GenericNamesTest, FeatureWithoutAnAliasIsNotCachedByItsDisplayName) {
-    MemoryFeature nameless = set.Feature("U", "n").Without(IID_ZFXIAlias);
-    EXPECT_EQ(NameBy(kDisplay, nameless), "E_FAIL|before");
-    EXPECT_EQ(NameBy(kGeneric, nameless), "U-1");
-    EXPECT_EQ(NameBy(kDisplay, set.Feature("V", "v")), "E_FAIL|before") << "a cached feature has no alias";
-}
-
 TEST_F(GenericNamesTest, LateTypeIsRequestedWhenAFeatureIsFirstNamed) {
     for (const Operation first : {kGeneric, kDisplay}) {
         MemoryFeature feature = set.Feature("T", "x");
