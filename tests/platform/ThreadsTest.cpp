@@ -1,6 +1,5 @@
 // Operations that can run on several threads at a time. The thread sanitizer checks them too.
 
-#include "QVRGenZFXUnicodeStringUtils.h"
 #include "QVRNameUtil.h"
 
 #include "collections/ZFXListVal.h"
@@ -51,11 +50,6 @@ TEST(Threads, EachHasItsOwnRegistryOfErrors) {
         last[static_cast<std::size_t>(thread)] = code;
         EXPECT_EQ(ResultText(code), thread % 2 == 0 ? "LeadingDigitERR_01" : "IllegalCharERR_01 -100");
         EXPECT_GT(ZFXError::ZFXGetLastError(code, nullptr)->GetNLSMessage().GetLengthInChar(), 20);
-        ZFXUnicodeString padded(QVRGenZFXUnicodeStringUtils::ReplacePeriodWithDash(name));
-        ZFXUnicodeString suffix("(b c)");
-        ZFXUnicodeString prefix(name);
-        QVRNameUtil::PadStrings(padded, suffix, prefix);
-        EXPECT_EQ(Narrow(padded), thread % 2 == 0 ? "1st1st_bc" : "a.ba-b_bc");
     });
     for (const HRESULT code : last)
         EXPECT_EQ(ZFXError::ZFXGetLastError(code, nullptr), nullptr) << "another thread's error";
