@@ -1,7 +1,7 @@
-#include "TestSupport.h"
 #include "document/DocumentKeys.h"
+#include "TestSupport.h"
 
-#include <gtest/gtest.h>
+#include <nlohmann/json.hpp>
 
 #include <map>
 #include <regex>
@@ -32,7 +32,7 @@ Words FurtherKeys(MemoryKind kind) {
 }
 
 // The first table of docs/document-file.md has three columns, the second one five.
-TEST(DocumentFilePage, ListsTheKeysAndDefaultTypesOfTheReader) {
+TEST(DocumentKeys, AreOnThePageWithTheirDefaultTypes) {
     Words ofEveryObject;
     Words listed;
     std::map<std::string, std::pair<Words, Words>> rows; // the default type and the further keys
@@ -62,6 +62,44 @@ TEST(DocumentFilePage, ListsTheKeysAndDefaultTypesOfTheReader) {
         const bool hasDefault = defaultType != nullptr && Keys(kind).contains("type");
         EXPECT_EQ(row->second.first, hasDefault ? Words{defaultType} : Words{}) << row->first;
         EXPECT_EQ(row->second.second, FurtherKeys(kind)) << row->first;
+    }
+}
+
+/// Returns the keys that a definition of the schema allows, including those of its base definitions.
+Words KeysIn(const nlohmann::json& schema, const nlohmann::json& definition) {
+    Words keys;
+    const auto properties = definition.value("properties", nlohmann::json::object());
+    const auto bases = definition.value("allOf", nlohmann::json::array());
+    for (const auto& [key, value] : properties.items())
+        keys.insert(key);
+    for (const auto& base : bases) {
+        const std::string reference = base.at("$ref").get<std::string>().substr(1);
+        keys.merge(KeysIn(schema, schema.at(nlohmann::json::json_pointer(reference))));
+    }
+    return keys;
+}
+
+TEST(DocumentKeys, AreThoseOfTheSchema) {
+    const auto schema = nlohmann::json::parse(ReadFile(QVRNAMES_FOLDER "/document.schema.json"));
+    // clang-format off
+    const std::pair<const char*, MemoryKind> rows[] = {
+        {"case", MemoryKind::Case}, {"history", MemoryKind::History}, {"step", MemoryKind::Step},
+        {"set", MemoryKind::Set}, {"propertySet", MemoryKind::Set}, {"jobContainer", MemoryKind::JobContainer},
+        {"feature", MemoryKind::Feature}, {"job", MemoryKind::Feature}, {"meshManager", MemoryKind::MeshManager},
+        {"meshPart", MemoryKind::MeshPart}, {"material", MemoryKind::Material}, {"group", MemoryKind::Group},
+        {"support", MemoryKind::Support}, {"connector", MemoryKind::Connector},
+        {"connectionDesign", MemoryKind::ConnectionDesign},
+    };
+    // clang-format on
+    for (const auto& [name, kind] : rows)
+        EXPECT_EQ(KeysIn(schema, schema.at("$defs").at(name)), Keys(kind)) << name;
+    EXPECT_EQ(KeysIn(schema, schema), Keys(MemoryKind::Model));
+    const std::string text = schema.dump();
+    for (const ChildKey& child : kChildKeys) {
+        if (child.defaultType == nullptr || child.kind == MemoryKind::MeshManager)
+            continue;
+        const std::string member = std::string(R"("default":")") + child.defaultType;
+        EXPECT_NE(text.find(member), std::string::npos) << member;
     }
 }
 
