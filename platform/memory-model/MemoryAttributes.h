@@ -1,6 +1,7 @@
 #pragma once
 
 #include "memory-model/MemoryModel.h"
+#include "object-model/ZFXImplements.h"
 
 #include <string>
 #include <utility>
@@ -16,12 +17,10 @@ public:
 };
 
 /// An attribute of one object that points at another. The object that it points at has a reference on it.
-class MemoryPointingAttribute final : public ZFXISpecAttribute {
+class MemoryPointingAttribute final : public ZFXImplements<ZFXObject, ZFXISpecAttribute> {
 public:
-    explicit MemoryPointingAttribute(MemoryObject* owner) : m_owner(owner) {}
+    explicit MemoryPointingAttribute(MemoryObject* owner) : ZFXImplements(nullptr), m_owner(owner) {}
 
-    using ZFXISpecAttribute::QueryInterface;
-    HRESULT QueryInterface(const IID& iid, void** result) override;
     ZFXBaseUnknown* GetOwner() override;
 
     /// Clears the owner. GetOwner returns null from now on.

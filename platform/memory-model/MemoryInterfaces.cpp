@@ -1,4 +1,4 @@
-// The operations of the interface objects. Each begins its request first, because a response may be injected.
+// The operations of the interfaces. Each begins its request first, because a response may be injected.
 
 #include "memory-model/MemoryObject.h"
 #include "memory-model/MemorySession.h"
@@ -12,12 +12,6 @@ constexpr std::string_view kPointingInterface = "ZFXISpecObject";
 constexpr int kExplicitChildFlag = 1;
 constexpr int kStringIndex = 0;
 
-ZFXBaseUnknown* WithReference(MemoryObject* object) {
-    if (object != nullptr)
-        object->AddRef();
-    return object;
-}
-
 void AppendAll(const MemoryObjects& objects, ZFXListValZFXBaseUnknown_var& list) {
     list.Reserve(list.Size() + static_cast<int>(objects.size()));
     for (MemoryObject* object : objects)
@@ -26,93 +20,102 @@ void AppendAll(const MemoryObjects& objects, ZFXListValZFXBaseUnknown_var& list)
 
 } // namespace
 
-void MemoryInterface<ZFXIAlias>::SetAlias(const ZFXUnicodeString& alias) {
-    if (Object().BeginRequest(MemoryRequest::SetAlias).filled)
-        Object().alias = alias;
+HRESULT MemoryRareInterfaces::QueryInterface(const IID& iid, void** result) {
+    return m_object->QueryInterface(iid, result);
+}
+HRESULT MemoryRareInterfaces::QueryInterface(const char* name, void** result) {
+    return m_object->QueryInterface(name, result);
+}
+ULONG MemoryRareInterfaces::AddRef() { return m_object->AddRef(); }
+ULONG MemoryRareInterfaces::Release() { return m_object->Release(); }
+ZFXBaseUnknown* MemoryRareInterfaces::GetImpl() const { return m_object->GetImpl(); }
+
+void MemoryObject::SetAlias(const ZFXUnicodeString& newAlias) {
+    if (BeginRequest(MemoryRequest::SetAlias).filled)
+        alias = newAlias;
 }
 
-ZFXUnicodeString MemoryInterface<ZFXIAlias>::GetAlias() {
-    return Object().BeginRequest(MemoryRequest::GetAlias).filled ? Object().alias : ZFXUnicodeString();
+ZFXUnicodeString MemoryObject::GetAlias() {
+    return BeginRequest(MemoryRequest::GetAlias).filled ? alias : ZFXUnicodeString();
 }
 
-ZFXUnicodeString MemoryInterface<ZFXISpecObject>::GetLateType() {
-    return Object().BeginRequest(MemoryRequest::GetLateType).filled ? Object().lateType->name : ZFXUnicodeString();
+ZFXUnicodeString MemoryObject::GetLateType() {
+    return BeginRequest(MemoryRequest::GetLateType).filled ? lateType->name : ZFXUnicodeString();
 }
 
-ZFXBaseUnknown* MemoryInterface<ZFXISpecObject>::GetFather() {
-    return Object().BeginRequest(MemoryRequest::GetFather).filled ? WithReference(Object().father) : nullptr;
+ZFXBaseUnknown* MemoryObject::GetFather() {
+    return BeginRequest(MemoryRequest::GetFather).filled ? ZFXNewReference(father) : nullptr;
 }
 
-ZFXListValZFXISpecAttribute_var* MemoryInterface<ZFXISpecObject>::ListPointingAttributes(const char* interfaceName,
-                                                                                         const ZFXUnicodeString& type,
-                                                                                         const ZFXUnicodeString& name) {
+ZFXListValZFXISpecAttribute_var* MemoryObject::ListPointingAttributes(const char* interfaceName,
+                                                                      const ZFXUnicodeString& type,
+                                                                      const ZFXUnicodeString& name) {
     const bool isExpected = interfaceName != nullptr && std::string_view(interfaceName) == kPointingInterface &&
                             type.IsNull() != 0 && name.IsNull() != 0;
-    const bool filled = Object().BeginRequest(MemoryRequest::ListPointingAttributes, isExpected).filled;
-    return filled ? &Object().Extras().pointing : nullptr;
+    const bool filled = BeginRequest(MemoryRequest::ListPointingAttributes, isExpected).filled;
+    return filled ? &Extras().pointing : nullptr;
 }
 
-ZFXISpecAttrKey* MemoryInterface<ZFXISpecAttrAccess>::GetAttrKey(const char* name) {
-    if (!Object().BeginRequest(MemoryRequest::GetAttrKey).filled || name == nullptr || Object().document == nullptr)
+ZFXISpecAttrKey* MemoryObject::GetAttrKey(const char* name) {
+    if (!BeginRequest(MemoryRequest::GetAttrKey).filled || name == nullptr || document == nullptr)
         return nullptr;
-    MemorySession& session = Object().document->session;
+    MemorySession& session = document->session;
     if (std::string_view(name) == "Alias")
-        return Object().aliasKey ? session.AliasKey() : nullptr;
-    return Object().ExtrasOrNone().attributes.contains(name) ? session.KeyOf(name) : nullptr;
+        return aliasKey ? session.AliasKey() : nullptr;
+    return ExtrasOrNone().attributes.contains(name) ? session.KeyOf(name) : nullptr;
 }
 
-void MemoryInterface<ZFXISpecAttrAccess>::SetString(ZFXISpecAttrKey* key, const ZFXUnicodeString& value, int index) {
-    if (!Object().BeginRequest(MemoryRequest::SetString, index == kStringIndex).filled || key == nullptr)
+void MemoryObject::SetString(ZFXISpecAttrKey* key, const ZFXUnicodeString& value, int index) {
+    if (!BeginRequest(MemoryRequest::SetString, index == kStringIndex).filled || key == nullptr)
         return;
     const MemoryAttrKey& named = static_cast<MemoryAttrKey&>(*key);
-    (named.isAlias ? Object().alias : Object().Extras().attributes[named.name]) = value;
+    (named.isAlias ? alias : Extras().attributes[named.name]) = value;
 }
 
-ZFXUnicodeString MemoryInterface<ZFXISpecAttrAccess>::GetString(ZFXISpecAttrKey* key, int index) {
-    if (!Object().BeginRequest(MemoryRequest::GetString, index == kStringIndex).filled || key == nullptr)
+ZFXUnicodeString MemoryObject::GetString(ZFXISpecAttrKey* key, int index) {
+    if (!BeginRequest(MemoryRequest::GetString, index == kStringIndex).filled || key == nullptr)
         return {};
     const MemoryAttrKey& named = static_cast<MemoryAttrKey&>(*key);
     if (named.isAlias)
-        return Object().alias;
-    const auto& attributes = Object().ExtrasOrNone().attributes;
+        return alias;
+    const auto& attributes = ExtrasOrNone().attributes;
     const auto found = attributes.find(named.name);
     return found == attributes.end() ? ZFXUnicodeString() : found->second;
 }
 
-ZFXDocument* MemoryInterface<ZFXILinkableObject>::GetOwningDocument() {
-    return Object().BeginRequest(MemoryRequest::GetOwningDocument).filled ? Object().document : nullptr;
+ZFXDocument* MemoryObject::GetOwningDocument() {
+    return BeginRequest(MemoryRequest::GetOwningDocument).filled ? document : nullptr;
 }
 
-HRESULT MemoryInterface<ZFXISamAnalysisModel>::ListAnalysisCases(ZFXListValZFXBaseUnknown_var& cases) {
-    const MemoryResponse response = Object().BeginRequest(MemoryRequest::ListAnalysisCases);
+HRESULT MemoryRareInterfaces::ListAnalysisCases(ZFXListValZFXBaseUnknown_var& cases) {
+    const MemoryResponse response = m_object->BeginRequest(MemoryRequest::ListAnalysisCases);
     if (response.filled)
-        for (MemoryObject* child : Object().ExtrasOrNone().children)
+        for (MemoryObject* child : m_object->ExtrasOrNone().children)
             if (child->kind == MemoryKind::Case)
                 cases.Append(ZFXBaseUnknown_var(child));
     return response.code;
 }
 
-HRESULT MemoryInterface<ZFXISamAnalysisSet>::ListMembers(ZFXListValZFXISpecObject_var& members, const IID& filter,
-                                                         int flag) {
-    const MemoryResponse response = Object().BeginRequest(
+HRESULT MemoryRareInterfaces::ListMembers(ZFXListValZFXISpecObject_var& members, const IID& filter, int flag) {
+    const MemoryResponse response = m_object->BeginRequest(
         MemoryRequest::ListMembers, filter == CLSID_ZFXBaseUnknown && flag == ZFXISamAnalysisSet::kMemberFlag);
     if (!response.filled)
         return response.code;
-    const MemoryObjects& objects = Object().ExtrasOrNone().members;
+    const MemoryObjects& objects = m_object->ExtrasOrNone().members;
     members.Reserve(members.Size() + static_cast<int>(objects.size()));
     for (MemoryObject* member : objects)
         members.Append(InterfaceOf<ZFXISpecObject>(member));
     return response.code;
 }
 
-HRESULT MemoryInterface<ZFXISamAnalysisScan>::FindObjectsOfType(const ZFXUnicodeString& lateType,
-                                                                ZFXListValZFXBaseUnknown_var& found, int mode) {
+HRESULT MemoryRareInterfaces::FindObjectsOfType(const ZFXUnicodeString& lateType, ZFXListValZFXBaseUnknown_var& found,
+                                                int mode) {
     const MemoryResponse response =
-        Object().BeginRequest(MemoryRequest::FindObjectsOfType, mode == ZFXISamAnalysisScan::kScanMode);
+        m_object->BeginRequest(MemoryRequest::FindObjectsOfType, mode == ZFXISamAnalysisScan::kScanMode);
     if (!response.filled)
         return response.code;
     const MemoryLateType* wanted = &MemoryLateType::Of(lateType);
-    const MemoryObjects& children = Object().ExtrasOrNone().children;
+    const MemoryObjects& children = m_object->ExtrasOrNone().children;
     MemoryObjects ahead(children.rbegin(), children.rend()); // a stack: the next object is the last
     while (!ahead.empty()) {
         MemoryObject* next = ahead.back();
@@ -125,72 +128,70 @@ HRESULT MemoryInterface<ZFXISamAnalysisScan>::FindObjectsOfType(const ZFXUnicode
     return response.code;
 }
 
-HRESULT MemoryInterface<ZFXISamAnalysisScan>::ListChildren(ZFXListValZFXBaseUnknown_var& children, int mode) {
+HRESULT MemoryRareInterfaces::ListChildren(ZFXListValZFXBaseUnknown_var& children, int mode) {
     const MemoryResponse response =
-        Object().BeginRequest(MemoryRequest::ListChildren, mode == ZFXISamAnalysisScan::kScanMode);
+        m_object->BeginRequest(MemoryRequest::ListChildren, mode == ZFXISamAnalysisScan::kScanMode);
     if (response.filled)
-        AppendAll(Object().ExtrasOrNone().children, children);
+        AppendAll(m_object->ExtrasOrNone().children, children);
     return response.code;
 }
 
-HRESULT MemoryInterface<ZFXISamAnalysisEntity>::GetParentSets(ZFXListValZFXBaseUnknown_var*& sets) {
-    const MemoryResponse response = Object().BeginRequest(MemoryRequest::GetParentSets);
+HRESULT MemoryObject::GetParentSets(ZFXListValZFXBaseUnknown_var*& sets) {
+    const MemoryResponse response = BeginRequest(MemoryRequest::GetParentSets);
     if (!response.filled)
         return response.code;
     auto list = std::make_unique<ZFXListValZFXBaseUnknown_var>();
-    AppendAll(Object().parentSets, *list);
+    AppendAll(parentSets, *list);
     sets = list.release();
     return response.code;
 }
 
-int MemoryInterface<QVRIPropagatingFeature>::IsPropagated() {
-    return Object().BeginRequest(MemoryRequest::IsPropagated).filled && Object().propagated ? 1 : 0;
-}
+int MemoryObject::IsPropagated() { return BeginRequest(MemoryRequest::IsPropagated).filled && propagated ? 1 : 0; }
 
-HRESULT MemoryInterface<ZFXISamAnalysisSupport>::ListConnectors(ZFXListValZFXBaseUnknown_var& connectors) {
-    const MemoryResponse response = Object().BeginRequest(MemoryRequest::ListConnectors);
+HRESULT MemoryRareInterfaces::ListConnectors(ZFXListValZFXBaseUnknown_var& connectors) {
+    const MemoryResponse response = m_object->BeginRequest(MemoryRequest::ListConnectors);
     if (response.filled)
-        AppendAll(Object().ExtrasOrNone().connectors, connectors);
+        AppendAll(m_object->ExtrasOrNone().connectors, connectors);
     return response.code;
 }
 
-HRESULT MemoryInterface<ZFXISamAnalysisConnector>::GetGroup(ZFXBaseUnknown*& group) {
-    const MemoryResponse response = Object().BeginRequest(MemoryRequest::GetGroup);
+HRESULT MemoryRareInterfaces::GetGroup(ZFXBaseUnknown*& group) {
+    const MemoryResponse response = m_object->BeginRequest(MemoryRequest::GetGroup);
     if (response.filled)
-        group = WithReference(Object().ExtrasOrNone().group);
+        group = ZFXNewReference(m_object->ExtrasOrNone().group);
     return response.code;
 }
 
 HRESULT
-MemoryInterface<QVRISamAnalysisConnectionDesign>::GetMasterAndSlaveConnectors(ZFXListValZFXBaseUnknown_var& master,
-                                                                              ZFXListValZFXBaseUnknown_var& slave) {
-    const MemoryResponse response = Object().BeginRequest(MemoryRequest::GetMasterAndSlaveConnectors);
+MemoryRareInterfaces::GetMasterAndSlaveConnectors(ZFXListValZFXBaseUnknown_var& master,
+                                                  ZFXListValZFXBaseUnknown_var& slave) {
+    const MemoryResponse response = m_object->BeginRequest(MemoryRequest::GetMasterAndSlaveConnectors);
     if (response.filled) {
-        AppendAll(Object().ExtrasOrNone().master, master);
-        AppendAll(Object().ExtrasOrNone().slave, slave);
+        AppendAll(m_object->ExtrasOrNone().master, master);
+        AppendAll(m_object->ExtrasOrNone().slave, slave);
     }
     return response.code;
 }
 
-HRESULT MemoryInterface<ZFXISamExplicit>::GetExplicitChild(ZFXAnalysisExplicitChild& child, int flag) {
-    const MemoryResponse response = Object().BeginRequest(MemoryRequest::GetExplicitChild, flag == kExplicitChildFlag);
+HRESULT MemoryRareInterfaces::GetExplicitChild(ZFXAnalysisExplicitChild& child, int flag) {
+    const MemoryResponse response = m_object->BeginRequest(MemoryRequest::GetExplicitChild, flag == kExplicitChildFlag);
     if (response.filled)
-        child.View(&Object().Extras().explicitData);
+        child.View(this);
     return response.code;
 }
 
-HRESULT MemoryInterface<ZFXExplicitData>::ReadTag(int& tag) {
-    const MemoryResponse response = Object().BeginRequest(MemoryRequest::GetTag);
+HRESULT MemoryRareInterfaces::ReadTag(int& tag) {
+    const MemoryResponse response = m_object->BeginRequest(MemoryRequest::GetTag);
     if (!response.filled)
         return response.code;
-    const std::optional<int>& known = Object().ExtrasOrNone().tag;
+    const std::optional<int>& known = m_object->ExtrasOrNone().tag;
     if (!known)
         return E_FAIL;
     tag = *known;
     return response.code;
 }
 
-ZFXUnicodeString MemoryInterface<ZFXIMaterialFeature>::GetMaterialFeatureName() {
-    return Object().BeginRequest(MemoryRequest::GetMaterialFeatureName).filled ? Object().ExtrasOrNone().materialName
-                                                                               : ZFXUnicodeString();
+ZFXUnicodeString MemoryRareInterfaces::GetMaterialFeatureName() {
+    return m_object->BeginRequest(MemoryRequest::GetMaterialFeatureName).filled ? m_object->ExtrasOrNone().materialName
+                                                                                : ZFXUnicodeString();
 }

@@ -161,7 +161,7 @@ ZFXUnicodeString MemoryFeature::LateType() const {
     return m_object == nullptr ? ZFXUnicodeString() : m_object->lateType->name;
 }
 long MemoryFeature::References() const { return m_object == nullptr ? 0 : m_object->References(); }
-ZFXBaseUnknown* MemoryFeature::Object() const { return m_object; }
+ZFXBaseUnknown* MemoryFeature::Object() const { return static_cast<ZFXObject*>(m_object); }
 
 MemoryFeature MemoryDocument::Model() const { return MemoryFeature(m_document->model); }
 

@@ -14,47 +14,40 @@ const MemoryLateType& MemoryLateType::Of(const ZFXUnicodeString& name) {
 }
 
 MemoryObject::MemoryObject(MemoryDocumentObject* owner, MemoryKind objectKind, const MemoryLateType& type)
-    : m_faults(owner == nullptr ? nullptr : &owner->session.faults),
-      lateType(&type),
-      document(owner),
-      kind(objectKind) {
+    : ZFXImplements(owner == nullptr ? nullptr : &owner->session.faults, type), document(owner), kind(objectKind) {
     ++live;
 }
 
 MemoryObject::~MemoryObject() { --live; }
 
 MemoryExtras& MemoryObject::Extras() {
-    if (m_extras == nullptr) {
-        m_extras = std::make_unique<MemoryExtras>();
-        m_extras->explicitData.SetImpl(this);
-    }
+    if (m_extras == nullptr)
+        m_extras = std::make_unique<MemoryExtras>(this);
     return *m_extras;
 }
 
 const MemoryExtras& MemoryObject::NoExtras() {
-    static const MemoryExtras none{};
+    static const MemoryExtras none(nullptr);
     return none;
 }
 
 MemoryResponse MemoryObject::RejectArguments(MemoryRequest request) {
-    if (m_faults != nullptr)
-        m_faults->RecordUnexpectedArgument(request);
+    if (faults != nullptr)
+        faults->RecordUnexpectedArgument(request);
     return {E_INVALIDARG, false};
 }
 
 void MemoryObject::Offer(const IID& iid) {
     const auto number = static_cast<std::size_t>(ZFXNumberOf(iid));
-    m_offered.set(number);
-    m_withheld.reset(number);
-    // Creates the extras if the interface object is part of them, so that a query allocates nothing.
-    if (ZFXBaseUnknown* object = InterfaceObject(ZFXNumberOf(iid)))
-        object->SetImpl(this);
+    offered.set(number);
+    withheld.reset(number);
+    ImplementedInterface(ZFXNumberOf(iid)); // creates the extras if they implement it, so that a cast allocates nothing
 }
 
 void MemoryObject::Withhold(const IID& iid) {
     const auto number = static_cast<std::size_t>(ZFXNumberOf(iid));
-    m_offered.reset(number);
-    m_withheld.set(number);
+    offered.reset(number);
+    withheld.set(number);
 }
 
 MemoryObject* MemoryObject::NearestAbove(ZFXInterfaceNumber number) const {
@@ -76,7 +69,7 @@ long MemoryObject::References() {
 
 void MemoryObject::Detach() {
     document = nullptr;
-    m_faults = nullptr;
+    faults = nullptr;
     parent = father = nullptr;
     parentSets.clear();
     if (m_extras == nullptr)
@@ -93,19 +86,17 @@ HRESULT MemoryObject::QueryInterface(const IID& iid, void** result) {
     if (result == nullptr)
         return E_POINTER;
     *result = nullptr;
-    if (iid == IID_ZFXBaseUnknown) {
+    if (iid == IID_ZFXBaseUnknown) { // no request
         AddRef();
-        *result = static_cast<ZFXBaseUnknown*>(this);
+        *result = Root();
         return S_OK;
     }
     const ZFXInterfaceNumber number = ZFXNumberOf(iid);
-    if (!BeginRequest(MemoryRequest::Cast).filled || m_withheld.test(static_cast<std::size_t>(number)))
+    if (!BeginRequest(MemoryRequest::Cast).filled || withheld.test(static_cast<std::size_t>(number)))
         return E_NOINTERFACE;
     // An extension that a module declared for the late type takes precedence over the object's own interface.
-    const ZFXAdaptorFactory factory =
-        lateType->metaClass->IsExtended() ? lateType->metaClass->FindAdaptorFactory(iid) : nullptr;
-    if (factory != nullptr) {
-        *result = factory(this, nullptr);
+    if (const ZFXAdaptorFactory factory = FindExtension(iid)) {
+        *result = factory(Root(), nullptr);
         return *result == nullptr ? E_NOINTERFACE : S_OK;
     }
     ZFXBaseUnknown* own = OfferedInterface(number);

@@ -2,8 +2,7 @@
 
 #include "memory-model/MemoryAttributes.h"
 #include "memory-model/MemoryFaults.h"
-#include "memory-model/MemoryInterfaces.h"
-#include "object-model/ZFXMetaClass.h"
+#include "object-model/ZFXImplements.h"
 
 #include <bitset>
 #include <map>
@@ -23,8 +22,49 @@ struct MemoryLateType {
 
 using MemoryObjects = std::vector<MemoryObject*>;
 
+/// The interfaces that few objects offer. They are part of an object and forward the operations of the root to it.
+class MemoryRareInterfaces final : public ZFXISamAnalysisModel,
+                                   public ZFXISamAnalysisCase,
+                                   public ZFXISamAnalysisSet,
+                                   public ZFXISamAnalysisScan,
+                                   public ZFXISamAnalysisSupport,
+                                   public ZFXISamAnalysisConnector,
+                                   public ZFXISamExplicit,
+                                   public ZFXExplicitData,
+                                   public ZFXIMSHMeshManager,
+                                   public ZFXIMSHMeshPart,
+                                   public ZFXIMaterialFeature,
+                                   public QVRIStep,
+                                   public QVRISamGroupExt,
+                                   public QVRISamAnalysisConnectionDesign {
+public:
+    explicit MemoryRareInterfaces(MemoryObject* object) : m_object(object) {}
+
+    HRESULT QueryInterface(const IID& iid, void** result) override;
+    HRESULT QueryInterface(const char* name, void** result) override;
+    ULONG AddRef() override;
+    ULONG Release() override;
+    ZFXBaseUnknown* GetImpl() const override;
+    HRESULT ListAnalysisCases(ZFXListValZFXBaseUnknown_var& cases) override;
+    HRESULT ListMembers(ZFXListValZFXISpecObject_var& members, const IID& filter, int flag) override;
+    HRESULT FindObjectsOfType(const ZFXUnicodeString& lateType, ZFXListValZFXBaseUnknown_var& found, int mode) override;
+    HRESULT ListChildren(ZFXListValZFXBaseUnknown_var& children, int mode) override;
+    HRESULT ListConnectors(ZFXListValZFXBaseUnknown_var& connectors) override;
+    HRESULT GetGroup(ZFXBaseUnknown*& group) override;
+    HRESULT GetExplicitChild(ZFXAnalysisExplicitChild& child, int flag) override;
+    HRESULT ReadTag(int& tag) override;
+    ZFXUnicodeString GetMaterialFeatureName() override;
+    HRESULT GetMasterAndSlaveConnectors(ZFXListValZFXBaseUnknown_var& master,
+                                        ZFXListValZFXBaseUnknown_var& slave) override;
+
+private:
+    MemoryObject* m_object;
+};
+
 /// The data that few objects need. Most objects of a document are plain features without it.
 struct MemoryExtras {
+    explicit MemoryExtras(MemoryObject* object) : interfaces(object) {}
+
     MemoryObjects children;
     MemoryObjects members;
     MemoryObjects connectors;
@@ -39,39 +79,46 @@ struct MemoryExtras {
     std::optional<bool> amplitude;
     bool solverCase = true;
     MemoryRareInterfaces interfaces;
-    MemoryInterface<ZFXExplicitData> explicitData;
 };
 
-/// An object of a document: the implementation behind its interface objects.
-class MemoryObject final : public ZFXBaseUnknown {
+/// What a scan reads of each feature. It is one base of the object, so that its members are adjacent: a scope is larger
+/// than the processor's caches.
+struct MemoryScanned : ZFXObject {
     using Interfaces = std::bitset<32>; // by ZFXInterfaceNumber
     static_assert(static_cast<std::size_t>(ZFXInterfaceNumber::Count) <= Interfaces().size());
 
-    // The members that a scan reads of each feature come first and are adjacent: a scope is larger than the processor's
-    // caches.
-    MemoryFaults* m_faults; // of the document's session; null once the document is closed
-    Interfaces m_offered;
-    Interfaces m_withheld;
+    MemoryScanned(MemoryFaults* sessionFaults, const MemoryLateType& type)
+        : ZFXObject(type.metaClass), faults(sessionFaults), lateType(&type) {}
 
-public:
+    MemoryFaults* faults; // of the document's session; null once the document is closed
+    Interfaces offered;
+    Interfaces withheld;
     const MemoryLateType* lateType;
-
-private:
-    MemoryInterface<ZFXIAlias> m_alias;
-
-public:
     ZFXUnicodeString alias;
+};
 
-private:
-    MemoryInterface<ZFXISpecObject> m_specObject;
-    MemoryInterface<QVRIPropagatingFeature> m_propagatingFeature;
-
+/// An object of a document. It implements the interfaces that nearly every object offers; the extras implement the
+/// others. MemoryInterfaces.cpp defines their operations.
+class MemoryObject final : public ZFXImplements<MemoryScanned, ZFXIAlias, ZFXISpecObject, QVRIPropagatingFeature,
+                                                ZFXISpecAttrAccess, ZFXILinkableObject, ZFXISamAnalysisEntity> {
 public:
     MemoryObject(MemoryDocumentObject* owner, MemoryKind objectKind, const MemoryLateType& type);
     ~MemoryObject() override;
 
-    using ZFXBaseUnknown::QueryInterface;
+    using ZFXImplements::QueryInterface;
     HRESULT QueryInterface(const IID& iid, void** result) override;
+    void SetAlias(const ZFXUnicodeString& newAlias) override;
+    ZFXUnicodeString GetAlias() override;
+    ZFXUnicodeString GetLateType() override;
+    ZFXBaseUnknown* GetFather() override;
+    ZFXListValZFXISpecAttribute_var* ListPointingAttributes(const char* interfaceName, const ZFXUnicodeString& type,
+                                                            const ZFXUnicodeString& name) override;
+    int IsPropagated() override;
+    ZFXISpecAttrKey* GetAttrKey(const char* name) override;
+    void SetString(ZFXISpecAttrKey* key, const ZFXUnicodeString& value, int index) override;
+    ZFXUnicodeString GetString(ZFXISpecAttrKey* key, int index) override;
+    ZFXDocument* GetOwningDocument() override;
+    HRESULT GetParentSets(ZFXListValZFXBaseUnknown_var*& sets) override;
 
     /// Returns the extras. Creates them at the first call.
     MemoryExtras& Extras();
@@ -80,7 +127,7 @@ public:
 
     /// Counts a request on this object and returns its response. After the document was closed, always kSuccess.
     MemoryResponse BeginRequest(MemoryRequest request) {
-        return m_faults == nullptr ? MemoryFaults::kSuccess : m_faults->BeginRequest(request, this);
+        return faults == nullptr ? MemoryFaults::kSuccess : faults->BeginRequest(request, this);
     }
     /// BeginRequest for a request that supports one value of each argument only. If an argument has another value,
     /// records the request in the faults and returns E_INVALIDARG, with the outputs not filled.
@@ -94,11 +141,11 @@ public:
     /// Offers the interface no longer. Extensions of the late type cannot add it either.
     void Withhold(const IID& iid);
     /// Returns true if the object itself offers the interface.
-    bool IsOffered(ZFXInterfaceNumber number) const { return m_offered.test(static_cast<std::size_t>(number)); }
-    /// Returns the object's own interface object, or null if the object does not offer the interface. Makes no request.
+    bool IsOffered(ZFXInterfaceNumber number) const { return offered.test(static_cast<std::size_t>(number)); }
+    /// Returns the object's own interface, or null if the object does not offer the interface. Makes no request.
     /// [borrowed]
     ZFXBaseUnknown* OfferedInterface(ZFXInterfaceNumber number) {
-        return IsOffered(number) ? InterfaceObject(number) : nullptr;
+        return IsOffered(number) ? ImplementedInterface(number) : nullptr;
     }
 
     /// Returns the nearest object above this one in the tree that offers the interface, or null.
@@ -122,9 +169,10 @@ public:
     static long live;
 
 private:
+    /// Returns an interface, which the object may not offer. Returns null for ZFXISpecAttribute. [borrowed]
+    ZFXBaseUnknown* ImplementedInterface(ZFXInterfaceNumber number);
     template <class Interface>
-    ZFXBaseUnknown* InterfaceObject();
-    ZFXBaseUnknown* InterfaceObject(ZFXInterfaceNumber number);
+    ZFXBaseUnknown* ImplementedInterface();
     static const MemoryExtras& NoExtras();
     MemoryResponse RejectArguments(MemoryRequest request);
     template <class Visit>
@@ -135,38 +183,26 @@ private:
     }
 
     std::unique_ptr<MemoryExtras> m_extras;
-    MemoryInterface<ZFXISpecAttrAccess> m_attrAccess;
-    MemoryInterface<ZFXILinkableObject> m_linkableObject;
-    MemoryInterface<ZFXISamAnalysisEntity> m_entity;
 };
 
-/// Returns the interface object of an interface, or null for ZFXISpecAttribute. The object may not offer it.
 template <class Interface>
-ZFXBaseUnknown* MemoryObject::InterfaceObject() {
-    if constexpr (kIsRareInterface<Interface>)
-        return &std::get<MemoryInterface<Interface>>(Extras().interfaces);
-    else if constexpr (std::is_same_v<Interface, ZFXIAlias>)
-        return &m_alias;
-    else if constexpr (std::is_same_v<Interface, ZFXISpecObject>)
-        return &m_specObject;
-    else if constexpr (std::is_same_v<Interface, ZFXISpecAttrAccess>)
-        return &m_attrAccess;
-    else if constexpr (std::is_same_v<Interface, ZFXILinkableObject>)
-        return &m_linkableObject;
-    else if constexpr (std::is_same_v<Interface, ZFXISamAnalysisEntity>)
-        return &m_entity;
-    else if constexpr (std::is_same_v<Interface, QVRIPropagatingFeature>)
-        return &m_propagatingFeature;
+ZFXBaseUnknown* MemoryObject::ImplementedInterface() {
+    if constexpr (std::is_base_of_v<Interface, MemoryObject>)
+        return static_cast<Interface*>(this);
+    else if constexpr (std::is_base_of_v<Interface, MemoryRareInterfaces>)
+        return static_cast<Interface*>(&Extras().interfaces);
     else
-        return nullptr;
+        static_assert(std::is_same_v<Interface, ZFXISpecAttribute>,
+                      "add the interface to MemoryRareInterfaces. An attribute is not an object of the document tree");
+    return nullptr;
 }
 
 // Inline, so that a number that is known at compile time needs no switch.
-inline ZFXBaseUnknown* MemoryObject::InterfaceObject(ZFXInterfaceNumber number) {
+inline ZFXBaseUnknown* MemoryObject::ImplementedInterface(ZFXInterfaceNumber number) {
     switch (number) {
 #define ZFX_INTERFACE(name)                                                                                            \
     case ZFXInterfaceNumber::name:                                                                                     \
-        return InterfaceObject<name>();
+        return ImplementedInterface<name>();
 #include "object-model/ZFXInterfaces.def"
 #undef ZFX_INTERFACE
     case ZFXInterfaceNumber::None:
@@ -176,28 +212,11 @@ inline ZFXBaseUnknown* MemoryObject::InterfaceObject(ZFXInterfaceNumber number) 
     return nullptr;
 }
 
-/// Returns a handle on the object's own interface object, without a request. The handle is empty if `object` is null or
+/// Returns a handle on the object's own interface, without a request. The handle is empty if `object` is null or
 /// does not offer the interface.
 template <class Interface>
 ZFXHandle<Interface> InterfaceOf(MemoryObject* object) {
     if (object == nullptr)
         return {};
     return ZFXHandle<Interface>(static_cast<Interface*>(object->OfferedInterface(ZFXNumberOf(Interface::ClassId()))));
-}
-
-template <class Interface>
-MemoryObject& MemoryInterfaceBase<Interface>::Object() const noexcept {
-    return static_cast<MemoryObject&>(*this->Implementation());
-}
-template <class Interface>
-HRESULT MemoryInterfaceBase<Interface>::QueryInterface(const IID& iid, void** result) {
-    return Object().QueryInterface(iid, result);
-}
-template <class Interface>
-ULONG MemoryInterfaceBase<Interface>::AddRef() {
-    return Object().AddRef();
-}
-template <class Interface>
-ULONG MemoryInterfaceBase<Interface>::Release() {
-    return Object().Release();
 }

@@ -8,6 +8,8 @@
 #include <type_traits>
 #include <utility>
 
+class ZFXObject;
+
 /// A smart pointer to one interface of an object. It has one reference to the object, or is empty.
 ///
 /// Constructing a handle from a handle or pointer of another type is the interface cast: it calls QueryInterface, and
@@ -27,11 +29,18 @@ class ZFXHandle {
     // True if a pointer to Derived converts to a pointer to Base, constant or not.
     template <class Derived, class Base>
     static constexpr bool kDerivesFrom = std::is_convertible_v<const volatile Derived*, const volatile Base*>;
+    // True for the class of an object with interfaces as bases. An extension can take precedence over such a base, so
+    // the interface cast finds the interface.
     template <class Other>
-    static constexpr bool kIsSameOrBase = kDerivesFrom<Other, Interface>;
+    static constexpr bool kIsObject = kDerivesFrom<Other, ZFXObject>;
+    template <class Other>
+    static constexpr bool kIsSameOrBase = kDerivesFrom<Other, Interface> && (!kIsObject<Other> || kIsObject<Interface>);
     // Accepts constant objects too, so that overload resolution prefers it to the comparison of two raw pointers.
     template <class Other>
-    using Comparison = std::enable_if_t<kDerivesFrom<Other, ZFXBaseUnknown>, bool>;
+    using Comparison = std::enable_if_t<kDerivesFrom<Other, ZFXBaseUnknown> || kIsObject<Other>, bool>;
+    // The base of an object that leads to one root; its interfaces lead to others.
+    template <class Other>
+    using Rooted = std::conditional_t<kIsObject<Other>, ZFXObject, Other>;
 
 public:
     /// Constructs an empty handle.
@@ -40,7 +49,7 @@ public:
     ZFXHandle(std::nullptr_t) noexcept {}
     /// @}
     /// Casts a borrowed pointer. Adds a reference; the caller keeps its own.
-    template <class Other, class = std::enable_if_t<kDerivesFrom<Other, ZFXBaseUnknown>>>
+    template <class Other, class = std::enable_if_t<kDerivesFrom<Other, ZFXBaseUnknown> || kIsObject<Other>>>
     ZFXHandle(Other* object) {
         Cast(object);
     }
@@ -118,7 +127,7 @@ public:
     }
     template <class Other>
     friend Comparison<Other> operator==(const ZFXHandle& a, Other* b) {
-        return ZFXSameObject(a.Get(), b);
+        return ZFXSameObject(a.Get(), static_cast<const Rooted<Other>*>(b));
     }
     template <class Other>
     friend Comparison<Other> operator==(Other* a, const ZFXHandle& b) {
@@ -158,6 +167,8 @@ private:
         if constexpr (kIsSameOrBase<Other>) {
             m_pointer = object;
             m_pointer->AddRef();
+        } else if constexpr (kIsObject<Other>) {
+            Cast<ZFXBaseUnknown>(static_cast<Rooted<Other>*>(object));
         } else {
             void* result = nullptr;
             if (!Failed(object->QueryInterface(Interface::ClassId(), &result)))

@@ -11,5 +11,5 @@ for piece in "${pieces[@]}"; do
     [[ $(<"$source")$'\n' == *"$piece"* ]] || fault "$source does not contain:
 $piece"
 done
-check "the program has fewer lines than the 150 that the page states" [ "$(wc -l <"$source")" -lt 150 ]
+check "the program has fewer lines than the 125 that the page states" [ "$(wc -l <"$source")" -lt 125 ]
 finish

@@ -1,0 +1,97 @@
+#pragma once
+
+#include "object-model/ZFXBaseUnknown.h"
+#include "object-model/ZFXHandle.h"
+#include "object-model/ZFXMetaClass.h"
+
+#include <type_traits>
+
+/// Returns the root of an object with one more reference, which the caller owns; null for null. An operation marked
+/// [new reference] returns the result: `return ZFXNewReference(m_father);`
+template <class Object>
+[[nodiscard]] ZFXBaseUnknown* ZFXNewReference(Object* object) {
+    return ZFXBaseUnknown_var(object).Detach();
+}
+
+/// What all interfaces of one object share: the reference count, the identity and the late type. A host derives the
+/// class of its document nodes from it, and passes that class to ZFXImplements.
+class ZFXObject : public ZFXBaseUnknown {
+public:
+    /// @param lateType  the meta class of the late type, from `fct_FindMetaObject`; its extensions add interfaces to
+    /// the
+    ///                  object. Null for an object that is no feature, such as an attribute.
+    explicit ZFXObject(const ZFXMetaClass* lateType)
+        : m_lateType(lateType != nullptr ? lateType : ZFXnull::MetaObject()) {}
+
+    /// Returns the name of the late type, or "ZFXnull" if the object has none. [borrowed]
+    const char* LateType() const noexcept { return m_lateType->IsA(); }
+
+protected:
+    /// Returns the factory of the adaptor that an extension of the late type offers for the interface, or null.
+    ZFXAdaptorFactory FindExtension(const IID& iid) const noexcept {
+        return m_lateType->IsExtended() ? m_lateType->FindAdaptorFactory(iid) : nullptr;
+    }
+    /// Implements QueryInterface.
+    /// @param own  the interface that the object itself implements, or null
+    HRESULT Cast(const IID& iid, ZFXBaseUnknown* own, void** interfacePointer) {
+        if (interfacePointer == nullptr)
+            return E_POINTER;
+        const ZFXAdaptorFactory factory = FindExtension(iid);
+        if (factory == nullptr && own != nullptr)
+            AddRef();
+        // The root is the first base of every interface, so the address is that of the interface.
+        *interfacePointer = factory != nullptr ? factory(this, nullptr) : own;
+        return *interfacePointer == nullptr ? E_NOINTERFACE : S_OK;
+    }
+    /// Returns the interface that the object itself implements, without a new reference, or null. [borrowed]
+    ZFXBaseUnknown* OwnInterface(const IID& iid) noexcept { return iid == IID_ZFXBaseUnknown ? this : nullptr; }
+
+private:
+    const ZFXMetaClass* m_lateType; // not null
+};
+
+/// An object with interfaces. It implements the operations of the root for all of them: one reference count, one
+/// identity, and the interface cast, in which an extension of the late type takes precedence over the object's own
+/// interface. The derived class implements the operations of the interfaces only:
+///
+///     class Load final : public ZFXImplements<ZFXObject, ZFXISpecObject, ZFXIAlias> {
+///     public:
+///         Load() : ZFXImplements(fct_FindMetaObject("QVRPressure")) {}
+///         ZFXUnicodeString GetLateType() override { return LateType(); }
+///         ...
+///     };
+///
+/// A pointer to the object converts to handles: `ZFXIAlias_var(load)` is an interface cast. Do not call an operation of
+/// an interface on the object itself: the call does not reach an extension.
+/// @tparam Object      ZFXObject or a class derived from it: the class with the data of all nodes, or another
+///                     ZFXImplements. Its constructors are inherited.
+/// @tparam Interfaces  the interfaces that the object offers in addition to those of `Object`
+template <class Object, class... Interfaces>
+class ZFXImplements : public Object, public Interfaces... {
+    static_assert(std::is_base_of_v<ZFXObject, Object>, "the first argument is ZFXObject or derived from it");
+
+public:
+    using Object::Object;
+
+    HRESULT QueryInterface(const IID& iid, void** interfacePointer) override {
+        return this->Cast(iid, OwnInterface(iid), interfacePointer);
+    }
+    HRESULT QueryInterface(const char* interfaceName, void** interfacePointer) override {
+        return Object::QueryInterface(interfaceName, interfacePointer);
+    }
+    ULONG AddRef() override { return Object::AddRef(); }
+    ULONG Release() override { return Object::Release(); }
+    ZFXBaseUnknown* GetImpl() const override { return const_cast<ZFXImplements*>(this)->Root(); }
+
+protected:
+    ULONG& Count() noexcept { return Object::Count(); }
+    /// Returns the root interface, which is also the identity of the object. [borrowed]
+    ZFXBaseUnknown* Root() noexcept { return static_cast<ZFXObject*>(this); }
+    /// Returns the interface that the object itself implements, without a new reference, or null. [borrowed]
+    ZFXBaseUnknown* OwnInterface(const IID& iid) noexcept {
+        ZFXBaseUnknown* ownInterface = Object::OwnInterface(iid);
+        static_cast<void>(
+            ((iid == Interfaces::ClassId() && (ownInterface = static_cast<Interfaces*>(this)) != nullptr) || ...));
+        return ownInterface;
+    }
+};
