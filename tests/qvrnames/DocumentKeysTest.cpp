@@ -81,26 +81,23 @@ Words KeysIn(const nlohmann::json& schema, const nlohmann::json& definition) {
 
 TEST(DocumentKeys, AreThoseOfTheSchema) {
     const auto schema = nlohmann::json::parse(ReadFile(QVRNAMES_FOLDER "/document.schema.json"));
+    using enum MemoryKind;
     // clang-format off
     const std::pair<const char*, MemoryKind> rows[] = {
-        {"case", MemoryKind::Case}, {"history", MemoryKind::History}, {"step", MemoryKind::Step},
-        {"set", MemoryKind::Set}, {"propertySet", MemoryKind::Set}, {"jobContainer", MemoryKind::JobContainer},
-        {"feature", MemoryKind::Feature}, {"job", MemoryKind::Feature}, {"meshManager", MemoryKind::MeshManager},
-        {"meshPart", MemoryKind::MeshPart}, {"material", MemoryKind::Material}, {"group", MemoryKind::Group},
-        {"support", MemoryKind::Support}, {"connector", MemoryKind::Connector},
-        {"connectionDesign", MemoryKind::ConnectionDesign},
+        {"case", Case}, {"history", History}, {"step", Step}, {"set", Set}, {"propertySet", Set}, {"job", Feature},
+        {"jobContainer", JobContainer}, {"feature", Feature}, {"meshManager", MeshManager}, {"meshPart", MeshPart},
+        {"material", Material}, {"group", Group}, {"support", Support}, {"connector", Connector},
+        {"connectionDesign", ConnectionDesign},
     };
     // clang-format on
     for (const auto& [name, kind] : rows)
         EXPECT_EQ(KeysIn(schema, schema.at("$defs").at(name)), Keys(kind)) << name;
-    EXPECT_EQ(KeysIn(schema, schema), Keys(MemoryKind::Model));
+    EXPECT_EQ(KeysIn(schema, schema), Keys(Model));
     const std::string text = schema.dump();
-    for (const ChildKey& child : kChildKeys) {
-        if (child.defaultType == nullptr || child.kind == MemoryKind::MeshManager)
-            continue;
-        const std::string member = std::string(R"("default":")") + child.defaultType;
-        EXPECT_NE(text.find(member), std::string::npos) << member;
-    }
+    for (const ChildKey& child : kChildKeys)
+        if (child.defaultType != nullptr && child.kind != MeshManager) {
+            EXPECT_NE(text.find(std::string(R"("default":")") + child.defaultType), text.npos) << child.defaultType;
+        }
 }
 
 } // namespace

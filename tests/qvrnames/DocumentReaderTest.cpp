@@ -74,7 +74,7 @@ protected:
     LoadedDocument m_loaded{R"({
         "id": "model",
         "materials": [{"id": "alu", "name": "Alu"}],
-        "propertySet": {"features": [{"type": "SAMShell", "id": "shell", "property": false}]},
+        "propertySet": {"features": [{"type": "SAMShell", "id": "shell", "property": false, "amplitude": true}]},
         "cases": [
             {"id": "other case", "solverCase": false},
             {"jobs": [{"id": "job"}], "jobContainers": [{"id": "jobs"}],
@@ -82,7 +82,7 @@ protected:
              "steps": [{"type": "S", "id": "step", "attributes": {"FileLink": "a.inp"},
                         "sets": [{"type": "L", "id": "loads", "features": [
                             {"type": "P", "id": "load", "propagated": true, "father": null}]}]}]}],
-        "sets": [{"type": "L", "id": "more", "holds": ["load"], "pointedAtBy": ["step"]}]
+        "sets": [{"type": "L", "id": "more", "holds": ["load"], "offers": ["QVRIStep"], "pointedAtBy": ["step"]}]
     })"};
 };
 
@@ -103,6 +103,8 @@ TEST_F(SmallDocument, HasFathersAndMembers) {
 TEST_F(SmallDocument, HasFlagsAndTexts) {
     ZFXISpecObject_var shell = (*this)["shell"];
     EXPECT_FALSE(QVRAnalysisEntityUtils::IsObjectAProperty(shell));
+    EXPECT_TRUE(QVRAnalysisEntityUtils::IsObjectAnAmplitude(shell));
+    EXPECT_NE(QVRIStep_var((*this)["more"]), nullptr);
     EXPECT_NE(QVRIPropagatingFeature_var((*this)["load"])->IsPropagated(), 0);
     ZFXISamAnalysisCase_var otherCase = (*this)["other case"];
     EXPECT_FALSE(QVRAnalysisDocUtils::IsTarnisAnalysisCase(otherCase));
