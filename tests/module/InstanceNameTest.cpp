@@ -48,20 +48,18 @@ TEST_F(InstanceNameTest, BatchEqualsSingleCalls) {
 }
 
 TEST_F(InstanceNameTest, ContainsTheTag) {
-    const auto tagOf = [](const char* name) {
-        int tag = 77;
-        const HRESULT code = QVRGenInstanceName::GetUniqueLegalInstanceTag(tag, name);
-        EXPECT_EQ(code, tag == -1 ? E_FAIL : S_OK) << name;
-        return tag;
+    // clang-format off
+    const std::pair<const char*, int> rows[] = { // without a number, the tag 77 is unchanged
+        {"INSTANCE3-BRACKET-1", 3}, {"xINSTANCE12-X-9", 12}, {"INSTANCE12", 12}, {"INSTANCE7INSTANCE8", 7},
+        {"INSTANCEabc-1", 77}, {"INSTANCE99999999999-1", 77}, {"INSTANCE-5", 77}, {"INSTANCE-5-1", 77}, {"INSTANCE", 77},
+        {"Instance3-Bracket", -1}, {"PART3-B", -1}, {"", -1},
     };
-    EXPECT_EQ(tagOf("INSTANCE3-BRACKET-1"), 3);
-    EXPECT_EQ(tagOf("xINSTANCE12-X-9"), 12);
-    EXPECT_EQ(tagOf("INSTANCE12"), 12);
-    EXPECT_EQ(tagOf("INSTANCE7INSTANCE8"), 7);
-    for (const char* withoutTag : {"INSTANCEabc-1", "INSTANCE99999999999-1", "INSTANCE-5", "INSTANCE-5-1", "INSTANCE"})
-        EXPECT_EQ(tagOf(withoutTag), 77) << withoutTag << " changed the tag";
-    for (const char* name : {"Instance3-Bracket", "PART3-B", ""})
-        EXPECT_EQ(tagOf(name), -1) << name;
+    // clang-format on
+    for (const auto& [name, expected] : rows) {
+        int tag = 77;
+        EXPECT_EQ(QVRGenInstanceName::GetUniqueLegalInstanceTag(tag, name), expected == -1 ? E_FAIL : S_OK) << name;
+        EXPECT_EQ(tag, expected) << name;
+    }
 }
 
 } // namespace

@@ -60,7 +60,6 @@ TEST(NameValidation, ErrorRecordsFileAndLine) {
     EXPECT_STREQ(error->GetSourceFileName(), "QVRNameUtil/NameValidation.cpp"); // without the folder of the build
     EXPECT_GT(error->GetSourceLineNumber(), 0);
     EXPECT_EQ(error->GetInformationOnErrorType(), 2);
-    EXPECT_STREQ(error->IsA(), "ZFXInputError");
 }
 
 } // namespace
