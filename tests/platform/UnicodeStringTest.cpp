@@ -247,11 +247,11 @@ TEST(UnicodeChar, DigitsAreAsciiAndWhiteSpaceIsThatOfUnicode) {
         const auto c = ZFXUnicodeChar::FromUnit(static_cast<char16_t>(unit));
         EXPECT_EQ(c.IsDigit() != 0, unit >= '0' && unit <= '9') << unit;
     }
-    const std::pair<String, bool> rows[] = {{"\t\r \xC2\x85\xC2\xA0\u1680\u2003\u2028\u202F\u205F\u3000", true},
-                                            {"a_-\u200B\u180E\uFEFF", false}}; // the last three are invisible
+    const std::pair<String, int> rows[] = {{"\t\r \xC2\x85\xC2\xA0\u1680\u2003\u2028\u202F\u205F\u3000", 1},
+                                           {"a_-\u200B\u180E\uFEFF", 0}}; // the last three are invisible
     for (const auto& [text, isSpace] : rows)
         for (std::size_t i = 0; i < text.Units().size(); ++i)
-            EXPECT_EQ(text[i].IsSpace() != 0, isSpace) << i;
+            EXPECT_EQ(text[i].IsSpace(), isSpace) << i;
 }
 
 TEST(UnicodeChar, AssignsTheFirstCodeUnitOfANarrowText) {
