@@ -47,6 +47,7 @@ TEST_F(MemoryModelTest, SearchesFollowTheOrderOfTheDocument) {
     EXPECT_TRUE(parent == analysisCase.Object());
     const auto* pointing = ZFXISpecObject_var(second)->ListPointingAttributes("ZFXISpecObject", "", "");
     ASSERT_EQ(pointing->Size(), 1);
+    EXPECT_EQ(ZFXIAlias_var((*pointing)[1]), nullptr);
     EXPECT_TRUE(ZFXBaseUnknown_var::Attach((*pointing)[1]->GetOwner()) == analysisCase.History().Object());
 
     Objects* sets = nullptr;
