@@ -1,6 +1,7 @@
 // A minimal host: a document that supports one guarded rename and one name proposal. docs/bind-a-host.md explains it.
 #include "QVRNameUtil.h"
 #include "analysis/AnalysisInterfaces.h"
+#include "binding-check/ZFXBindingCheck.h"
 #include "object-model/ZFXImplements.h"
 #include <iostream>
 #include <vector>
@@ -108,6 +109,13 @@ int main() {
     Set loads("QVRLoadContainerLT", "", &preload);
     Load pressure("QVRPressure", "Pressure-1", &loads);
     Load load("QVRPressure", "", &loads);
+
+    std::vector<std::string> faults; // of this binding: there should be none
+    ZFXCheckModule(faults);
+    for (Node* node : std::vector<Node*>{&analysisCase, &history, &preload, &operation, &loads, &pressure, &load})
+        ZFXCheckBinding(node, faults);
+    for (const std::string& fault : faults)
+        std::cout << fault << "\n";
 
     for (const char* newName : {" PRELOAD_ ", " Bolt Load "}) { // the first one clashes with "Preload"
         ZFXIAlias_var(&operation)->SetAlias(newName);

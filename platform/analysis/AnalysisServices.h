@@ -19,13 +19,17 @@ public:
     AnalysisServices() = default;
     AnalysisServices(const AnalysisServices&) = delete;
     AnalysisServices& operator=(const AnalysisServices&) = delete;
+    /// Uninstalls the services if they are installed.
     virtual ~AnalysisServices();
 
     /// Installs the services of the process. They replace those installed before.
-    /// @param services  [borrowed] Must be uninstalled before it is destroyed. Null uninstalls.
+    /// @param services  [borrowed] Must be uninstalled before it is destroyed: the destructor of the derived class runs
+    ///                  before that of this class uninstalls it. Null uninstalls.
     static void Install(AnalysisServices* services) noexcept;
     /// Returns the installed services, or null if there are none. [borrowed]
     [[nodiscard]] static AnalysisServices* Installed() noexcept;
+    /// Returns true if the services that were installed last were destroyed without being uninstalled.
+    [[nodiscard]] static bool WereDestroyedWhileInstalled() noexcept;
 
     /// Appends the analysis cases of a document. [appends]
     ///

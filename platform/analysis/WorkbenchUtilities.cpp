@@ -3,6 +3,7 @@
 namespace {
 
 AnalysisServices* installed = nullptr;
+bool wereDestroyedWhileInstalled = false;
 
 /// Returns the result of an operation of the installed services, or `fallback` if none are installed.
 template <class Result, class... Parameters, class... Arguments>
@@ -14,8 +15,17 @@ constexpr unsigned char kNo = 0;
 
 } // namespace
 
-AnalysisServices::~AnalysisServices() = default;
-void AnalysisServices::Install(AnalysisServices* services) noexcept { installed = services; }
+AnalysisServices::~AnalysisServices() {
+    if (installed != this)
+        return;
+    installed = nullptr;
+    wereDestroyedWhileInstalled = true;
+}
+void AnalysisServices::Install(AnalysisServices* services) noexcept {
+    installed = services;
+    wereDestroyedWhileInstalled = false;
+}
+bool AnalysisServices::WereDestroyedWhileInstalled() noexcept { return wereDestroyedWhileInstalled; }
 AnalysisServices* AnalysisServices::Installed() noexcept { return installed; }
 
 HRESULT QVRAnalysisDocUtils::GetAllAnalysisCases(ZFXListValZFXBaseUnknown_var& cases, ZFXDocument* document) {
