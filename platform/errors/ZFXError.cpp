@@ -3,6 +3,7 @@
 #include "errors/MessageCatalog.h"
 #include "object-model/ZFXMetaClass.h"
 
+#include <algorithm>
 #include <array>
 #include <atomic>
 #include <cassert>
@@ -11,6 +12,7 @@
 #include <iostream>
 #include <optional>
 #include <string_view>
+#include <utility>
 
 namespace {
 
@@ -21,8 +23,7 @@ public:
     Registry(const Registry&) = delete;
     Registry& operator=(const Registry&) = delete;
     ~Registry() {
-        for (ZFXError* error : m_errors)
-            Free(error);
+        Clear();
         hasEnded = true;
     }
 
@@ -31,10 +32,16 @@ public:
 
     void Add(ZFXError* error) {
         assert(error != nullptr);
-        ZFXError*& slot = m_errors[m_next];
-        m_next = (m_next + 1) % m_errors.size();
-        Free(slot);
-        slot = error;
+        m_latest = (m_latest + 1) % m_errors.size();
+        Replace(m_errors[m_latest], error);
+    }
+    void Clear() {
+        for (ZFXError*& slot : m_errors)
+            Replace(slot, nullptr);
+    }
+    ZFXError* Latest() const noexcept { return m_errors[m_latest]; }
+    long Size() const noexcept {
+        return static_cast<long>(m_errors.size()) - std::count(m_errors.begin(), m_errors.end(), nullptr);
     }
     ZFXError* Find(HRESULT code) const noexcept {
         for (ZFXError* error : m_errors)
@@ -44,13 +51,13 @@ public:
     }
 
 private:
-    static void Free(ZFXError* error) {
-        if (error != nullptr)
-            error->Release();
+    static void Replace(ZFXError*& slot, ZFXError* error) {
+        if (ZFXError* former = std::exchange(slot, error))
+            former->Release();
     }
 
     std::array<ZFXError*, ZFXError::kRegistered> m_errors{};
-    std::size_t m_next = 0;
+    std::size_t m_latest = 0;
 };
 
 thread_local bool Registry::hasEnded = false;
@@ -139,6 +146,21 @@ HRESULT ZFXError::GetReturn(int type, ZFXError* error, ZFXBaseUnknown* /*object*
 ZFXError* ZFXError::ZFXGetLastError(HRESULT code, ZFXBaseUnknown* /*object*/) {
     const Registry* registry = ThreadRegistry();
     return registry == nullptr ? nullptr : registry->Find(code);
+}
+
+ZFXError* ZFXError::Latest() {
+    const Registry* registry = ThreadRegistry();
+    return registry == nullptr ? nullptr : registry->Latest();
+}
+
+void ZFXError::ReleaseRegistered() {
+    if (Registry* registry = ThreadRegistry())
+        registry->Clear();
+}
+
+long ZFXError::LiveObjects() {
+    const Registry* registry = ThreadRegistry();
+    return LiveAllocations() - (registry == nullptr ? 0 : registry->Size());
 }
 
 int ZFXError::GetId() const { return m_registeredCode; }

@@ -52,6 +52,14 @@ public:
     /// Returns the error that this thread registered under the code, or null if there is none. The error is valid until
     /// the next GetReturn of this thread. `object` is ignored. [borrowed]
     [[nodiscard]] static ZFXError* ZFXGetLastError(HRESULT code, ZFXBaseUnknown* object);
+    /// Returns the error that this thread registered last, or null if there is none. The error is valid until the next
+    /// GetReturn or ReleaseRegistered of this thread. [borrowed]
+    [[nodiscard]] static ZFXError* Latest();
+    /// Releases all errors that this thread registered. Their codes lead to no error from now on.
+    static void ReleaseRegistered();
+    /// Returns the number of platform objects that this thread has created with new and that were not destroyed,
+    /// without the registered errors. It is 0 in a test that released all objects of its host.
+    [[nodiscard]] static long LiveObjects();
     /// The number of errors that the registry of a thread keeps.
     static constexpr int kRegistered = 32;
 

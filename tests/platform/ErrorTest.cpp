@@ -47,14 +47,25 @@ TEST(Error, IsFoundUnderACodeOfItsOwn) {
 }
 
 TEST(Error, IsReleasedWhenThirtyTwoOthersWereRaised) {
+    ZFXError::ReleaseRegistered();
+    EXPECT_EQ(ZFXError::Latest(), nullptr);
+    const long others = ZFXError::LiveObjects();
     const HRESULT code = Raise(MakeError());
+    EXPECT_EQ(ZFXError::Latest()->GetId(), code);
     for (int i = 1; i < ZFXError::kRegistered; ++i)
-        static_cast<void>(Raise(MakeError()));
+        static_cast<void>(Raise(MakeError("Later")));
     EXPECT_NE(ZFXError::ZFXGetLastError(code, nullptr), nullptr);
     const long before = ZFXBaseUnknown::LiveAllocations();
-    static_cast<void>(Raise(MakeError()));
+    static_cast<void>(Raise(MakeError("Last")));
     EXPECT_EQ(ZFXError::ZFXGetLastError(code, nullptr), nullptr);
     EXPECT_EQ(ZFXBaseUnknown::LiveAllocations(), before);
+    EXPECT_STREQ(ZFXError::Latest()->GetMsgId(), "Last");
+    EXPECT_EQ(ZFXError::LiveObjects(), others);
+    const HRESULT last = ZFXError::Latest()->GetId();
+    ZFXError::ReleaseRegistered();
+    EXPECT_EQ(ZFXError::ZFXGetLastError(last, nullptr), nullptr);
+    EXPECT_EQ(ZFXBaseUnknown::LiveAllocations(), before - ZFXError::kRegistered);
+    EXPECT_EQ(ZFXError::LiveObjects(), others);
 }
 
 TEST(Error, IsAnInputErrorAndAnError) {
