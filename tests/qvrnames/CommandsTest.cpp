@@ -1,5 +1,7 @@
 #include "TestSupport.h"
 
+#include <nlohmann/json.hpp>
+
 #include "memory-model/MemoryModel.h"
 #include "text/ZFXUnicodeString.h"
 
@@ -37,7 +39,14 @@ std::vector<std::string> Words(const std::string& line) {
 /// Runs the command lines of a transcript and compares all output and the exit codes. A command line may begin with
 /// COLUMNS=N, the width of a terminal. To regenerate the transcripts, run qvrnames-tests with QVR_WRITE_EXPECTED=1 and
 /// examine the difference.
-class TranscriptTest : public ::testing::TestWithParam<std::string> {};
+class TranscriptTest : public ::testing::TestWithParam<std::string> {
+protected:
+    void SetUp() override { std::filesystem::current_path(Utf8::ToPath(TRANSCRIPTS_FOLDER)); }
+    void TearDown() override { std::filesystem::current_path(m_former); }
+
+private:
+    const std::filesystem::path m_former = std::filesystem::current_path();
+};
 
 TEST_P(TranscriptTest, OutputIsUnchanged) {
     const std::string folder = TRANSCRIPTS_FOLDER;
@@ -68,9 +77,44 @@ TEST_P(TranscriptTest, OutputIsUnchanged) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Each, TranscriptTest,
-                         ::testing::Values("audit", "check", "deck", "help", "paths", "propose", "rename", "terminals",
-                                           "usage"),
+                         ::testing::Values("audit", "check", "deck", "help", "paths", "propose", "rename", "reports",
+                                           "terminals", "usage"),
                          [](const auto& transcript) { return transcript.param; });
+
+using Json = nlohmann::json;
+
+/// Returns the place of the first value that a schema does not allow; empty if there is none. The schema may contain
+/// only the keywords that report.schema.json contains.
+std::string FirstFault(const Json& value, Json schema, const Json& root, const std::string& place = "#") {
+    if (schema.contains("$ref"))
+        schema = root.at(Json::json_pointer(schema["$ref"].get<std::string>().substr(1)));
+    if (schema.contains("const"))
+        return value == schema["const"] ? "" : place;
+    if (schema["type"] != (value.is_number() ? "integer" : value.type_name()))
+        return place;
+    std::string fault;
+    if (value.is_array())
+        for (const Json& element : value)
+            fault = fault.empty() ? FirstFault(element, schema["items"], root, place + "[]") : fault;
+    if (value.is_object()) {
+        for (const Json& required : schema["required"])
+            if (!value.contains(required.get<std::string>()))
+                return place + " without " + required.get<std::string>();
+        for (const auto& [key, member] : value.items())
+            if (fault.empty())
+                fault = schema["properties"].contains(key)
+                            ? FirstFault(member, schema["properties"][key], root, place + "/" + key)
+                            : place + "/" + key;
+    }
+    return fault;
+}
+
+TEST(Commands, PrintReportsThatConformToTheirSchema) {
+    const Json schema = Json::parse(ReadFile(QVRNAMES_FOLDER "/report.schema.json"));
+    const std::vector<std::string> arguments{"audit", TRANSCRIPTS_FOLDER "/reports",
+                                             Example("pump-flange-bracket.json"), "--deck", "--json"};
+    EXPECT_EQ(FirstFault(Json::parse(RunWith(arguments).out), schema, schema), "");
+}
 
 TEST(Commands, ReturnTwoForUnusableFiles) {
     const TestFolder folder;
@@ -82,7 +126,7 @@ TEST(Commands, ReturnTwoForUnusableFiles) {
     const std::pair<std::vector<std::string>, std::string> rows[] = {
         {{"check", "\xFF"}, "an argument is not UTF-8: \uFFFD"},
         {{"audit", "/no/such.json"}, "/no/such.json: cannot be read: No such file or directory"},
-        {{"audit", folderPath}, folderPath + ": cannot be read: Is a directory"},
+        {{"deck", folderPath}, folderPath + ": cannot be read: Is a directory"},
         {{"audit", empty}, empty + ": the file is empty; a JSON object was expected"},
         {{"audit", large}, large + ": larger than 256 MB, the maximum size of a document"},
         {{"rename", step, "step", "x", "--output", "/no/such/folder/x"},

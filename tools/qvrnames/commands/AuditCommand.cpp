@@ -1,103 +1,149 @@
 #include "ExitCode.h"
+#include "commands/AuditReport.h"
 #include "commands/Commands.h"
-#include "commands/Deck.h"
-#include "commands/NameChecks.h"
-#include "document/FeaturePaths.h"
+#include "files/FileErrors.h"
 #include "terminal/DisplayWidth.h"
 #include "terminal/Table.h"
 
-#include "QVRNameUtil.h"
+#include "text/Utf8Path.h"
 
-#include <nlohmann/json.hpp>
-
+#include <algorithm>
+#include <filesystem>
+#include <map>
 #include <ostream>
-#include <tuple>
 
 namespace {
 
-struct Findings {
-    std::size_t checked = 0;       ///< number of features
-    std::vector<Finding> refusals; ///< names of features that break a rule
-    std::vector<Finding> deck;     ///< names in the deck that break a rule or clash
-};
-
-/// Returns the findings about the stored names of the named entries, in document order.
-std::vector<Finding> CheckEntries(const LoadedDocument& loaded, const std::vector<std::uint32_t>& named) {
-    const EntriesByObject entryOf = IndexByObject(loaded);
-    ZFXListValZFXISpecObject_var features;
-    for (const std::uint32_t entry : named)
-        features.Append(loaded.entries[entry].feature);
-    ZFXListVal<QVRNameFinding> found;
-    std::ignore = QVRNameUtil::CheckNames(features, found); // always S_OK
-    std::vector<Finding> findings;
-    for (const QVRNameFinding& finding : found)
-        findings.push_back(
-            {entryOf.at(ZFXIdentityOf(finding.feature)), finding.name.ConvertToChar(), VerdictOf(finding, entryOf)});
-    return findings;
-}
-
-std::string Position(TextPosition position) {
-    return std::to_string(position.line) + ":" + std::to_string(position.column);
-}
-
-void PrintFindings(const LoadedDocument& loaded, const Findings& findings, bool withDeck, Console console) {
-    std::ostream& out = console.out;
-    Table table{{"LINE", "FEATURE", "NAME", "MESSAGE", "OTHER FEATURE", "TEXT"}, {}};
-    PositionFinder positions(loaded.text.Bytes());
-    for (const std::vector<Finding>* list : {&findings.refusals, &findings.deck})
-        for (const Finding& finding : *list)
-            table.rows.push_back({{Position(positions.Find(NameOffset(loaded, finding.entry)))},
-                                  {Printable(DisplayPath(loaded, finding.entry))},
-                                  {(finding.name.empty() ? "\"\"" : Printable(finding.name)) +
-                                   (finding.deckColumn.empty() ? "" : "  (deck, " + finding.deckColumn + ")")},
-                                  {finding.verdict.messageId.empty() ? "-" : finding.verdict.messageId, Style::Refusal},
-                                  {finding.verdict.other ? Printable(DisplayPath(loaded, *finding.verdict.other)) : ""},
-                                  {Printable(finding.verdict.message)}});
-    if (!table.rows.empty()) {
-        PrintTable(out, table, console.screen);
-        out << '\n';
+/// Returns the files to audit: the arguments, with the files "*.json" in and below a folder, by name, in its place.
+std::vector<std::string> FilesOf(const std::vector<std::string>& arguments) {
+    std::vector<std::string> files;
+    for (const std::string& argument : arguments) {
+        const std::filesystem::path path = Utf8::ToPath(argument);
+        std::error_code error;
+        if (argument == kStandardStream || !std::filesystem::is_directory(path, error)) {
+            files.push_back(argument);
+            continue;
+        }
+        std::vector<std::string> found;
+        for (const auto& entry : std::filesystem::recursive_directory_iterator(path))
+            if (entry.is_regular_file() && entry.path().extension() == ".json")
+                found.push_back(Utf8::FromPath(entry.path().generic_u16string())); // with "/" on every system
+        if (found.empty())
+            throw BadInput(argument + ": the folder contains no file *.json");
+        std::sort(found.begin(), found.end());
+        files.insert(files.end(), found.begin(), found.end());
     }
-    out << Counted(findings.checked, "feature") << " checked, " << Counted(findings.refusals.size(), "refusal");
-    if (withDeck)
-        out << ", " << Counted(findings.deck.size(), "finding") << " in the deck";
-    out << '\n';
+    return files;
 }
 
-nlohmann::ordered_json AsJson(const LoadedDocument& loaded, const std::vector<Finding>& findings) {
-    nlohmann::ordered_json list = nlohmann::ordered_json::array();
-    PositionFinder positions(loaded.text.Bytes());
-    for (const Finding& finding : findings) {
-        const MemoryFeature feature = loaded.entries[finding.entry].feature;
-        const TextPosition position = positions.Find(NameOffset(loaded, finding.entry));
-        list.push_back({{"feature", DisplayPath(loaded, finding.entry)},
-                        {"pointer", PointerOf(loaded, finding.entry)},
-                        {"line", position.line},
-                        {"column", position.column},
-                        {"type", feature.LateType().ConvertToChar()},
-                        {"name", finding.name}});
-        AddVerdict(list.back(), loaded, finding.verdict);
-        if (!finding.deckColumn.empty())
-            list.back()["deck"] = finding.deckColumn;
+std::string Position(const ReportedFinding& finding) {
+    return std::to_string(finding.object.position.line) + ":" + std::to_string(finding.object.position.column);
+}
+
+/// Returns the name that breaks the rule, and the column of a name in the deck.
+std::string NameIn(const ReportedFinding& finding) {
+    if (finding.rule == kUnknownType)
+        return "";
+    return (finding.name.empty() ? "\"\"" : Printable(finding.name)) +
+           (finding.deckColumn.empty() ? "" : "  (deck, " + finding.deckColumn + ")");
+}
+
+void PrintFindings(const std::vector<const ReportedFinding*>& findings, Console console) {
+    if (findings.empty())
+        return;
+    Table table{{"LINE", "FEATURE", "NAME", "RULE", "OTHER FEATURE", "TEXT"}, {}};
+    for (const ReportedFinding* finding : findings)
+        table.rows.push_back({{Position(*finding)},
+                              {Printable(finding->object.path)},
+                              {NameIn(*finding)},
+                              {finding->rule, Style::Refusal},
+                              {finding->other ? Printable(finding->other->path) : ""},
+                              {Printable(finding->message)}});
+    PrintTable(console.out, table, console.screen);
+    console.out << '\n';
+}
+
+/// Prints the findings of one document.
+void PrintDocument(const DocumentReport& report, const AuditRequest& request, bool withHeading, Console console) {
+    if (request.isSummary || !report.error.empty())
+        return;
+    const std::vector<const ReportedFinding*> findings = FindingsOf(report, request.isStrict);
+    if (withHeading && !findings.empty())
+        console.out << Styled(Printable(report.file), Style::Heading, console.screen) << '\n';
+    PrintFindings(findings, console);
+}
+
+/// Prints the sums over all documents and, on request, the number of findings by rule.
+void PrintSummary(const std::vector<DocumentReport>& reports, const AuditRequest& request, Console console) {
+    std::size_t checked = 0;
+    std::size_t refusals = 0;
+    std::size_t deckFaults = 0;
+    std::size_t unknownTypes = 0;
+    std::map<std::string, std::size_t> byRule;
+    for (const DocumentReport& report : reports) {
+        checked += report.checked;
+        refusals += report.refusals.size();
+        deckFaults += report.deckFaults.size();
+        unknownTypes += report.unknownTypes.size();
+        for (const ReportedFinding* finding : FindingsOf(report, request.isStrict))
+            ++byRule[finding->rule];
     }
-    return list;
+    if (request.isSummary && !byRule.empty()) {
+        Table table{{"RULE", "FINDINGS"}, {}};
+        for (const auto& [rule, count] : byRule)
+            table.rows.push_back({{rule, Style::Refusal}, {std::to_string(count)}});
+        PrintTable(console.out, table, console.screen);
+        console.out << '\n';
+    }
+    if (reports.size() > 1)
+        console.out << Counted(reports.size(), "document") << ", ";
+    console.out << Counted(checked, "feature") << " checked, " << Counted(refusals, "refusal");
+    if (request.withDeck)
+        console.out << ", " << Counted(deckFaults, "finding") << " in the deck";
+    if (unknownTypes > 0)
+        console.out << ", " << Counted(unknownTypes, "unknown late type");
+    console.out << '\n';
+}
+
+/// Prints what a user must notice in every format: why a document is unusable, and unknown late types.
+void PrintNotices(const DocumentReport& report, const AuditRequest& request, Console console) {
+    if (!report.error.empty())
+        console.err << "qvrnames: " << Printable(report.error) << '\n';
+    if (!request.isStrict)
+        for (const ReportedFinding& finding : report.unknownTypes)
+            console.err << "qvrnames: " << Printable(DisplayFileName(report.file)) << ":" << Position(finding)
+                        << ": warning: " << Printable(finding.message) << '\n';
+}
+
+int ExitCodeOf(const std::vector<DocumentReport>& reports, bool isStrict) {
+    ExitCode code = kSuccess;
+    for (const DocumentReport& report : reports)
+        code = std::max(code, !report.error.empty()                  ? kBadInput
+                              : FindingsOf(report, isStrict).empty() ? kSuccess
+                                                                     : kRefused);
+    return code;
 }
 
 } // namespace
 
-int AuditDocument(const AuditRequest& request, Console console) {
-    const auto loaded = OpenDocument(request.document);
-    const std::vector<std::uint32_t> named = NamedEntries(*loaded);
-    Findings findings{named.size(), CheckEntries(*loaded, named), {}};
-    if (request.withDeck)
-        findings.deck = CheckDeck(BuildDeck(*loaded), *loaded);
-    if (console.isJson) {
-        nlohmann::ordered_json json{{"featuresChecked", findings.checked},
-                                    {"refusals", AsJson(*loaded, findings.refusals)}};
-        if (request.withDeck)
-            json["deckFaults"] = AsJson(*loaded, findings.deck);
-        PrintJson(console.out, json);
-    } else {
-        PrintFindings(*loaded, findings, request.withDeck, console);
+int AuditDocuments(const AuditRequest& request, Console console) {
+    if (!request.format.empty() && console.isJson && request.format != "json")
+        throw BadInput("--json and --format " + request.format + " exclude each other");
+    AuditRequest resolved = request;
+    if (resolved.format.empty())
+        resolved.format = console.isJson ? "json" : "text";
+    const bool isText = resolved.format == "text";
+    const std::vector<std::string> files = FilesOf(request.documents);
+    std::vector<DocumentReport> reports;
+    for (const std::string& file : files) {
+        reports.push_back(AuditFile(file, request.withDeck));
+        PrintNotices(reports.back(), request, console);
+        if (isText)
+            PrintDocument(reports.back(), request, files.size() > 1, console);
     }
-    return findings.refusals.empty() && findings.deck.empty() ? kSuccess : kRefused;
+    if (!isText)
+        PrintReports(reports, resolved, console.out);
+    else if (files.size() > 1 || reports.front().error.empty())
+        PrintSummary(reports, request, console);
+    return ExitCodeOf(reports, request.isStrict);
 }

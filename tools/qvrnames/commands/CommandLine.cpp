@@ -112,11 +112,20 @@ private:
         app->add_flag("--file-name", m_check.areFileNames, "Check them as file names");
     }
     void AddAudit() {
-        CLI::App* app = Add("audit", "Check the name of every feature in a document.", "audit pump.json --json",
-                            [this] { return AuditDocument(m_audit, m_console); });
-        AddDocument(app, m_audit.document);
+        CLI::App* app = Add("audit", "Check the name of every feature in documents.",
+                            "audit pump.json\n         qvrnames audit models/ --format sarif > names.sarif",
+                            [this] { return AuditDocuments(m_audit, m_console); });
+        app->add_option("DOCUMENT", m_audit.documents,
+                        "Document files, folders that contain files *.json, or - for stdin")
+            ->required()
+            ->expected(1, -1);
         app->add_flag("--deck", m_audit.withDeck,
                       "Also check the names in the solver deck for broken rules and duplicates");
+        app->add_flag("--strict", m_audit.isStrict, "Count an unknown late type as a finding, not as a warning");
+        app->add_flag("--summary", m_audit.isSummary, "Print the number of findings by rule instead of the findings");
+        app->add_option("--format", m_audit.format, "Format of the report: text (default), json, sarif or junit")
+            ->check(CLI::IsMember({"text", "json", "sarif", "junit"}))
+            ->type_name("FORMAT");
     }
     void AddDeck() {
         CLI::App* app = Add("deck", "Show the names that the solver deck would contain.", "deck pump.json",

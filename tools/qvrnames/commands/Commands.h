@@ -27,10 +27,15 @@ struct CheckRequest {
 int CheckNames(const CheckRequest& request, Console console);
 
 struct AuditRequest {
-    std::string document;
-    bool withDeck = false; ///< also check the names in the solver deck
+    std::vector<std::string> documents; ///< files, folders with files "*.json" at any depth, or "-"
+    bool withDeck = false;              ///< also check the names in the solver deck
+    bool isStrict = false;              ///< an unknown late type is a finding, not a warning
+    bool isSummary = false;             ///< print the number of findings by rule instead of the findings
+    std::string format;                 ///< "text", "json", "sarif" or "junit"; empty: that of the console
 };
-int AuditDocument(const AuditRequest& request, Console console);
+/// Audits the documents in the order of the arguments. The result is kBadInput if one is unusable, else kRefused if
+/// there are findings.
+int AuditDocuments(const AuditRequest& request, Console console);
 
 int ShowDeck(const std::string& document, Console console);
 

@@ -17,7 +17,7 @@ _qvrnames() {
             continue
         fi
         case $word in
-            --color | --language | --base | --output) skip=1 ;;
+            --color | --language | --base | --output | --format) skip=1 ;;
             = | -?*) ;;
             *) if [ -z "$command" ]; then command=$word; else place=$((place + 1)); fi ;;
         esac
@@ -25,7 +25,7 @@ _qvrnames() {
     case $command in
         '') options="$common --version" words='check audit deck propose rename' ;;
         check) options="$common --file-name" ;;
-        audit) options="$common --deck" ;;
+        audit) options="$common --deck --strict --summary --format" ;;
         deck) options=$common ;;
         propose) options="$common --base --job" ;;
         rename) options="$common --force --output" ;;
@@ -35,6 +35,7 @@ _qvrnames() {
     case $before in
         --color) words='auto always never' ;;
         --language) words='de en fr ja' ;;
+        --format) words='text json sarif junit' ;;
         --base) return ;;
         --output) words=FILE ;;
         *)
@@ -42,6 +43,7 @@ _qvrnames() {
                 *:-?*) words=$options ;;
                 :*) words="$words $options" ;;
                 check:*) words=$options ;;
+                audit:*) words=FILE ;;
                 *) if [ "$place" = 0 ]; then words=FILE; else words=$options; fi ;;
             esac
             ;;

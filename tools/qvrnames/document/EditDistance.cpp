@@ -43,7 +43,7 @@ double EditDistance(std::string_view a, std::string_view b, double limit) {
     return std::min(row.back(), limit);
 }
 
-std::string Suggestion(std::string_view word, const std::vector<std::string>& known) {
+const std::string* MostSimilar(std::string_view word, const std::vector<std::string>& known) {
     double nearest = 1 + static_cast<double>(word.size()) / 3;
     const std::string* found = nullptr;
     for (const std::string& candidate : known) {
@@ -55,5 +55,10 @@ std::string Suggestion(std::string_view word, const std::vector<std::string>& kn
         nearest = distance;
         found = &candidate;
     }
+    return found;
+}
+
+std::string Suggestion(std::string_view word, const std::vector<std::string>& known) {
+    const std::string* found = MostSimilar(word, known);
     return found == nullptr ? "known: " + JoinFirst(known) : "did you mean \"" + *found + "\"?";
 }

@@ -17,10 +17,10 @@ EntriesByObject IndexByObject(const LoadedDocument& loaded) {
     return entries;
 }
 
-std::size_t NameOffset(const LoadedDocument& loaded, std::uint32_t entry) {
+std::size_t OffsetOf(const LoadedDocument& loaded, std::uint32_t entry, DocumentKey key) {
     std::size_t offset = loaded.entries[entry].offset;
-    loaded.text.ValueAt(offset).ForEachMember([&](JsonValue key, JsonValue value) {
-        if (key.Text() == SpellingOf(DocumentKey::Name))
+    loaded.text.ValueAt(offset).ForEachMember([&](JsonValue found, JsonValue value) {
+        if (found.Text() == SpellingOf(key))
             offset = value.Begin();
     });
     return offset;

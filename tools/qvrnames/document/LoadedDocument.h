@@ -40,8 +40,8 @@ struct LoadedDocument {
 using EntriesByObject = std::unordered_map<const ZFXBaseUnknown*, std::uint32_t>;
 [[nodiscard]] EntriesByObject IndexByObject(const LoadedDocument& loaded);
 
-/// Returns the offset of the entry's name in the file, or of its JSON object if it has no name.
-[[nodiscard]] std::size_t NameOffset(const LoadedDocument& loaded, std::uint32_t entry);
+/// Returns the offset of the value of the entry's key in the file, or of its JSON object if it lacks the key.
+[[nodiscard]] std::size_t OffsetOf(const LoadedDocument& loaded, std::uint32_t entry, DocumentKey key);
 
 /// Returns the text of the file with another name for one entry. All other bytes are unchanged. If the entry has no
 /// name yet, the key "name" is inserted before its other keys.

@@ -1,0 +1,148 @@
+#include "commands/AuditReport.h"
+
+#include "ExitCode.h"
+
+#include "commands/Deck.h"
+#include "document/EditDistance.h"
+#include "document/FeaturePaths.h"
+#include "document/KnownTypes.h"
+
+#include "QVRNameUtil.h"
+
+#include <map>
+#include <set>
+#include <tuple>
+#include <unordered_map>
+#include <unordered_set>
+#include <utility>
+
+namespace {
+
+/// Returns the findings about the stored names of the named entries, in document order.
+std::vector<Finding> CheckEntries(const LoadedDocument& loaded, const std::vector<std::uint32_t>& named) {
+    const EntriesByObject entryOf = IndexByObject(loaded);
+    ZFXListValZFXISpecObject_var features;
+    for (const std::uint32_t entry : named)
+        features.Append(loaded.entries[entry].feature);
+    ZFXListVal<QVRNameFinding> found;
+    std::ignore = QVRNameUtil::CheckNames(features, found); // always S_OK
+    std::vector<Finding> findings;
+    for (const QVRNameFinding& finding : found)
+        findings.push_back(
+            {entryOf.at(ZFXIdentityOf(finding.feature)), finding.name.ConvertToChar(), VerdictOf(finding, entryOf)});
+    return findings;
+}
+
+std::string LateTypeOf(const LoadedDocument& loaded, std::uint32_t entry) {
+    return MemoryFeature(loaded.entries[entry].feature).LateType().ConvertToChar();
+}
+
+/// The objects of a document as a report shows them. The positions are found in one pass over the file.
+class References {
+public:
+    References(const LoadedDocument& loaded, const std::set<std::pair<std::uint32_t, DocumentKey>>& keys)
+        : m_loaded(loaded) {
+        std::map<std::size_t, TextPosition> positions; // by offset
+        for (const auto& [entry, key] : keys)
+            positions[OffsetOf(loaded, entry, key)];
+        PositionFinder finder(loaded.text.Bytes());
+        for (auto& [offset, position] : positions)
+            position = finder.Find(offset);
+        for (const auto& [entry, key] : keys)
+            m_positions[{entry, key}] = positions.at(OffsetOf(loaded, entry, key));
+    }
+
+    ObjectReference operator()(std::uint32_t entry, DocumentKey key = DocumentKey::Name) const {
+        return {DisplayPath(m_loaded, entry), PointerOf(m_loaded, entry), m_positions.at({entry, key})};
+    }
+
+private:
+    const LoadedDocument& m_loaded;
+    std::map<std::pair<std::uint32_t, DocumentKey>, TextPosition> m_positions;
+};
+
+/// The objects of one unknown late type.
+struct UnknownType {
+    std::string type;
+    std::uint32_t first;
+    std::size_t count;
+};
+
+std::vector<UnknownType> UnknownTypes(const LoadedDocument& loaded) {
+    const std::unordered_set<std::string> known(KnownLateTypes().begin(), KnownLateTypes().end());
+    std::vector<UnknownType> unknown;
+    std::unordered_map<std::string, std::size_t> positions;
+    for (std::uint32_t entry = 1; entry < loaded.entries.size(); ++entry) { // entry 0 is the model
+        const std::string type = LateTypeOf(loaded, entry);
+        if (known.count(type) != 0)
+            continue;
+        const auto [position, isNew] = positions.try_emplace(type, unknown.size());
+        if (isNew)
+            unknown.push_back({type, entry, 0});
+        ++unknown[position->second].count;
+    }
+    return unknown;
+}
+
+std::string MessageFor(const UnknownType& unknown) {
+    const std::string* similar = MostSimilar(unknown.type, KnownLateTypes());
+    return "unknown late type \"" + unknown.type + "\" of " + Counted(unknown.count, "object") +
+           (similar == nullptr ? "" : "; did you mean \"" + *similar + "\"?");
+}
+
+std::vector<ReportedFinding> Reported(const LoadedDocument& loaded, const std::vector<Finding>& findings,
+                                      const References& references) {
+    std::vector<ReportedFinding> reported;
+    for (const auto& [entry, name, verdict, deckColumn] : findings) {
+        const char* const otherRule = deckColumn.empty() ? kRequestFailed : kDuplicateDeckName;
+        reported.push_back({references(entry), verdict.messageId.empty() ? otherRule : verdict.messageId,
+                            LateTypeOf(loaded, entry), name, verdict.message, deckColumn});
+        if (verdict.other)
+            reported.back().other = references(*verdict.other);
+    }
+    return reported;
+}
+
+void FillReport(const LoadedDocument& loaded, bool withDeck, DocumentReport& report) {
+    const std::vector<std::uint32_t> named = NamedEntries(loaded);
+    const std::vector<Finding> refusals = CheckEntries(loaded, named);
+    const std::vector<Finding> deck = withDeck ? CheckDeck(BuildDeck(loaded), loaded) : std::vector<Finding>();
+    const std::vector<UnknownType> unknownTypes = UnknownTypes(loaded);
+    std::set<std::pair<std::uint32_t, DocumentKey>> keys;
+    for (const std::vector<Finding>* findings : {&refusals, &deck})
+        for (const Finding& finding : *findings) {
+            keys.emplace(finding.entry, DocumentKey::Name);
+            if (finding.verdict.other)
+                keys.emplace(*finding.verdict.other, DocumentKey::Name);
+        }
+    for (const UnknownType& unknown : unknownTypes)
+        keys.emplace(unknown.first, DocumentKey::Type);
+    const References references(loaded, keys);
+    report.checked = named.size();
+    report.refusals = Reported(loaded, refusals, references);
+    report.deckFaults = Reported(loaded, deck, references);
+    for (const UnknownType& unknown : unknownTypes)
+        report.unknownTypes.push_back(
+            {references(unknown.first, DocumentKey::Type), kUnknownType, unknown.type, "", MessageFor(unknown)});
+}
+
+} // namespace
+
+DocumentReport AuditFile(const std::string& file, bool withDeck) {
+    DocumentReport report{file, {}, 0, {}, {}, {}};
+    try {
+        FillReport(*OpenDocument(file), withDeck, report);
+    } catch (const BadInput& error) {
+        report.error = error.what();
+    }
+    return report;
+}
+
+std::vector<const ReportedFinding*> FindingsOf(const DocumentReport& report, bool isStrict) {
+    std::vector<const ReportedFinding*> findings;
+    for (const auto* list : {&report.refusals, &report.deckFaults, &report.unknownTypes})
+        if (list != &report.unknownTypes || isStrict)
+            for (const ReportedFinding& finding : *list)
+                findings.push_back(&finding);
+    return findings;
+}

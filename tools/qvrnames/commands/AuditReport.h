@@ -1,0 +1,50 @@
+#pragma once
+
+#include "commands/Commands.h"
+
+#include <optional>
+#include <string>
+#include <vector>
+
+// The results of an audit, independent of the format in which they are printed.
+
+/// An object in a document, as a report shows it.
+struct ObjectReference {
+    std::string path;      ///< of names, or the JSON pointer of an unnamed object
+    std::string pointer;   ///< the JSON pointer
+    TextPosition position; ///< of its name in the file
+};
+
+struct ReportedFinding {
+    ObjectReference object;
+    std::string rule; ///< a message id, or one of the rules below
+    std::string lateType;
+    std::string name;
+    std::string message;
+    std::string deckColumn = {}; ///< the column of a name in the deck; empty for the name of the feature
+    std::optional<ObjectReference> other = {};
+};
+
+// Rules without a message in the catalog.
+inline constexpr const char* kRequestFailed = "RequestFailed";         ///< a check without an error object
+inline constexpr const char* kDuplicateDeckName = "DuplicateDeckName"; ///< two objects have one name in the deck
+inline constexpr const char* kUnknownType = "UnknownLateType";         ///< a late type that the library does not know
+
+/// The result for one document.
+struct DocumentReport {
+    std::string file;                          ///< as in the command line, or found in a folder
+    std::string error;                         ///< why the document is unusable; empty if it was audited
+    std::size_t checked = 0;                   ///< number of features
+    std::vector<ReportedFinding> refusals;     ///< names of features that break a rule
+    std::vector<ReportedFinding> deckFaults;   ///< names in the deck that break a rule or clash
+    std::vector<ReportedFinding> unknownTypes; ///< one for each unknown late type, at its first object
+};
+
+/// Audits a document. An unusable document is part of the report.
+[[nodiscard]] DocumentReport AuditFile(const std::string& file, bool withDeck);
+
+/// Returns the findings that make the audit of a document fail: all, or all but unknown late types unless strict.
+[[nodiscard]] std::vector<const ReportedFinding*> FindingsOf(const DocumentReport& report, bool isStrict);
+
+/// Prints reports in one of the formats of AuditRequest::format but "text".
+void PrintReports(const std::vector<DocumentReport>& reports, const AuditRequest& request, std::ostream& out);

@@ -1,0 +1,257 @@
+// The formats of audit reports for other programs: JSON, SARIF 2.1.0 and JUnit XML.
+
+#include "commands/AuditReport.h"
+
+#include "QVRNameUtilityVersion.h"
+#include "files/FileErrors.h"
+#include "terminal/DisplayWidth.h"
+
+#include "errors/MessageCatalog.h"
+
+#include <nlohmann/json.hpp>
+
+#include <algorithm>
+#include <cstdio>
+#include <filesystem>
+#include <map>
+#include <ostream>
+
+namespace {
+
+using Json = nlohmann::ordered_json;
+using Reports = std::vector<DocumentReport>;
+
+// ---- JSON ----
+
+Json AsJson(const ObjectReference& object) {
+    return {{"feature", object.path},
+            {"pointer", object.pointer},
+            {"line", object.position.line},
+            {"column", object.position.column}};
+}
+
+Json AsJson(const std::vector<ReportedFinding>& findings) {
+    Json list = Json::array();
+    for (const ReportedFinding& finding : findings) {
+        Json json = AsJson(finding.object);
+        json["type"] = finding.lateType;
+        if (finding.rule != kUnknownType)
+            json["name"] = finding.name;
+        json["rule"] = finding.rule;
+        json["message"] = finding.message;
+        if (finding.other)
+            json["other"] = AsJson(*finding.other);
+        if (!finding.deckColumn.empty())
+            json["deck"] = finding.deckColumn;
+        list.push_back(std::move(json));
+    }
+    return list;
+}
+
+void PrintAsJson(const Reports& reports, const AuditRequest& request, std::ostream& out) {
+    Json documents = Json::array();
+    for (const DocumentReport& report : reports) {
+        Json json{{"file", report.file}};
+        if (!report.error.empty()) {
+            json["error"] = report.error;
+        } else {
+            json["featuresChecked"] = report.checked;
+            json["refusals"] = AsJson(report.refusals);
+            if (request.withDeck)
+                json["deckFaults"] = AsJson(report.deckFaults);
+            json["unknownTypes"] = AsJson(report.unknownTypes);
+        }
+        documents.push_back(std::move(json));
+    }
+    PrintJson(out, {{"version", 1}, {"documents", std::move(documents)}});
+}
+
+// ---- SARIF ----
+
+/// Returns the path of a file as a relative or absolute URI reference.
+std::string UriOf(const std::string& file) {
+    if (file == kStandardStream)
+        return "stdin";
+    constexpr std::string_view kUnchanged = "-._~/ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789";
+    std::string uri;
+    for (const char byte : file) {
+        if (byte == '\\' && std::filesystem::path::preferred_separator == '\\') {
+            uri += '/';
+        } else if (kUnchanged.find(byte) != std::string_view::npos) {
+            uri += byte;
+        } else {
+            char escape[4];
+            std::snprintf(escape, sizeof escape, "%%%02X", static_cast<unsigned>(static_cast<unsigned char>(byte)));
+            uri += escape;
+        }
+    }
+    return uri;
+}
+
+Json LocationOf(const std::string& uri, const ObjectReference& object) {
+    return {{"physicalLocation",
+             {{"artifactLocation", {{"uri", uri}}},
+              {"region", {{"startLine", object.position.line}, {"startColumn", object.position.column}}}}},
+            {"logicalLocations", Json::array({{{"fullyQualifiedName", object.path}}})}};
+}
+
+Json ResultOf(const std::string& uri, const ReportedFinding& finding, const char* level) {
+    const std::string subject = finding.deckColumn.empty() ? "" : " (deck, " + finding.deckColumn + ")";
+    const std::string text =
+        finding.rule == kUnknownType ? finding.message : "\"" + finding.name + "\"" + subject + ": " + finding.message;
+    Json result{{"ruleId", finding.rule},
+                {"level", level},
+                {"message", {{"text", text}}},
+                {"locations", Json::array({LocationOf(uri, finding.object)})}};
+    if (finding.other) {
+        result["relatedLocations"] = Json::array({LocationOf(uri, *finding.other)});
+        result["relatedLocations"][0]["message"] = {{"text", "the other feature: " + finding.other->path}};
+    }
+    return result;
+}
+
+/// Returns the text of a rule from the message catalog, or a fixed text for a rule without a message.
+Json RuleOf(const std::string& id) {
+    static const std::map<std::string, const char*> fixed{
+        {kRequestFailed, "A name cannot be checked, because a part of the document cannot be read."},
+        {kDuplicateDeckName, "Two objects have the same name in the solver deck."},
+        {kUnknownType, "A late type is not known; it may be misspelt."}};
+    const auto text = fixed.find(id);
+    if (text != fixed.end())
+        return {{"id", id}, {"shortDescription", {{"text", text->second}}}};
+    Json rule{{"id", id}};
+    if (auto diagnostic = MessageCatalog::Find("QVRNameUtility", id + ".Diagnostic")) {
+        diagnostic->ReplaceSubString("/P1", "...");
+        rule["shortDescription"] = {{"text", diagnostic->ConvertToChar()}};
+    }
+    if (const auto advice = MessageCatalog::Find("QVRNameUtility", id + ".Advice"))
+        rule["help"] = {{"text", advice->ConvertToChar()}};
+    return rule;
+}
+
+void PrintAsSarif(const Reports& reports, const AuditRequest& request, std::ostream& out) {
+    Json results = Json::array();
+    Json failures = Json::array();
+    std::map<std::string, std::size_t> ruleIndexes;
+    Json rules = Json::array();
+    for (const DocumentReport& report : reports) {
+        const std::string uri = UriOf(report.file);
+        if (!report.error.empty())
+            failures.push_back(
+                {{"level", "error"},
+                 {"message", {{"text", report.error}}},
+                 {"locations", Json::array({{{"physicalLocation", {{"artifactLocation", {{"uri", uri}}}}}}})}});
+        for (const auto* findings : {&report.refusals, &report.deckFaults, &report.unknownTypes})
+            for (const ReportedFinding& finding : *findings) {
+                const bool isWarning = findings == &report.unknownTypes && !request.isStrict;
+                results.push_back(ResultOf(uri, finding, isWarning ? "warning" : "error"));
+                const auto [index, isNew] = ruleIndexes.try_emplace(finding.rule, rules.size());
+                if (isNew)
+                    rules.push_back(RuleOf(finding.rule));
+                results.back()["ruleIndex"] = index->second;
+            }
+    }
+    const Json driver{{"name", "qvrnames"}, {"version", QVR_NAME_UTILITY_VERSION}, {"rules", std::move(rules)}};
+    const bool isSuccessful = failures.empty();
+    const Json invocation{{"executionSuccessful", isSuccessful}, {"toolExecutionNotifications", std::move(failures)}};
+    const Json run{{"tool", {{"driver", driver}}},
+                   {"columnKind", "unicodeCodePoints"},
+                   {"invocations", Json::array({invocation})},
+                   {"results", std::move(results)}};
+    PrintJson(out, {{"$schema", "https://json.schemastore.org/sarif-2.1.0.json"},
+                    {"version", "2.1.0"},
+                    {"runs", Json::array({run})}});
+}
+
+// ---- JUnit ----
+
+/// Returns a text for XML, which cannot contain control characters, U+FFFE and U+FFFF.
+std::string Xml(const std::string& text) {
+    std::string escaped;
+    for (const char byte : Printable(text))
+        switch (byte) {
+        case '&':
+            escaped += "&amp;";
+            break;
+        case '<':
+            escaped += "&lt;";
+            break;
+        case '>':
+            escaped += "&gt;";
+            break;
+        case '"':
+            escaped += "&quot;";
+            break;
+        default:
+            escaped += byte;
+        }
+    return escaped;
+}
+
+std::string Attribute(const char* name, const std::string& value) {
+    return " " + std::string(name) + "=\"" + Xml(value) + "\"";
+}
+
+/// Returns the findings that make an audit fail, those of an object next to each other.
+std::vector<const ReportedFinding*> FindingsByObject(const DocumentReport& report, bool isStrict) {
+    std::vector<const ReportedFinding*> findings = FindingsOf(report, isStrict);
+    std::stable_sort(findings.begin(), findings.end(), [](const ReportedFinding* a, const ReportedFinding* b) {
+        return a->object.pointer < b->object.pointer;
+    });
+    return findings;
+}
+
+/// Prints one test case for each feature with findings, or one for a document without findings.
+void PrintSuite(const DocumentReport& report, const AuditRequest& request, std::ostream& out) {
+    const bool isUnusable = !report.error.empty();
+    std::size_t failed = 0;
+    std::string cases;
+    const ReportedFinding* former = nullptr;
+    for (const ReportedFinding* finding : FindingsByObject(report, request.isStrict)) {
+        const ObjectReference& object = finding->object;
+        if (former == nullptr || former->object.pointer != object.pointer) {
+            cases += former == nullptr ? "" : "</failure></testcase>\n";
+            cases += "    <testcase" + Attribute("name", object.path) + Attribute("classname", report.file) +
+                     "><failure" + Attribute("type", finding->rule) + ">";
+            ++failed;
+        }
+        cases += Xml(report.file) + ":" + std::to_string(object.position.line) + ":" +
+                 std::to_string(object.position.column) + ": " + Xml(finding->rule + ": " + finding->message) +
+                 (finding->other ? Xml(" The other feature is " + finding->other->path + ".") : "") + "\n";
+        former = finding;
+    }
+    if (former != nullptr)
+        cases += "</failure></testcase>\n";
+    else
+        cases = "    <testcase" + Attribute("name", report.file) + Attribute("classname", report.file) +
+                (isUnusable ? "><error" + Attribute("message", report.error) + "/></testcase>\n" : "/>\n");
+    out << "  <testsuite" << Attribute("name", report.file)
+        << Attribute("tests", std::to_string(std::max<std::size_t>(failed, 1)))
+        << Attribute("failures", std::to_string(failed)) << Attribute("errors", isUnusable ? "1" : "0") << ">\n"
+        << cases;
+    if (!request.isStrict && !report.unknownTypes.empty()) {
+        out << "    <system-err>";
+        for (const ReportedFinding& finding : report.unknownTypes)
+            out << Xml("warning: " + finding.message) << '\n';
+        out << "</system-err>\n";
+    }
+    out << "  </testsuite>\n";
+}
+
+void PrintAsJUnit(const Reports& reports, const AuditRequest& request, std::ostream& out) {
+    out << "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<testsuites name=\"qvrnames audit\">\n";
+    for (const DocumentReport& report : reports)
+        PrintSuite(report, request, out);
+    out << "</testsuites>\n";
+}
+
+} // namespace
+
+void PrintReports(const std::vector<DocumentReport>& reports, const AuditRequest& request, std::ostream& out) {
+    if (request.format == "json")
+        PrintAsJson(reports, request, out);
+    else if (request.format == "sarif")
+        PrintAsSarif(reports, request, out);
+    else
+        PrintAsJUnit(reports, request, out);
+}
