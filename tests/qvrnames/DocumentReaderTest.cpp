@@ -57,12 +57,12 @@ TEST(DocumentReader, ReportsEveryDamagedFileAsBadInput) {
 TEST(DocumentReader, AppliesTheKeysWhoseEffectNoTranscriptShows) {
     const LoadedDocument loaded(R"({
         "materials": [{"id": "alu", "name": "Alu"}],
-        "propertySet": {"features": [{"type": "SAMShell", "id": "shell", "property": false, "amplitude": true}]},
+        "propertySet": {"features": [{"type": "SAMShell", "id": "shell", "property": false}]},
         "cases": [
             {"id": "other case", "solverCase": false},
             {"steps": [{"type": "S", "id": "step", "attributes": {"FileLink": "a.inp"},
                         "sets": [{"type": "L", "id": "loads", "features": [
-                            {"type": "P", "id": "load", "propagated": true, "father": null}]}]}]}],
+                            {"type": "P", "id": "load", "propagated": true, "amplitude": true, "father": null}]}]}]}],
         "sets": [{"type": "L", "id": "more", "holds": ["load"], "offers": ["QVRIStep"], "pointedAtBy": ["step"]}]
     })");
     const auto object = [&](const char* id) { return loaded.entries[loaded.ids.at(id)].feature; };
@@ -76,7 +76,8 @@ TEST(DocumentReader, AppliesTheKeysWhoseEffectNoTranscriptShows) {
     EXPECT_TRUE((*owned)[2] == object("more").Object());
     ZFXISpecObject_var shell = object("shell");
     EXPECT_FALSE(QVRAnalysisEntityUtils::IsObjectAProperty(shell));
-    EXPECT_TRUE(QVRAnalysisEntityUtils::IsObjectAnAmplitude(shell));
+    ZFXISpecObject_var load = object("load");
+    EXPECT_TRUE(QVRAnalysisEntityUtils::IsObjectAnAmplitude(load));
     EXPECT_NE(QVRIStep_var(object("more")), nullptr);
     EXPECT_NE(QVRIPropagatingFeature_var(object("load"))->IsPropagated(), 0);
     ZFXISamAnalysisCase_var otherCase = object("other case");
