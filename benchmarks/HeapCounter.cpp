@@ -1,9 +1,9 @@
 #include "HeapCounter.h"
 
+#include "base/CompilerExtensions.h"
+
 #include <cerrno>
 #include <malloc.h>
-
-#define EXPORTED __attribute__((visibility("default")))
 
 extern "C" {
 void* __libc_malloc(std::size_t size);
@@ -37,23 +37,23 @@ void CountFreed(void* memory) {
 } // namespace
 
 extern "C" {
-EXPORTED void* malloc(std::size_t size) noexcept { return CountAllocated(__libc_malloc(size)); }
-EXPORTED void* calloc(std::size_t count, std::size_t size) noexcept {
+ZFX_EXPORT void* malloc(std::size_t size) noexcept { return CountAllocated(__libc_malloc(size)); }
+ZFX_EXPORT void* calloc(std::size_t count, std::size_t size) noexcept {
     return CountAllocated(__libc_calloc(count, size));
 }
-EXPORTED void* realloc(void* memory, std::size_t size) noexcept {
+ZFX_EXPORT void* realloc(void* memory, std::size_t size) noexcept {
     CountFreed(memory);
     return CountAllocated(__libc_realloc(memory, size));
 }
-EXPORTED void* memalign(std::size_t alignment, std::size_t size) noexcept {
+ZFX_EXPORT void* memalign(std::size_t alignment, std::size_t size) noexcept {
     return CountAllocated(__libc_memalign(alignment, size));
 }
-EXPORTED void* aligned_alloc(std::size_t alignment, std::size_t size) noexcept { return memalign(alignment, size); }
-EXPORTED int posix_memalign(void** memory, std::size_t alignment, std::size_t size) noexcept {
+ZFX_EXPORT void* aligned_alloc(std::size_t alignment, std::size_t size) noexcept { return memalign(alignment, size); }
+ZFX_EXPORT int posix_memalign(void** memory, std::size_t alignment, std::size_t size) noexcept {
     *memory = memalign(alignment, size);
     return *memory == nullptr ? ENOMEM : 0;
 }
-EXPORTED void free(void* memory) noexcept {
+ZFX_EXPORT void free(void* memory) noexcept {
     CountFreed(memory);
     __libc_free(memory);
 }

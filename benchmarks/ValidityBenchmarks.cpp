@@ -1,5 +1,6 @@
 #include "Benchmarks.h"
 #include "QVRNameUtil.h"
+#include "base/CompilerExtensions.h"
 
 #include <array>
 #include <vector>
@@ -23,7 +24,7 @@ std::array<bool, 256> IllegalUnits() {
 }
 
 /// The reference: one table look-up per unit. Not inlined, because IsNameValid is a call too.
-__attribute__((noinline)) bool HasIllegalUnit(std::u16string_view units, const std::array<bool, 256>& isIllegal) {
+ZFX_NOINLINE bool HasIllegalUnit(std::u16string_view units, const std::array<bool, 256>& isIllegal) {
     for (const char16_t unit : units)
         if (unit < isIllegal.size() && isIllegal[unit])
             return true;

@@ -3,8 +3,13 @@
 set(CMAKE_CXX_STANDARD 20)
 set(CMAKE_CXX_STANDARD_REQUIRED ON)
 set(CMAKE_CXX_EXTENSIONS OFF)
-set(CMAKE_CXX_VISIBILITY_PRESET hidden)
-set(CMAKE_VISIBILITY_INLINES_HIDDEN ON)
+option(QVR_COMPILER_EXTENSIONS "Use the extensions in platform/base/CompilerExtensions.h" ON)
+if(QVR_COMPILER_EXTENSIONS)
+  set(CMAKE_CXX_VISIBILITY_PRESET hidden)
+  set(CMAKE_VISIBILITY_INLINES_HIDDEN ON)
+else() # without an extension, no symbol can be marked as exported
+  add_compile_definitions(ZFX_NO_COMPILER_EXTENSIONS)
+endif()
 set(CMAKE_POSITION_INDEPENDENT_CODE ON)
 
 # The build has the folders of an installed copy, because the libraries find the message catalogs by a relative path.
@@ -25,7 +30,16 @@ endif()
 
 set(QVR_SANITIZERS "" CACHE STRING "Sanitizers to build with, such as address,undefined")
 
-add_compile_options(-Wall -Wextra -Wpedantic -Wconversion -Wshadow -Werror)
+# 4251 and 4275 warn that classes of the standard library are not exported from our libraries. The program and the
+# libraries use one standard library. Warnings are not errors, because the sources have never been compiled with MSVC.
+if(MSVC)
+  add_compile_options(/W4 /wd4251 /wd4275 /utf-8 /permissive- /Zc:__cplusplus)
+else()
+  add_compile_options(-Wall -Wextra -Wpedantic -Wconversion -Wshadow -Werror)
+endif()
+if(WIN32)
+  add_compile_definitions(NOMINMAX) # <windows.h> must not replace std::min and std::max
+endif()
 
 # Low-cost checks, also in a release: buffer overruns, stack protection, read-only relocations. For Windows, the linker
 # enables the system's protections by default.

@@ -1,10 +1,10 @@
 #pragma once
 
+#include "base/CompilerExtensions.h"
+
 /// Exports a class or function from the platform library. Everything else is hidden.
-#if !defined(_WIN32)
-#define ZFX_PLATFORM_EXPORT __attribute__((visibility("default")))
-#elif defined(ZFXPlatform_EXPORTS) // defined while the library itself is compiled
-#define ZFX_PLATFORM_EXPORT __declspec(dllexport)
+#ifdef ZFXPlatform_EXPORTS // defined while the library itself is compiled
+#define ZFX_PLATFORM_EXPORT ZFX_EXPORT
 #else
-#define ZFX_PLATFORM_EXPORT __declspec(dllimport)
+#define ZFX_PLATFORM_EXPORT ZFX_IMPORT
 #endif

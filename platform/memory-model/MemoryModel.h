@@ -2,16 +2,15 @@
 
 #include "analysis/AnalysisInterfaces.h"
 #include "analysis/ZFXDocument.h"
+#include "base/CompilerExtensions.h"
 
 #include <memory>
 
 /// Exports a class from the library of the in-memory model. Everything else is hidden.
-#if !defined(_WIN32)
-#define ZFX_MEMORY_EXPORT __attribute__((visibility("default")))
-#elif defined(ZFXMemoryModel_EXPORTS) // defined while the library itself is compiled
-#define ZFX_MEMORY_EXPORT __declspec(dllexport)
+#ifdef ZFXMemoryModel_EXPORTS // defined while the library itself is compiled
+#define ZFX_MEMORY_EXPORT ZFX_EXPORT
 #else
-#define ZFX_MEMORY_EXPORT __declspec(dllimport)
+#define ZFX_MEMORY_EXPORT ZFX_IMPORT
 #endif
 
 class MemoryDocument;

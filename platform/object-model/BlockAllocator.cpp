@@ -1,6 +1,7 @@
 // Memory of all platform objects. Workload: a scan makes one adaptor per feature and destroys it after one request.
 // Each thread therefore keeps its freed small blocks in one linked list per size and reuses the latest one.
 
+#include "base/CompilerExtensions.h"
 #include "object-model/ZFXBaseUnknown.h"
 
 #include <cstddef>
@@ -10,13 +11,7 @@
 namespace {
 
 // AddressSanitizer finds a use after free only if freed blocks are not reused.
-#if defined(__SANITIZE_ADDRESS__)
-constexpr bool kReuseBlocks = false;
-#elif defined(__has_feature)
-constexpr bool kReuseBlocks = !__has_feature(address_sanitizer);
-#else
-constexpr bool kReuseBlocks = true;
-#endif
+constexpr bool kReuseBlocks = !kZFXAddressSanitizer;
 constexpr std::size_t kGranule = 16;
 constexpr std::size_t kSizeClasses = 8;  // sizes in granules; reuses blocks of up to 7 granules, 112 bytes
 constexpr int kMaxFreePerSizeClass = 64; // further blocks are freed
@@ -41,7 +36,7 @@ struct BlockCache {
 /// have room for all thread-local data of the library, 408 bytes, in the loader's static block. glibc 2.36 reserves
 /// about 1700 bytes there for such libraries. If other libraries use up that reserve, dlopen reports the failure, and
 /// the host either links the library or raises the tunable glibc.rtld.optional_static_tls.
-__attribute__((tls_model("initial-exec"))) constinit thread_local BlockCache cache{};
+ZFX_INITIAL_EXEC constinit thread_local BlockCache cache{};
 
 /// Frees the lists of the thread when the thread ends.
 struct FreeAtThreadExit {

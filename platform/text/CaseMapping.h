@@ -1,5 +1,7 @@
 #pragma once
 
+#include "base/CompilerExtensions.h"
+
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
@@ -38,11 +40,7 @@ struct Mapping {
 };
 
 /// Case folding: two characters are equal apart from case exactly if they fold to one character.
-extern const Mapping kFold
-#ifndef _WIN32 // a Windows library exports only what is marked
-    __attribute__((visibility("hidden")))
-#endif
-    ;
+extern ZFX_HIDDEN const Mapping kFold;
 
 /// Returns a hash that is equal for two texts that are equal after case folding.
 [[nodiscard]] std::size_t HashIgnoringCase(const char16_t* units, int length) noexcept;

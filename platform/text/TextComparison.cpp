@@ -1,6 +1,7 @@
 // The comparison of two texts of one length, run for each pair of names in a scope: most names are short and ASCII.
 // Compares eight units at a time; only a difference beyond ASCII is folded unit by unit.
 
+#include "base/CompilerExtensions.h"
 #include "text/CaseMapping.h"
 #include "text/Surrogates.h"
 #include "text/ZFXUnicodeString.h"
@@ -12,16 +13,13 @@
 
 namespace {
 
-/// Eight code units. The compiler translates each operation on them to one vector instruction.
-using Block = std::uint16_t __attribute__((vector_size(16)));
 constexpr int kBlock = 8;
 constexpr std::uint16_t kCaseBit = 0x20;
 
-Block Load(const char16_t* units) noexcept {
-    Block block;
-    std::memcpy(&block, units, sizeof block);
-    return block;
-}
+#ifdef ZFX_VECTOR
+
+/// Eight code units. The compiler translates each operation on them to one vector instruction.
+using Block = std::uint16_t ZFX_VECTOR(16);
 
 bool IsZero(const Block& block) noexcept {
     std::uint64_t halves[2];
@@ -36,14 +34,54 @@ bool EqualAscii(const Block& left, const Block& right) noexcept {
     return IsZero((left ^ right) & ~(isLetter & kCaseBit));
 }
 
+bool AreIdentical(const Block& left, const Block& right) noexcept { return IsZero(left ^ right); }
 bool AreAscii(const Block& left, const Block& right) noexcept { return IsZero((left | right) & 0xFF80); }
+
+#else
+
+/// Eight code units.
+struct Block {
+    std::uint16_t units[kBlock];
+};
+
+/// Returns true if `predicate` is true for each pair of units. Has no branch, so that the compiler can use vectors.
+template <class Predicate>
+bool AllOf(const Block& left, const Block& right, Predicate predicate) noexcept {
+    bool all = true;
+    for (int i = 0; i < kBlock; ++i)
+        all &= predicate(left.units[i], right.units[i]);
+    return all;
+}
+
+/// Returns true if the blocks differ in the case of ASCII letters only.
+bool EqualAscii(const Block& left, const Block& right) noexcept {
+    return AllOf(left, right, [](unsigned l, unsigned r) {
+        const bool isLetter = (l | kCaseBit) - 0x61 < 26;
+        return ((l ^ r) & ~(isLetter ? kCaseBit : 0U)) == 0;
+    });
+}
+
+bool AreIdentical(const Block& left, const Block& right) noexcept {
+    return AllOf(left, right, [](unsigned l, unsigned r) { return l == r; });
+}
+bool AreAscii(const Block& left, const Block& right) noexcept {
+    return AllOf(left, right, [](unsigned l, unsigned r) { return (l | r) < 0x80; });
+}
+
+#endif
+
+Block Load(const char16_t* units) noexcept {
+    Block block;
+    std::memcpy(&block, units, sizeof block);
+    return block;
+}
 
 std::uint32_t FoldPair(const char16_t* pair) noexcept {
     return CaseMapping::kFold.OfPair(Surrogates::Decode(pair[0], pair[1]));
 }
 
 /// Returns true if each text has a surrogate pair that includes position i, and the pairs are equal apart from case.
-[[gnu::cold]] bool EqualPairsAt(const char16_t* left, const char16_t* right, int i, int length) noexcept {
+ZFX_COLD bool EqualPairsAt(const char16_t* left, const char16_t* right, int i, int length) noexcept {
     const int start = Surrogates::IsLow(left[i]) ? i - 1 : i;
     return start >= 0 && start + 1 < length && Surrogates::IsPair(left[start], left[start + 1]) &&
            Surrogates::IsPair(right[start], right[start + 1]) && FoldPair(left + start) == FoldPair(right + start);
@@ -52,8 +90,8 @@ std::uint32_t FoldPair(const char16_t* pair) noexcept {
 /// Compares from position `from` on, unit by unit, as Compare does. `identical` is false if a difference is already
 /// known.
 // Not inlined, so that CompareUnits saves fewer registers.
-[[gnu::noinline]] int CompareFolded(const char16_t* left, const char16_t* right, int from, int length,
-                                    bool identical) noexcept {
+ZFX_NOINLINE int CompareFolded(const char16_t* left, const char16_t* right, int from, int length,
+                               bool identical) noexcept {
     for (int i = from; i < length; ++i) {
         if (left[i] == right[i])
             continue;
@@ -81,7 +119,7 @@ int ZFXUnicodeString::CompareUnits(const char16_t* left, const char16_t* right, 
         const int at = std::min(next, length - kBlock); // the last block can overlap the one before
         const Block l = Load(left + at);
         const Block r = Load(right + at);
-        if (IsZero(l ^ r))
+        if (AreIdentical(l, r))
             continue;
         identical = false;
         if (EqualAscii(l, r))

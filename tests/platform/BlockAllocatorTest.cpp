@@ -1,5 +1,6 @@
 // Memory of platform objects, measured from outside: neither a debugger nor a sanitizer sees a cache that grows.
 
+#include "base/CompilerExtensions.h"
 #include "object-model/ZFXHandle.h"
 
 #include <gtest/gtest.h>
@@ -14,16 +15,8 @@
 
 namespace {
 
-#if defined(__SANITIZE_ADDRESS__)
-constexpr bool kAddressSanitizer = true;
-#elif defined(__has_feature)
-constexpr bool kAddressSanitizer = __has_feature(address_sanitizer);
-#else
-constexpr bool kAddressSanitizer = false;
-#endif
-
 TEST(BlockAllocator, ReturnsNullIfThereIsNoMemory) {
-    if (kAddressSanitizer)
+    if (kZFXAddressSanitizer)
         GTEST_SKIP() << "AddressSanitizer ends the process if there is no memory";
     const long before = ZFXBaseUnknown::LiveAllocations();
     EXPECT_EQ(ZFXBaseUnknown::operator new(SIZE_MAX / 2), nullptr);
@@ -67,7 +60,7 @@ long BlocksKept(std::size_t size) {
 }
 
 TEST(BlockAllocator, Keeps64FreedBlocksOfEachSmallSizeUntilTheThreadEnds) {
-    if (kAddressSanitizer)
+    if (kZFXAddressSanitizer)
         GTEST_SKIP() << "AddressSanitizer switches the cache off";
     static_cast<void>(BlocksKept(1)); // the first thread of a process leaves other blocks
     const long before = BytesInUse();

@@ -37,10 +37,10 @@ HRESULT CheckCandidate(const ZFXISpecObject_var& feature, const NameDecisions::N
                        QVRNameFinding* finding) {
     const ZFXUnicodeString lateType = feature->GetLateType();
     Decision decision = NameDecisions::OfName(feature, name, lateType != Vocabulary::QVRShellSectionEnhLT);
-    HRESULT code = Raise(decision);
+    HRESULT code = Raise(QVR_HERE, decision);
     if (lateType == Vocabulary::QVRJobLT) {
         decision = NameDecisions::InScope(NameScopes::OfJob(feature), feature, name);
-        code = Raise(decision);
+        code = Raise(QVR_HERE, decision);
     }
     if (finding != nullptr && Failed(code))
         *finding = FindingOf(decision, feature, name.text);

@@ -15,7 +15,7 @@ constexpr int kMaxTagLength = 80; // UTF-16 code units
 /// DoubleByteCharErr_01.
 [[nodiscard]] HRESULT RejectUnitsAbove(char16_t limit, const ZFXUnicodeString& name, ZFXUnicodeString& offending) {
     return TextRules::AppendUnitsAbove(limit, name, offending)
-               ? InputErrorReturn(MessageId::DoubleByteCharErr_01, {.diagnostic = &offending})
+               ? InputErrorReturn(QVR_HERE, MessageId::DoubleByteCharErr_01, {.diagnostic = &offending})
                : S_OK;
 }
 

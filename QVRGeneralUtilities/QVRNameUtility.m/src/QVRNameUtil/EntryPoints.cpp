@@ -40,13 +40,13 @@ HRESULT QVRNameUtil::IsNameUnique(ZFXISpecObject_var& feature, const ZFXUnicodeS
 
 HRESULT QVRNameUtil::CheckName(ZFXISpecObject_var& feature, const ZFXUnicodeString& name,
                                unsigned char checkStartAndEnd) noexcept {
-    return Raise(NameDecisions::OfName(feature, {name}, checkStartAndEnd != 0));
+    return Raise(QVR_HERE, NameDecisions::OfName(feature, {name}, checkStartAndEnd != 0));
 }
 
 HRESULT QVRNameUtil::CheckFileName(ZFXISpecObject_var& feature, const ZFXUnicodeString& fileName) noexcept {
     const ZFXIAlias_var alias(feature);
     if (alias == nullptr)
-        return InputErrorReturn(MessageId::ZFXIAliasERR_01);
+        return InputErrorReturn(QVR_HERE, MessageId::ZFXIAliasERR_01);
     const HRESULT code = IsNameUnique(feature, "");
     if (Failed(code))
         return code;
@@ -87,10 +87,10 @@ HRESULT QVRNameUtil::GetUniqueNames(const ZFXUnicodeString& name, ZFXISpecObject
     HRESULT code = S_OK;
     switch (NameScopes::ProposalKindOf(feature)) {
     case NameScopes::ProposalKind::Step:
-        code = Raise(NameScopes::AppendNumberedSteps(scopeCase, scope));
+        code = Raise(QVR_HERE, NameScopes::AppendNumberedSteps(scopeCase, scope));
         break;
     case NameScopes::ProposalKind::Property:
-        code = Raise(NameScopes::AppendProperties(scopeCase, scope));
+        code = Raise(QVR_HERE, NameScopes::AppendProperties(scopeCase, scope));
         break;
     case NameScopes::ProposalKind::PropagatingObject:
         code = GetAllPropagatingObjects(scopeCase, scope, feature);

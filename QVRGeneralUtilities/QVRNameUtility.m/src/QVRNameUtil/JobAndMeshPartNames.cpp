@@ -30,17 +30,18 @@ HRESULT QVRNameUtil::GetUniqueNameForJob(ZFXUnicodeString& name) noexcept {
 HRESULT QVRNameUtil::IsUniqueNameForJob(const ZFXISpecObject_var& job, const ZFXUnicodeString& name) noexcept {
     const NameScopes::Scope scope = NameScopes::JobsOfDocument{};
     const ZFXBaseUnknown* self = ZFXIdentityOf(job);
-    return Raise(NameScopes::CompareWith(scope, {}, [&](const ZFXListValZFXBaseUnknown_var& jobs) -> Decision {
-        for (const ZFXBaseUnknown_var& other : jobs)
-            if (ZFXIdentityOf(other) != self && NamesClash(name, NameOf(other)))
-                return NameScopes::ComparisonFailed(scope, MessageId::DuplicateNameERR_02, other);
-        return {};
-    }));
+    return Raise(QVR_HERE,
+                 NameScopes::CompareWith(scope, {}, [&](const ZFXListValZFXBaseUnknown_var& jobs) -> Decision {
+                     for (const ZFXBaseUnknown_var& other : jobs)
+                         if (ZFXIdentityOf(other) != self && NamesClash(name, NameOf(other)))
+                             return NameScopes::ComparisonFailed(scope, MessageId::DuplicateNameERR_02, other);
+                     return {};
+                 }));
 }
 
 HRESULT QVRNameUtil::GetUniqueNameForMeshPart(ZFXISpecObject_var& meshPart, ZFXUnicodeString& name) noexcept {
     ZFXListValZFXBaseUnknown_var meshParts;
-    const HRESULT code = Raise(NameScopes::AppendMeshParts(meshPart, meshParts));
+    const HRESULT code = Raise(QVR_HERE, NameScopes::AppendMeshParts(meshPart, meshParts));
     if (Failed(code))
         return code;
     std::ignore = GetNextUniqueName(name, meshParts); // always S_OK

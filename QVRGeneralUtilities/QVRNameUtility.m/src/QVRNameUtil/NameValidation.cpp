@@ -20,19 +20,19 @@ HRESULT QVRNameUtil::CheckForIllegalCharacters(const ZFXUnicodeString& name) noe
 }
 
 HRESULT QVRNameUtil::NameCheckUserLength(ZFXUnicodeString& name) noexcept {
-    return Raise(TextRules::BrokenByLength(name));
+    return Raise(QVR_HERE, TextRules::BrokenByLength(name));
 }
 
 HRESULT QVRNameUtil::NameCheckStartAndEnd(ZFXUnicodeString& name) noexcept {
     assert(name.GetLengthInChar() > 0);
-    return Raise(TextRules::BrokenByFirstCharacter(name));
+    return Raise(QVR_HERE, TextRules::BrokenByFirstCharacter(name));
 }
 
 HRESULT QVRNameUtil::NameCheckIllegalCharacter(ZFXUnicodeString& name, unsigned char isFileName) noexcept {
     using namespace NameRules;
     if (isFileName == 0)
-        return Raise(TextRules::BrokenByReservedCharacter(name));
+        return Raise(QVR_HERE, TextRules::BrokenByReservedCharacter(name));
     if (Breaks(name, kReservedInFileNames))
-        return Raise(Decision::Broken(MessageId::IllegalCharERR_01));
-    return Breaks(name, kIllegalInFileNames) ? Raise(Decision::Broken(MessageId::IllegalCharERR_02)) : S_OK;
+        return Raise(QVR_HERE, Decision::Broken(MessageId::IllegalCharERR_01));
+    return Breaks(name, kIllegalInFileNames) ? Raise(QVR_HERE, Decision::Broken(MessageId::IllegalCharERR_02)) : S_OK;
 }

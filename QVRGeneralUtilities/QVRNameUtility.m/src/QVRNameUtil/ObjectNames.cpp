@@ -24,12 +24,12 @@ HRESULT QVRNameUtil::GetMorvelObjectName(ZFXISpecObject_var& feature, ZFXUnicode
     const ZFXUnicodeString lateType = feature->GetLateType();
     const ZFXIAlias_var alias(feature);
     if (alias == nullptr)
-        return InputErrorReturn(MessageId::ZFXIAliasERR_01);
+        return InputErrorReturn(QVR_HERE, MessageId::ZFXIAliasERR_01);
     name = QVRGenZFXUnicodeStringUtils::ReplacePeriodWithDash(alias->GetAlias());
     const HRESULT legal = IsNameValid(name, 1);
     if (Failed(legal) || !LateTypes::IsOfKind(lateType, LateTypes::Kind::BoltTightening))
         return legal;
-    return Raise(NameDecisions::InScope(NameScopes::OfBoltTightening(feature), feature, {""}));
+    return Raise(QVR_HERE, NameDecisions::InScope(NameScopes::OfBoltTightening(feature), feature, {""}));
 }
 
 HRESULT QVRNameUtil::GenerateUniqueName(const ZFXISpecObject& feature, ZFXUnicodeString& name) noexcept {

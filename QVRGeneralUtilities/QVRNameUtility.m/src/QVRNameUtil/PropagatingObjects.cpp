@@ -23,7 +23,7 @@ HRESULT QVRNameUtil::GetAllPropagatingObjects(ZFXISamAnalysisCase_var& analysisC
     for (ZFXBaseUnknown_var& feature : found)
         if (ZFXIdentityOf(feature) != self)
             objects.Append(std::move(feature));
-    return Raise(decision);
+    return Raise(QVR_HERE, decision);
 }
 
 HRESULT QVRNameUtil::GetUniqueNameForPropagatingObject(ZFXUnicodeString& name, ZFXISpecObject_var& object,
@@ -36,5 +36,5 @@ HRESULT QVRNameUtil::GetUniqueNameForPropagatingObject(ZFXUnicodeString& name, Z
 
 HRESULT QVRNameUtil::IsUniqueNameForPropagatingObject(ZFXISpecObject_var& object,
                                                       const ZFXUnicodeString& name) noexcept {
-    return Raise(NameDecisions::InScope(NameScopes::OfPropagatingObject(object), object, {name}));
+    return Raise(QVR_HERE, NameDecisions::InScope(NameScopes::OfPropagatingObject(object), object, {name}));
 }

@@ -4,9 +4,9 @@
 
 HRESULT QVRNameUtil::IsNameUniqueInSet(const ZFXISpecObject_var& feature, const ZFXListValZFXBaseUnknown_var& scope,
                                        const ZFXUnicodeString& name) noexcept {
-    return Raise(NameDecisions::InList(feature, scope, {name}));
+    return Raise(QVR_HERE, NameDecisions::InList(feature, scope, {name}));
 }
 
 HRESULT QVRNameUtil::IsNameUniqueAcrossCases(ZFXISpecObject_var& feature, const ZFXUnicodeString& name) noexcept {
-    return Raise(NameDecisions::InScope(NameScopes::OfJob(feature), feature, {name}));
+    return Raise(QVR_HERE, NameDecisions::InScope(NameScopes::OfJob(feature), feature, {name}));
 }

@@ -9,13 +9,13 @@ bool CarriesReturnCode(MessageId id) {
            id == MessageId::DuplicateNameERR_02;
 }
 
-HRESULT RaiseForStep(HRESULT comparison, const char* sourceFile, int sourceLine) {
+HRESULT RaiseForStep(SourcePosition position, HRESULT comparison) {
     const ZFXError* error = ZFXError::ZFXGetLastError(comparison, nullptr);
     if (error == nullptr)
         return 1;
     if (error->GetReturnCode() == kNameRejected)
-        return InputErrorReturn(MessageId::DuplicateNameERR_01, {}, sourceFile, sourceLine);
-    return InputErrorReturn(std::string(error->GetMsgId()), sourceFile, sourceLine);
+        return InputErrorReturn(position, MessageId::DuplicateNameERR_01);
+    return InputErrorReturn(position, std::string(error->GetMsgId()));
 }
 
 } // namespace
@@ -29,23 +29,22 @@ QVRNameFinding FindingOf(const Decision& decision, const ZFXISpecObject_var& fea
             decision.other};
 }
 
-HRESULT Raise(const Decision& decision, const char* sourceFile, int sourceLine) {
+HRESULT Raise(SourcePosition position, const Decision& decision) {
     if (!decision.rule)
         return decision.code;
     if (decision.comparison) {
-        const HRESULT comparison = Raise(decision.comparison, sourceFile, sourceLine);
+        const HRESULT comparison = Raise(position, decision.comparison);
         if (decision.isOfStep)
-            return RaiseForStep(comparison, sourceFile, sourceLine);
+            return RaiseForStep(position, comparison);
     }
     ZFXUnicodeString parameter(decision.parameter);
-    return InputErrorReturn(*decision.rule,
+    return InputErrorReturn(position, *decision.rule,
                             {.returnCode = CarriesReturnCode(*decision.rule) ? kNameRejected : 0,
-                             .diagnostic = parameter.IsNull() != 0 ? nullptr : &parameter},
-                            sourceFile, sourceLine);
+                             .diagnostic = parameter.IsNull() != 0 ? nullptr : &parameter});
 }
 
-HRESULT Raise(const std::optional<MessageId>& rule, const char* sourceFile, int sourceLine) {
-    return rule ? Raise(Decision::Broken(*rule), sourceFile, sourceLine) : S_OK;
+HRESULT Raise(SourcePosition position, const std::optional<MessageId>& rule) {
+    return rule ? Raise(position, Decision::Broken(*rule)) : S_OK;
 }
 
 ZFXUnicodeString QVRNameFinding::Message() const {

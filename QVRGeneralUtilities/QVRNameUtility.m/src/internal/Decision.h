@@ -26,8 +26,6 @@ struct Decision {
 
 /// Registers the errors of a decision and returns the code of the last one. Returns `decision.code` if there is no
 /// error. Returns 1 if the error of a step's comparison could not be registered.
-[[nodiscard]] HRESULT Raise(const Decision& decision, const char* sourceFile = __builtin_FILE(),
-                            int sourceLine = __builtin_LINE());
+[[nodiscard]] HRESULT Raise(SourcePosition position, const Decision& decision);
 /// Registers the error of a broken rule and returns its code. Returns S_OK if there is no rule.
-[[nodiscard]] HRESULT Raise(const std::optional<MessageId>& rule, const char* sourceFile = __builtin_FILE(),
-                            int sourceLine = __builtin_LINE());
+[[nodiscard]] HRESULT Raise(SourcePosition position, const std::optional<MessageId>& rule);

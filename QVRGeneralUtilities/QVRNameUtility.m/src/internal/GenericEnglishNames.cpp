@@ -6,11 +6,11 @@
 
 HRESULT GenericEnglishNames::Of(const ZFXISpecObject_var& feature, ZFXUnicodeString& name) {
     if (feature == nullptr)
-        return InputErrorReturn(MessageId::GetGenericEnglishNameERR_01);
+        return InputErrorReturn(QVR_HERE, MessageId::GetGenericEnglishNameERR_01);
     const Members& members = MembersAround(feature);
     const auto position = members.positions.find(ZFXIdentityOf(feature));
     if (position == members.positions.end())
-        return InputErrorReturn(MessageId::GetGenericEnglishNameERR_01);
+        return InputErrorReturn(QVR_HERE, MessageId::GetGenericEnglishNameERR_01);
     name = Numbering::NumberedName(feature->GetLateType() + "-", position->second);
     return S_OK;
 }

@@ -13,7 +13,7 @@ constexpr const char* kIds[] = {
 #undef MESSAGE_ID
 };
 
-HRESULT Raise(const char* id, const InputErrorDetails& details, const char* sourceFile, int sourceLine) {
+HRESULT Raise(SourcePosition position, const char* id, const InputErrorDetails& details) {
     auto* error = new ZFXInputError(id, "QVRNameUtility");
     if (error == nullptr)
         return E_FAIL;
@@ -22,18 +22,18 @@ HRESULT Raise(const char* id, const InputErrorDetails& details, const char* sour
         error->SetReturnCode(details.returnCode);
     if (details.diagnostic != nullptr)
         error->SetNLSDiagnosticParams(1, details.diagnostic);
-    return ZFXError::GetReturn(ZFXErrorTypeInput, error, nullptr, sourceFile, sourceLine);
+    return ZFXError::GetReturn(ZFXErrorTypeInput, error, nullptr, position.file, position.line);
 }
 
 } // namespace
 
 const char* TextOf(MessageId id) noexcept { return kIds[static_cast<std::size_t>(id)]; }
 
-HRESULT InputErrorReturn(MessageId id, const InputErrorDetails& details, const char* sourceFile, int sourceLine) {
-    return Raise(TextOf(id), details, sourceFile, sourceLine);
+HRESULT InputErrorReturn(SourcePosition position, MessageId id, const InputErrorDetails& details) {
+    return Raise(position, TextOf(id), details);
 }
 
-HRESULT InputErrorReturn(const std::string& id, const char* sourceFile, int sourceLine) {
+HRESULT InputErrorReturn(SourcePosition position, const std::string& id) {
     assert(!id.empty());
-    return Raise(id.c_str(), {}, sourceFile, sourceLine);
+    return Raise(position, id.c_str(), {});
 }

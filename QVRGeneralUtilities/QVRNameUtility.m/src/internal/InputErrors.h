@@ -27,10 +27,17 @@ struct InputErrorDetails {
     ZFXUnicodeString* diagnostic = nullptr; ///< parameter of the diagnostic text, or null. [borrowed]
 };
 
-/// Registers an input error with the message id and the position of the calling statement.
+/// The position of a statement in the sources, which the error records.
+struct SourcePosition {
+    const char* file; ///< [borrowed]
+    int line;
+};
+
+/// The position of the statement that contains this macro. clang 14 has no std::source_location.
+#define QVR_HERE (SourcePosition{__FILE__, __LINE__})
+
+/// Registers an input error with the message id.
 /// Returns the code under which ZFXError::ZFXGetLastError finds the error.
-[[nodiscard]] HRESULT InputErrorReturn(MessageId id, const InputErrorDetails& details = {},
-                                       const char* sourceFile = __builtin_FILE(), int sourceLine = __builtin_LINE());
+[[nodiscard]] HRESULT InputErrorReturn(SourcePosition position, MessageId id, const InputErrorDetails& details = {});
 /// Registers an input error with the id of another error. `id` is a copy, because the registry may free that error.
-[[nodiscard]] HRESULT InputErrorReturn(const std::string& id, const char* sourceFile = __builtin_FILE(),
-                                       int sourceLine = __builtin_LINE());
+[[nodiscard]] HRESULT InputErrorReturn(SourcePosition position, const std::string& id);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "analysis/ZFXIAlias.h"
+#include "base/CompilerExtensions.h"
 #include "object-model/ZFXHandle.h"
 
 #include <algorithm>
@@ -31,9 +32,9 @@ void ForEachPrefetched(const ZFXListValZFXBaseUnknown_var& scope, Visit visit) {
     for (auto at = scope.begin(); at != end; ++at) {
         const auto* later = reinterpret_cast<const char*>((at + std::min(kAhead, end - at - 1))->Get());
         if (later != nullptr) {
-            __builtin_prefetch(later); // a feature and its name fill three cache lines
-            __builtin_prefetch(later + kCacheLine);
-            __builtin_prefetch(later + 2 * kCacheLine);
+            ZFXPrefetch(later); // a feature and its name fill three cache lines
+            ZFXPrefetch(later + kCacheLine);
+            ZFXPrefetch(later + 2 * kCacheLine);
         }
         if (!visit(*at))
             return;
