@@ -321,7 +321,7 @@ void CheckResult(HostProbe& probe, const char* operation, const Result& result, 
 } // namespace
 
 int ZFXCheckBinding(ZFXBaseUnknown* object, std::vector<std::string>& report) {
-    assert(object != nullptr);
+    assert(object != nullptr && "ZFXCheckBinding: the object is null");
     HostProbe probe(report);
     probe.Run("QueryInterface", [&] { probe.CheckCasts(*object); });
     if (probe.Faults() == 0)
@@ -375,7 +375,7 @@ int ZFXCheckModule(std::vector<std::string>& report) {
 }
 
 int ZFXCheckReleased(ZFXBaseUnknown* object, unsigned references, std::vector<std::string>& report) {
-    assert(object != nullptr);
+    assert(object != nullptr && "ZFXCheckReleased: the object is null");
     HostProbe probe(report);
     if (HostProbe::References(object) > references)
         probe.Report("QVRGenI18NUtils::ResetAllLists",

@@ -41,7 +41,8 @@ public:
     }
     ZFXError* Latest() const noexcept { return m_errors[m_latest]; }
     long Size() const noexcept {
-        return static_cast<long>(m_errors.size()) - std::count(m_errors.begin(), m_errors.end(), nullptr);
+        return static_cast<long>(
+            std::count_if(m_errors.begin(), m_errors.end(), [](ZFXError* error) { return error != nullptr; }));
     }
     ZFXError* Find(HRESULT code) const noexcept {
         for (ZFXError* error : m_errors)
@@ -81,7 +82,7 @@ const char* OrEmpty(const char* text) noexcept { return text == nullptr ? "" : t
 
 /// Returns copies of `count` strings: `first` and then those in `rest`. Null gives an empty string.
 std::vector<ZFXUnicodeString> Collect(int count, ZFXUnicodeString* first, va_list rest) {
-    assert(count >= 0);
+    assert(count >= 0 && "ZFXError::SetNLSParameters: the count is negative");
     std::vector<ZFXUnicodeString> parameters;
     for (int i = 0; i < count; ++i) {
         const ZFXUnicodeString* parameter = i == 0 ? first : va_arg(rest, ZFXUnicodeString*);

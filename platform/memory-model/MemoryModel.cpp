@@ -19,8 +19,9 @@ MemoryObject* FirstChildOf(const MemoryObject* object, MemoryKind kind) {
 /// Returns `target`. Both objects must be in documents of one model: its end removes the links of all its objects, so
 /// that no link outlives its target.
 MemoryObject* LinkTarget([[maybe_unused]] const MemoryObject& object, MemoryObject* target) {
-    assert(target == nullptr || (object.document != nullptr && target->document != nullptr &&
-                                 &object.document->session == &target->document->session));
+    assert((target == nullptr || (object.document != nullptr && target->document != nullptr &&
+                                  &object.document->session == &target->document->session)) &&
+           "MemoryFeature: the objects of a link are in documents of different models");
     return target;
 }
 
@@ -149,7 +150,7 @@ MemoryFeature& MemoryFeature::AddSlave(MemoryFeature connector) {
 }
 MemoryFeature& MemoryFeature::FailAlways(MemoryRequest request, MemoryResponse response) {
     return Change([&](MemoryObject& object) {
-        assert(object.document != nullptr);
+        assert(object.document != nullptr && "MemoryFeature::FailAlways: the document is closed");
         object.document->session.faults.Add(request, &object, MemoryFaults::kAlways, response);
     });
 }
@@ -211,7 +212,7 @@ const char* MemoryModel::FirstUnexpectedArgument() const noexcept {
 }
 
 void MemoryModel::FailNth(MemoryRequest request, long n, MemoryResponse response) {
-    assert(n >= 1);
+    assert(n >= 1 && "MemoryModel::FailNth: n starts at 1");
     m_session->faults.Add(request, nullptr, n, response);
 }
 

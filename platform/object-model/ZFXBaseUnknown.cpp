@@ -3,6 +3,7 @@
 #include "object-model/ZFXInterfaces.h"
 #include "object-model/ZFXMetaClass.h"
 
+#include <cassert>
 #include <utility>
 
 HRESULT ZFXBaseUnknown::QueryInterface(const IID& iid, void** interfacePointer) {
@@ -41,7 +42,9 @@ HRESULT ZFXBaseUnknown::Invoke(long, const IID&, unsigned long, unsigned short, 
     return E_NOTIMPL;
 }
 
-ZFXBaseUnknown::~ZFXBaseUnknown() = default;
+ZFXBaseUnknown::~ZFXBaseUnknown() {
+    assert(m_count <= 1 && "ZFXBaseUnknown: an object is destroyed to which others have references");
+}
 
 ZFXMetaClass* ZFXBaseUnknown::MetaObject() {
     static ZFXMetaClass* const metaObject = fct_RetrieveMetaObject("ZFXBaseUnknown", ENUMTypeOfClass::Implementation,

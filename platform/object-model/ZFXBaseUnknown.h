@@ -37,7 +37,7 @@ public:
     virtual ULONG AddRef() { return ++m_count; }
     /// Removes one reference and destroys the object if it was the last. Returns the number of references left.
     virtual ULONG Release() {
-        assert(m_count > 0);
+        assert(m_count > 0 && "ZFXBaseUnknown::Release: there are no references left");
         const ULONG left = --m_count;
         if (left == 0)
             delete this;
@@ -56,6 +56,7 @@ public:
     /// Casts to the interface of this name, such as "ZFXIAlias". Results are those of the cast by identifier; a name
     /// that is null or unknown gives E_NOINTERFACE.
     virtual HRESULT QueryInterface(const char* interfaceName, void** interfacePointer);
+    /// An object that is not destroyed by Release must have no references except its first.
     virtual ~ZFXBaseUnknown();
     /// Returns the meta class of the object's class. [borrowed]
     virtual ZFXMetaClass* GetMetaObject() const;

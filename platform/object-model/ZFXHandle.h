@@ -108,7 +108,7 @@ public:
     /// @}
     /// Returns the interface pointer. The handle must not be empty. [borrowed]
     Interface* operator->() const noexcept {
-        assert(m_pointer != nullptr);
+        assert(m_pointer != nullptr && "ZFXHandle::operator->: the handle is empty");
         return m_pointer;
     }
     /// Exchanges the references of both handles.
@@ -171,8 +171,12 @@ private:
             Cast<ZFXBaseUnknown>(static_cast<Rooted<Other>*>(object));
         } else {
             void* result = nullptr;
-            if (!Failed(object->QueryInterface(Interface::ClassId(), &result)))
+            const HRESULT code = object->QueryInterface(Interface::ClassId(), &result);
+            assert(Failed(code) == (result == nullptr) && "QueryInterface: the code contradicts the interface pointer");
+            if (!Failed(code))
                 m_pointer = static_cast<Interface*>(result);
+            assert((m_pointer == nullptr || ZFXSameObject(m_pointer, object)) &&
+                   "QueryInterface: the interface belongs to another object; see SetImpl");
         }
     }
 

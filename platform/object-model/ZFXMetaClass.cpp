@@ -59,7 +59,7 @@ int ZFXMetaClass::IsExtensionOf(const ZFXMetaClass* extended) const noexcept {
 }
 
 void ZFXMetaClass::Declare(ENUMTypeOfClass kind, ZFXMetaClass* base) noexcept {
-    assert(!m_declared);
+    assert(!m_declared && "ZFXMetaClass::Declare: the class is declared already");
     m_kind = kind;
     m_base = base;
     m_declared = true;
@@ -74,7 +74,7 @@ ZFXAdaptorFactory ZFXMetaClass::FindAdaptorFactory(const IID& iid) const noexcep
 }
 
 void ZFXMetaClass::AddAdaptorFactory(const IID& iid, ZFXAdaptorFactory factory) {
-    assert(factory != nullptr);
+    assert(factory != nullptr && "ZFXMetaClass::AddAdaptorFactory: the factory is null");
     m_adaptors.push_back({iid, factory});
 }
 
@@ -95,8 +95,8 @@ ZFXMetaClass* fct_RetrieveMetaObject(const char* name, ENUMTypeOfClass kind, ZFX
 
 ZFXMetaClass* fct_RetrieveAdaptorMetaObject(const IID& iid, const char* interfaceName, ZFXMetaClass* interfaceClass,
                                             ZFXMetaClass* implementation) {
-    assert(interfaceName != nullptr);
-    assert(implementation != nullptr);
+    assert(interfaceName != nullptr && "fct_RetrieveAdaptorMetaObject: the name is null");
+    assert(implementation != nullptr && "fct_RetrieveAdaptorMetaObject: the implementation is null");
     std::unique_ptr<ZFXMetaClass>& metaClass = Registry()[std::string(implementation->IsA()) + "/" + interfaceName];
     if (metaClass == nullptr)
         metaClass = std::make_unique<ZFXMetaClass>(&iid, interfaceName, interfaceClass, implementation,
@@ -117,6 +117,7 @@ ZFXMetaClass* fct_FindMetaObject(const char* name) {
 ZFXFillDictionary::ZFXFillDictionary(ZFXMetaClass* extension, ZFXMetaClass* interfaceClass, ZFXAdaptorFactory factory,
                                      ZFXAdaptorFactory /*secondFactory*/, int /*flag*/)
     : m_extension(extension), m_iid(interfaceClass->GetClassId()), m_factory(factory) {
+    assert(extension != nullptr && "ZFXFillDictionary: the extension is null");
     m_extension->AddAdaptorFactory(m_iid, m_factory);
 }
 

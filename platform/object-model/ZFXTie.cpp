@@ -5,9 +5,9 @@
 ZFXBaseUnknown* Tie_Construct(ZFXBaseUnknown* adaptor, ZFXTie& tie, ZFXMetaClass* /*adaptorClass*/,
                               const CLSID& /*extension*/, ENUMTypeOfClass /*kind*/, ZFXBaseUnknown* /*previous*/,
                               ZFXImplementationMaker maker, ZFXBaseUnknown* object, void* /*context*/) {
-    assert(adaptor != nullptr);
-    assert(maker != nullptr);
-    assert(object != nullptr);
+    assert(adaptor != nullptr && "Tie_Construct: the adaptor is null");
+    assert(maker != nullptr && "Tie_Construct: the maker is null");
+    assert(object != nullptr && "Tie_Construct: the object is null");
     tie.count = 1;
     tie.object = object;
     object->AddRef();
@@ -33,7 +33,7 @@ void Tie_Destruct(ZFXBaseUnknown* adaptor, ZFXTie& tie) {
 
 HRESULT Tie_Query(ZFXBaseUnknown* adaptor, const ZFXTie& tie, const ZFXMetaClass* adaptorClass, const IID& iid,
                   void** interfacePointer) {
-    assert(tie.object != nullptr);
+    assert(tie.object != nullptr && "Tie_Query: Tie_Construct was not called");
     if (interfacePointer == nullptr)
         return E_POINTER;
     *interfacePointer = nullptr;
@@ -47,7 +47,7 @@ HRESULT Tie_Query(ZFXBaseUnknown* adaptor, const ZFXTie& tie, const ZFXMetaClass
 ULONG Tie_AddRef(ZFXTie& tie) { return ++tie.count; }
 
 ULONG Tie_Release(ZFXBaseUnknown* adaptor, ZFXTie& tie) {
-    assert(tie.count > 0);
+    assert(tie.count > 0 && "Tie_Release: there are no references left");
     const ULONG left = --tie.count;
     if (left == 0)
         delete adaptor;

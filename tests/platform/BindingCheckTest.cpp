@@ -213,9 +213,13 @@ public:
         return mistake == Mistake::NoDocument ? nullptr : &m_document;
     }
 
-    void ClearLists() {
+    /// Releases what the mistake left behind.
+    void Undo() {
         pointing.RemoveAll();
         m_sets.RemoveAll();
+        for (ZFXBaseUnknown* object : {Root(), static_cast<ZFXBaseUnknown*>(&m_document)})
+            for (ULONG references = object->AddRef(); references > 1;)
+                references = object->Release();
     }
 
     const Mistake mistake;
@@ -285,8 +289,9 @@ TEST(BindingCheck, ReportsMistakesInTheOperationsOfTheInterfaces) {
         step.father = &history;
         step.pointing.Append(&history);
         ExpectFault(FirstFault(ZFXBaseUnknown_var(&step)), sentence, section);
-        step.ClearLists();
-        EXPECT_EQ(history.AddRef(), 2U) << sentence;
+        step.Undo();
+        history.AddRef();
+        EXPECT_EQ(history.Release(), 1U) << sentence;
     }
 }
 

@@ -102,6 +102,7 @@ TEST(Root, OffersItselfOnly) {
     EXPECT_EQ(result, &object);
     EXPECT_EQ(object.AddRef(), 3U);
     EXPECT_EQ(object.Release(), 2U);
+    EXPECT_EQ(object.Release(), 1U);
     EXPECT_EQ(object.QueryInterface(IID_ZFXBaseUnknown, nullptr), E_POINTER);
     EXPECT_EQ(object.QueryInterface("ZFXIAlias", nullptr), E_POINTER);
     EXPECT_EQ(object.GetTypeInfoCount(nullptr), E_POINTER);

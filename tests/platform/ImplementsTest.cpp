@@ -1,9 +1,13 @@
 #include "support/Results.h"
 
 #include "analysis/AnalysisInterfaces.h"
+#include "analysis/WorkbenchUtilities.h"
 #include "object-model/ZFXImplements.h"
 
 #include <gtest/gtest.h>
+
+#include <functional>
+#include <utility>
 
 namespace {
 
@@ -69,8 +73,35 @@ TEST(Implements, ExtensionOfTheLateTypeTakesPrecedence) {
         extension, ZFXIAlias::MetaObject(),
         [](ZFXBaseUnknown*, void*) -> ZFXBaseUnknown* { return ZFXIAlias_var(&replacement).Detach(); }, nullptr, 1);
     Feature extended("ExtendedLT");
-    EXPECT_TRUE(ZFXIAlias_var(&extended) == &replacement);
+    void* found = nullptr;
+    EXPECT_EQ(extended.QueryInterface(IID_ZFXIAlias, &found), S_OK);
+    EXPECT_TRUE(ZFXIAlias_var::Attach(static_cast<ZFXIAlias*>(found)) == &replacement);
     EXPECT_TRUE(ZFXISpecObject_var(&extended) == &extended);
 }
+
+#if GTEST_HAS_DEATH_TEST && !defined(NDEBUG)
+
+TEST(AssertionDeathTest, NamesTheOperation) {
+    const std::pair<std::function<void()>, const char*> rows[] = {
+        {[] { static_cast<void>(ZFXIAlias_var()->GetAlias()); }, "ZFXHandle::operator->: the handle is empty"},
+        {[] {
+             auto* feature = new Feature("ImplementsTestLT");
+             const ZFXBaseUnknown_var kept(feature);
+             delete feature;
+         },
+         "ZFXBaseUnknown: an object is destroyed to which others have references"},
+        {[] { fct_FindMetaObject("ImplementsTestLT")->AddAdaptorFactory(IID_ZFXIAlias, nullptr); },
+         "ZFXMetaClass::AddAdaptorFactory: the factory is null"},
+        {[] {
+             ZFXISpecObject_var step = ZFXISpecObject_var::Attach(new Feature("ImplementsTestLT"));
+             static_cast<void>(QVRAnalysisEntityUtils::GetParentStep(step, step));
+         },
+         "AnalysisServices::GetParentStep: the handle is not empty"},
+    };
+    for (const auto& [call, message] : rows)
+        EXPECT_DEATH(call(), message);
+}
+
+#endif
 
 } // namespace
