@@ -78,13 +78,13 @@ void PrintSummary(const std::vector<DocumentReport>& reports, const AuditRequest
     std::size_t checked = 0;
     std::size_t refusals = 0;
     std::size_t deckFaults = 0;
-    std::size_t unknownTypes = 0;
+    std::size_t warnings = 0;
     std::map<std::string, std::size_t> byRule;
     for (const DocumentReport& report : reports) {
         checked += report.checked;
         refusals += report.refusals.size();
         deckFaults += report.deckFaults.size();
-        unknownTypes += report.unknownTypes.size();
+        warnings += report.warnings.size();
         for (const ReportedFinding* finding : FindingsOf(report, request.isStrict))
             ++byRule[finding->rule];
     }
@@ -100,19 +100,20 @@ void PrintSummary(const std::vector<DocumentReport>& reports, const AuditRequest
     console.out << Counted(checked, "feature") << " checked, " << Counted(refusals, "refusal");
     if (request.withDeck)
         console.out << ", " << Counted(deckFaults, "finding") << " in the deck";
-    if (unknownTypes > 0)
-        console.out << ", " << Counted(unknownTypes, "unknown late type");
+    if (warnings > 0)
+        console.out << ", " << Counted(warnings, "warning");
     console.out << '\n';
 }
 
-/// Prints what a user must notice in every format: why a document is unusable, and unknown late types.
+/// Prints what a user must notice in every format: why a document is unusable, and warnings.
 void PrintNotices(const DocumentReport& report, const AuditRequest& request, Console console) {
     if (!report.error.empty())
         console.err << "qvrnames: " << Printable(report.error) << '\n';
     if (!request.isStrict)
-        for (const ReportedFinding& finding : report.unknownTypes)
+        for (const ReportedFinding& finding : report.warnings)
             console.err << "qvrnames: " << Printable(DisplayFileName(report.file)) << ":" << Position(finding)
-                        << ": warning: " << Printable(finding.message) << '\n';
+                        << ": warning: " << (finding.name.empty() ? "" : "\"" + Printable(finding.name) + "\": ")
+                        << Printable(finding.message) << '\n';
 }
 
 int ExitCodeOf(const std::vector<DocumentReport>& reports, bool isStrict) {

@@ -120,9 +120,10 @@ void FillReport(const LoadedDocument& loaded, bool withDeck, DocumentReport& rep
     const References references(loaded, keys);
     report.checked = named.size();
     report.refusals = Reported(loaded, refusals, references);
-    report.deckFaults = Reported(loaded, deck, references);
+    for (ReportedFinding& finding : Reported(loaded, deck, references))
+        (finding.rule == kDeckCharacter ? report.warnings : report.deckFaults).push_back(std::move(finding));
     for (const UnknownType& unknown : unknownTypes)
-        report.unknownTypes.push_back(
+        report.warnings.push_back(
             {references(unknown.first, DocumentKey::Type), kUnknownType, unknown.type, "", MessageFor(unknown)});
 }
 
@@ -140,8 +141,8 @@ DocumentReport AuditFile(const std::string& file, bool withDeck) {
 
 std::vector<const ReportedFinding*> FindingsOf(const DocumentReport& report, bool isStrict) {
     std::vector<const ReportedFinding*> findings;
-    for (const auto* list : {&report.refusals, &report.deckFaults, &report.unknownTypes})
-        if (list != &report.unknownTypes || isStrict)
+    for (const auto* list : {&report.refusals, &report.deckFaults, &report.warnings})
+        if (list != &report.warnings || isStrict)
             for (const ReportedFinding& finding : *list)
                 findings.push_back(&finding);
     return findings;

@@ -28,22 +28,23 @@ struct ReportedFinding {
 // Rules without a message in the catalog.
 inline constexpr const char* kRequestFailed = "RequestFailed";         ///< a check without an error object
 inline constexpr const char* kDuplicateDeckName = "DuplicateDeckName"; ///< two objects have one name in the deck
+inline constexpr const char* kDeckCharacter = "DeckCharacter";         ///< a character with a meaning in the deck
 inline constexpr const char* kUnknownType = "UnknownLateType";         ///< a late type that the library does not know
 
 /// The result for one document.
 struct DocumentReport {
-    std::string file;                          ///< as in the command line, or found in a folder
-    std::string error;                         ///< why the document is unusable; empty if it was audited
-    std::size_t checked = 0;                   ///< number of features
-    std::vector<ReportedFinding> refusals;     ///< names of features that break a rule
-    std::vector<ReportedFinding> deckFaults;   ///< names in the deck that break a rule or clash
-    std::vector<ReportedFinding> unknownTypes; ///< one for each unknown late type, at its first object
+    std::string file;                        ///< as in the command line, or found in a folder
+    std::string error;                       ///< why the document is unusable; empty if it was audited
+    std::size_t checked = 0;                 ///< number of features
+    std::vector<ReportedFinding> refusals;   ///< names of features that break a rule
+    std::vector<ReportedFinding> deckFaults; ///< names in the deck that break a rule or clash
+    std::vector<ReportedFinding> warnings;   ///< unknown late types, and characters with a meaning in the deck
 };
 
 /// Audits a document. An unusable document is part of the report.
 [[nodiscard]] DocumentReport AuditFile(const std::string& file, bool withDeck);
 
-/// Returns the findings that make the audit of a document fail: all, or all but unknown late types unless strict.
+/// Returns the findings that make the audit of a document fail: refusals, deck faults and, if strict, warnings.
 [[nodiscard]] std::vector<const ReportedFinding*> FindingsOf(const DocumentReport& report, bool isStrict);
 
 /// Prints reports in one of the formats of AuditRequest::format but "text".

@@ -1,15 +1,63 @@
 #include "ExitCode.h"
 #include "commands/Commands.h"
+#include "files/FileErrors.h"
+#include "files/WholeFile.h"
 #include "terminal/DisplayWidth.h"
 #include "terminal/Table.h"
 
 #include <nlohmann/json.hpp>
 
+#include <sstream>
+#include <string_view>
+
+namespace {
+
+/// Returns the lines of a file, or of standard input, without their ends and without a byte order mark.
+std::vector<std::string> LinesOf(const std::string& file) {
+    constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
+    std::string bytes = ReadWholeFile(file);
+    if (bytes.starts_with(kByteOrderMark))
+        bytes.erase(0, kByteOrderMark.size());
+    std::istringstream text(bytes);
+    std::vector<std::string> lines;
+    for (std::string line; std::getline(text, line);) {
+        if (line.ends_with('\r'))
+            line.pop_back();
+        if (line != ZFXUnicodeString(line.c_str()).ConvertToChar())
+            throw BadInput(DisplayFileName(file) + ": line " + std::to_string(lines.size() + 1) +
+                           " is not text in UTF-8");
+        lines.push_back(std::move(line));
+    }
+    return lines;
+}
+
+std::vector<std::string> NamesOf(const CheckRequest& request) {
+    std::vector<std::string> names;
+    for (const std::string& argument : request.names) {
+        const std::vector<std::string> found =
+            argument == kStandardStream ? LinesOf(argument) : std::vector<std::string>{argument};
+        names.insert(names.end(), found.begin(), found.end());
+    }
+    if (!request.from.empty()) {
+        const std::vector<std::string> found = LinesOf(request.from);
+        names.insert(names.end(), found.begin(), found.end());
+    }
+    if (names.empty())
+        throw BadInput("there is no name to check; see --help");
+    return names;
+}
+
+constexpr const char* kWhereRulesApply =
+    "These rules apply to all features but two: names of jobs are only compared with each other, and names of shell "
+    "sections (QVRShellSectionEnhLT) may begin with a digit.";
+
+} // namespace
+
 int CheckNames(const CheckRequest& request, Console console) {
     nlohmann::ordered_json names = nlohmann::ordered_json::array();
     Table table;
     bool isRefused = false;
-    for (const std::string& argument : request.names) {
+    for (const std::string& argument : NamesOf(request)) {
         const ZFXUnicodeString name = ToUnicode(argument);
         const Verdict verdict = request.areFileNames ? CheckFileName(name) : CheckText(name);
         isRefused |= verdict.IsRefusal();
@@ -23,9 +71,12 @@ int CheckNames(const CheckRequest& request, Console console) {
         }
         names.push_back(std::move(json));
     }
-    if (console.isJson)
+    if (console.isJson) {
         PrintJson(console.out, {{"legal", !isRefused}, {"names", names}});
-    else
+    } else {
         PrintTable(console.out, table, console.screen);
+        if (isRefused && !request.areFileNames)
+            console.out << '\n' << kWhereRulesApply << '\n';
+    }
     return isRefused ? kRefused : kSuccess;
 }

@@ -108,7 +108,8 @@ private:
     void AddCheck() {
         CLI::App* app = Add("check", "Check whether texts are legal as names of features or files.",
                             "check Step-1 \"Static Step.2\"", [this] { return CheckNames(m_check, m_console); });
-        app->add_option("NAME", m_check.names, "The names to check")->required()->expected(1, -1);
+        app->add_option("NAME", m_check.names, "The names to check; - for names on stdin, one a line");
+        app->add_option("--from", m_check.from, "Also check the names in this file, one a line");
         app->add_flag("--file-name", m_check.areFileNames, "Check them as file names");
     }
     void AddAudit() {
@@ -121,7 +122,7 @@ private:
             ->expected(1, -1);
         app->add_flag("--deck", m_audit.withDeck,
                       "Also check the names in the solver deck for broken rules and duplicates");
-        app->add_flag("--strict", m_audit.isStrict, "Count an unknown late type as a finding, not as a warning");
+        app->add_flag("--strict", m_audit.isStrict, "Count warnings as findings, for example of unknown late types");
         app->add_flag("--summary", m_audit.isSummary, "Print the number of findings by rule instead of the findings");
         app->add_option("--format", m_audit.format, "Format of the report: text (default), json, sarif or junit")
             ->check(CLI::IsMember({"text", "json", "sarif", "junit"}))

@@ -21,7 +21,8 @@ struct Console {
 };
 
 struct CheckRequest {
-    std::vector<std::string> names;
+    std::vector<std::string> names; ///< "-": the names on standard input, one a line
+    std::string from;               ///< a file with further names, one a line; empty: none
     bool areFileNames = false;
 };
 int CheckNames(const CheckRequest& request, Console console);
@@ -29,7 +30,7 @@ int CheckNames(const CheckRequest& request, Console console);
 struct AuditRequest {
     std::vector<std::string> documents; ///< files, folders with files "*.json" at any depth, or "-"
     bool withDeck = false;              ///< also check the names in the solver deck
-    bool isStrict = false;              ///< an unknown late type is a finding, not a warning
+    bool isStrict = false;              ///< a warning is a finding
     bool isSummary = false;             ///< print the number of findings by rule instead of the findings
     std::string format;                 ///< "text", "json", "sarif" or "junit"; empty: that of the console
 };

@@ -1,3 +1,4 @@
+#include "commands/AuditReport.h"
 #include "commands/Deck.h"
 
 #include "document/FeaturePaths.h"
@@ -65,6 +66,10 @@ void CheckColumn(const DeckSection& section, std::size_t column, const LoadedDoc
         };
         if (Verdict textVerdict = CheckText(name.c_str()); textVerdict.IsRefusal())
             add(std::move(textVerdict));
+        if (name.find_first_of("\n\r,*") != std::string::npos)
+            add({E_FAIL, kDeckCharacter,
+                 "The name contains a line break, a comma or an asterisk. The deck is made of lines, and comma and "
+                 "asterisk have a meaning in it."});
         if (const auto other = usedNames.FindOwnerOrAdd(section, row.entry, name))
             add({E_FAIL, {}, "The deck also uses this name for " + OtherPath(loaded, *other, row.entry) + ".", other});
     }

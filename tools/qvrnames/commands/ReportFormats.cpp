@@ -59,7 +59,7 @@ void PrintAsJson(const Reports& reports, const AuditRequest& request, std::ostre
             json["refusals"] = AsJson(report.refusals);
             if (request.withDeck)
                 json["deckFaults"] = AsJson(report.deckFaults);
-            json["unknownTypes"] = AsJson(report.unknownTypes);
+            json["warnings"] = AsJson(report.warnings);
         }
         documents.push_back(std::move(json));
     }
@@ -115,6 +115,7 @@ Json RuleOf(const std::string& id) {
     static const std::map<std::string, const char*> fixed{
         {kRequestFailed, "A name cannot be checked, because a part of the document cannot be read."},
         {kDuplicateDeckName, "Two objects have the same name in the solver deck."},
+        {kDeckCharacter, "A name contains a line break, a comma or an asterisk, which have a meaning in the deck."},
         {kUnknownType, "A late type is not known; it may be misspelt."}};
     const auto text = fixed.find(id);
     if (text != fixed.end())
@@ -141,9 +142,9 @@ void PrintAsSarif(const Reports& reports, const AuditRequest& request, std::ostr
                 {{"level", "error"},
                  {"message", {{"text", report.error}}},
                  {"locations", Json::array({{{"physicalLocation", {{"artifactLocation", {{"uri", uri}}}}}}})}});
-        for (const auto* findings : {&report.refusals, &report.deckFaults, &report.unknownTypes})
+        for (const auto* findings : {&report.refusals, &report.deckFaults, &report.warnings})
             for (const ReportedFinding& finding : *findings) {
-                const bool isWarning = findings == &report.unknownTypes && !request.isStrict;
+                const bool isWarning = findings == &report.warnings && !request.isStrict;
                 results.push_back(ResultOf(uri, finding, isWarning ? "warning" : "error"));
                 const auto [index, isNew] = ruleIndexes.try_emplace(finding.rule, rules.size());
                 if (isNew)
@@ -229,9 +230,9 @@ void PrintSuite(const DocumentReport& report, const AuditRequest& request, std::
         << Attribute("tests", std::to_string(std::max<std::size_t>(failed, 1)))
         << Attribute("failures", std::to_string(failed)) << Attribute("errors", isUnusable ? "1" : "0") << ">\n"
         << cases;
-    if (!request.isStrict && !report.unknownTypes.empty()) {
+    if (!request.isStrict && !report.warnings.empty()) {
         out << "    <system-err>";
-        for (const ReportedFinding& finding : report.unknownTypes)
+        for (const ReportedFinding& finding : report.warnings)
             out << Xml("warning: " + finding.message) << '\n';
         out << "</system-err>\n";
     }

@@ -17,14 +17,14 @@ _qvrnames() {
             continue
         fi
         case $word in
-            --color | --language | --base | --output | --format) skip=1 ;;
+            --color | --language | --base | --output | --format | --from) skip=1 ;;
             = | -?*) ;;
             *) if [ -z "$command" ]; then command=$word; else place=$((place + 1)); fi ;;
         esac
     done
     case $command in
         '') options="$common --version" words='check audit deck propose rename' ;;
-        check) options="$common --file-name" ;;
+        check) options="$common --file-name --from" ;;
         audit) options="$common --deck --strict --summary --format" ;;
         deck) options=$common ;;
         propose) options="$common --base --job" ;;
@@ -37,7 +37,7 @@ _qvrnames() {
         --language) words='de en fr ja' ;;
         --format) words='text json sarif junit' ;;
         --base) return ;;
-        --output) words=FILE ;;
+        --output | --from) words=FILE ;;
         *)
             case $command:$current in
                 *:-?*) words=$options ;;
