@@ -8,8 +8,10 @@
 #include "internal/NameScopes.h"
 #include "internal/ScopeIndex.h"
 #include "internal/TextRules.h"
+#include "internal/Vocabulary.h"
 
 #include <optional>
+#include <string_view>
 #include <unordered_map>
 #include <utility>
 #include <variant>
@@ -32,7 +34,7 @@ struct ScopeKey {
 
 struct HashOfScope {
     std::size_t operator()(const ScopeKey& key) const {
-        const std::size_t type = key.setType ? key.setType->HashIgnoringCase() : 0;
+        const std::size_t type = key.setType ? std::hash<std::u16string_view>()(key.setType->Units()) : 0;
         return std::hash<const ZFXBaseUnknown*>()(ZFXIdentityOf(key.owner)) + 31 * key.kind + type;
     }
 };
@@ -72,7 +74,7 @@ void NameChecker::Check(const ZFXISpecObject_var& feature) {
     m_name = &m_names.Of(feature);
     m_firstFinding = m_findings.Size() + 1;
     const ZFXUnicodeString lateType = feature == nullptr ? ZFXUnicodeString() : feature->GetLateType();
-    if (lateType == LateTypes::QVRJobLT) {
+    if (lateType == Vocabulary::QVRJobLT) {
         Report(Compare(NameScopes::OfJob(feature)));
         if (*m_name)
             Report(Compare(NameScopes::JobsOfDocument{}));
@@ -83,7 +85,7 @@ void NameChecker::Check(const ZFXISpecObject_var& feature) {
         return;
     }
     Report(Compare(NameScopes::OfFeature(feature)));
-    CheckText(**m_name, lateType != LateTypes::QVRShellSectionEnhLT);
+    CheckText(**m_name, lateType != Vocabulary::QVRShellSectionEnhLT);
     Report(TextRules::AboveLatin1(**m_name));
     if (LateTypes::IsOfKind(lateType, LateTypes::Kind::BoltTightening)) {
         CheckText(QVRGenZFXUnicodeStringUtils::ReplacePeriodWithDash(**m_name), true);

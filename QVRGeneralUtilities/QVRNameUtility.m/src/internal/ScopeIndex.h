@@ -32,8 +32,9 @@ public:
     Decision Compare(const ZFXBaseUnknown_var& self, const ZFXUnicodeString& name) const;
 
 private:
+    /// Not noexcept: the library of GCC then stores the hash of each name instead of computing it at each comparison.
     struct HashOfName {
-        std::size_t operator()(const ZFXUnicodeString* name) const noexcept { return name->HashIgnoringCase(); }
+        std::size_t operator()(const ZFXUnicodeString* name) const { return name->HashIgnoringCase(); }
     };
     struct Clash {
         bool operator()(const ZFXUnicodeString* a, const ZFXUnicodeString* b) const noexcept {
