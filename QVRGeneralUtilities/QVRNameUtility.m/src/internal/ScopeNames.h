@@ -4,7 +4,6 @@
 #include "base/CompilerExtensions.h"
 #include "object-model/ZFXHandle.h"
 
-#include <algorithm>
 #include <cstddef>
 
 // Reads and compares the names in a scope: the list of objects in which a name must be unique or is numbered.
@@ -22,17 +21,17 @@
 
 /// Calls `visit` with the objects of a scope in their order, until it returns false.
 ///
-/// Prefetches each object a few calls ahead. Without this, a scan of a large scope mostly waits for memory, because the
-/// objects do not fit into the caches of the processor.
+/// Prefetches each object a few calls ahead. Without this, a scan of a large scope whose objects are scattered in
+/// memory mostly waits for memory. docs/performance.md contains the measurements.
 template <class Visit>
 void ForEachPrefetched(const ZFXListValZFXBaseUnknown_var& scope, Visit visit) {
     constexpr std::ptrdiff_t kAhead = 6;
     constexpr std::ptrdiff_t kCacheLine = 64; // bytes
     const auto end = scope.end();
     for (auto at = scope.begin(); at != end; ++at) {
-        const auto* later = reinterpret_cast<const char*>((at + std::min(kAhead, end - at - 1))->Get());
+        const auto* later = end - at > kAhead ? reinterpret_cast<const char*>(at[kAhead].Get()) : nullptr;
         if (later != nullptr) {
-            ZFXPrefetch(later); // a feature and its name fill three cache lines
+            ZFXPrefetch(later); // three lines: an object with several interfaces is larger than one
             ZFXPrefetch(later + kCacheLine);
             ZFXPrefetch(later + 2 * kCacheLine);
         }
