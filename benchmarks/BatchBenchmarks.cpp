@@ -1,32 +1,36 @@
 #include "Benchmarks.h"
-#include "CpuTime.h"
 #include "QVRNameUtil.h"
-#include "Results.h"
+#include "Scopes.h"
 
 namespace {
 
-void ProposeMany(benchmark::State& state, int count) {
-    const ZFXListValZFXBaseUnknown_var emptyScope;
-    ZFXUnicodeString base("Pressure-");
-    {
-        ZFXListValZFXUnicodeString first; // requests the memory from the system
-        static_cast<void>(QVRNameUtil::GetNextUniqueNames(base, emptyScope, count, first));
-    }
-    for (auto _ : state) {
-        ZFXListValZFXUnicodeString names; // its destruction is not measured
-        state.SetIterationTime(
-            CpuSecondsOf([&] { static_cast<void>(QVRNameUtil::GetNextUniqueNames(base, emptyScope, count, names)); }));
-        if (names.Size() != count)
-            state.SkipWithError("too few proposals");
-    }
+Operation ProposeForList(int count) {
+    return [count] {
+        const ZFXListValZFXBaseUnknown_var emptyScope;
+        ZFXUnicodeString base("Pressure-");
+        ZFXListValZFXUnicodeString names;
+        return !Failed(QVRNameUtil::GetNextUniqueNames(base, emptyScope, count, names)) && names.Size() == count;
+    };
+}
+
+/// The scope is a set of 100 features in a step.
+Operation ProposeForFeature(int count) {
+    MemoryFeature analysisCase = Scopes::NewDocument().Case("Static");
+    MemoryFeature set = analysisCase.Step("QVRStaticLPStepLT", "Step-1").Set("QVRLoadContainerLT");
+    Scopes::Fill(set, "QVRPressure", "Pressure-", 100);
+    return [count, feature = ZFXISpecObject_var(set.Feature("QVRPressure", "Newcomer")),
+            scopeCase = ZFXISamAnalysisCase_var(analysisCase)]() mutable {
+        ZFXListValZFXUnicodeString names;
+        return !Failed(QVRNameUtil::GetUniqueNames("Pressure-", feature, scopeCase, count, names)) &&
+               names.Size() == count;
+    };
 }
 
 } // namespace
 
 void RegisterBatchBenchmarks() {
     for (const int count : {1000, 4000, 1000000})
-        benchmark::RegisterBenchmark(BenchmarkName("GetNextUniqueNames", count).c_str(),
-                                     [=](benchmark::State& state) { ProposeMany(state, count); })
-            ->UseManualTime()
-            ->Iterations(count > 100000 ? 1 : 100);
+        RegisterOperation(BenchmarkName("GetNextUniqueNames", count), [count] { return ProposeForList(count); });
+    for (const int count : {1000, 1000000})
+        RegisterOperation(BenchmarkName("GetUniqueNames", count), [count] { return ProposeForFeature(count); });
 }

@@ -1,4 +1,5 @@
 #include "Benchmarks.h"
+#include "Repeated.h"
 #include "VirtualCall.h"
 #include "text/ZFXUnicodeString.h"
 
@@ -24,47 +25,45 @@ Pair DifferingInCase(const char* text) {
 constexpr const char* kLongName = "Pressure on the upper flange of the pump bracket while it is tightened-7";
 constexpr const char* kShortName = "Pressure-pin";
 
-void Compare(benchmark::State& state, const Pair& pair) {
-    const Pair* texts = &pair;
-    for (auto _ : state) {
+Operation Compare(const Pair& pair) {
+    return Repeated([pair] {
+        const Pair* texts = &pair;
         benchmark::DoNotOptimize(texts);
         benchmark::DoNotOptimize(texts->left.Compare(texts->right));
-    }
+    });
 }
 
-void CompareByIcu(benchmark::State& state, const Pair& pair) {
-    const std::u16string_view left = pair.left.Units();
-    const std::u16string_view right = pair.right.Units();
-    for (auto _ : state) {
+Operation CompareByIcu(const Pair& pair) {
+    return Repeated([pair] {
+        const std::u16string_view left = pair.left.Units();
+        const std::u16string_view right = pair.right.Units();
         UErrorCode error = U_ZERO_ERROR;
         benchmark::DoNotOptimize(u_strCaseCompare(left.data(), static_cast<int32_t>(left.size()), right.data(),
                                                   static_cast<int32_t>(right.size()), U_FOLD_CASE_DEFAULT, &error));
-    }
+    });
 }
 
-void CompareBytes(benchmark::State& state, const Pair& pair) {
-    const char16_t* left = pair.left.Units().data();
-    const char16_t* right = pair.right.Units().data();
-    std::size_t bytes = pair.left.Units().size() * sizeof(char16_t);
-    for (auto _ : state) {
+Operation CompareBytes(const Pair& pair) {
+    return Repeated([pair] {
+        const char16_t* left = pair.left.Units().data();
+        const char16_t* right = pair.right.Units().data();
+        std::size_t bytes = pair.left.Units().size() * sizeof(char16_t);
         benchmark::DoNotOptimize(left);
         benchmark::DoNotOptimize(bytes); // with a known length the compiler would replace the call
         benchmark::DoNotOptimize(std::memcmp(left, right, bytes));
-    }
+    });
 }
 
-void CallVirtually(benchmark::State& state) {
-    const VirtualCall* object = &VirtualCall::Instance();
-    for (auto _ : state) {
+Operation CallVirtually() {
+    return Repeated([object = &VirtualCall::Instance()]() mutable {
         benchmark::DoNotOptimize(object);
-        benchmark::DoNotOptimize(object->Call(&state, object));
-    }
+        benchmark::DoNotOptimize(object->Call(&object, object));
+    });
 }
 
 void RegisterWithIcu(const std::string& name, const Pair& pair) {
-    benchmark::RegisterBenchmark(name.c_str(), [pair](benchmark::State& state) { Compare(state, pair); });
-    benchmark::RegisterBenchmark((name + "/icu").c_str(),
-                                 [pair](benchmark::State& state) { CompareByIcu(state, pair); });
+    RegisterOperation(name, [pair] { return Compare(pair); });
+    RegisterOperation(name + "/icu", [pair] { return CompareByIcu(pair); });
 }
 
 } // namespace
@@ -76,10 +75,8 @@ void RegisterCompareBenchmarks() {
     RegisterWithIcu("Compare/folded72", DifferingInCase(kLongName));
     RegisterWithIcu("Compare/folded12", DifferingInCase(kShortName));
     RegisterWithIcu("Compare/identical72", identical);
-    benchmark::RegisterBenchmark("Compare/identical72/memcmp",
-                                 [identical](benchmark::State& state) { CompareBytes(state, identical); });
-    benchmark::RegisterBenchmark("Compare/lengths", [lengths](benchmark::State& state) { Compare(state, lengths); });
-    benchmark::RegisterBenchmark("Compare/firstUnits",
-                                 [firstUnits](benchmark::State& state) { Compare(state, firstUnits); });
-    benchmark::RegisterBenchmark("VirtualCall", CallVirtually);
+    RegisterOperation("Compare/identical72/memcmp", [identical] { return CompareBytes(identical); });
+    RegisterOperation("Compare/lengths", [lengths] { return Compare(lengths); });
+    RegisterOperation("Compare/firstUnits", [firstUnits] { return Compare(firstUnits); });
+    RegisterOperation("VirtualCall", CallVirtually);
 }

@@ -1,11 +1,21 @@
 #include "Benchmarks.h"
 #include "QVRNameUtil.h"
-#include "Results.h"
 #include "Scopes.h"
+#include "analysis/QVRIPropagatingFeature.h"
+#include "analysis/QVRIStep.h"
+#include "analysis/WorkbenchUtilities.h"
+#include "analysis/ZFXIAlias.h"
+#include "analysis/ZFXISamAnalysisEntity.h"
+#include "analysis/ZFXISamAnalysisScan.h"
+#include "analysis/ZFXISamAnalysisSet.h"
 
-#include <map>
+#include <memory>
+#include <tuple>
+#include <utility>
 
 namespace {
+
+using List = ZFXListValZFXBaseUnknown_var;
 
 constexpr int kSteps = 50;
 
@@ -38,56 +48,89 @@ FeatureInScope MakeGuarded(int n) {
     return {set.Feature(lateType, "Newcomer"), {}};
 }
 
-using Maker = FeatureInScope (*)(int n);
-
-/// Returns make(n), from a cache after the first call.
-const FeatureInScope& Cached(Maker make, int n) {
-    // Never destroyed, because the model is never destroyed.
-    static auto& cache = *new std::map<std::pair<Maker, int>, FeatureInScope>;
-    const auto key = std::pair(make, n);
-    const auto found = cache.find(key);
-    return found != cache.end() ? found->second : cache.emplace(key, make(n)).first->second;
+Operation ProposeInSteps(int n) {
+    return
+        [scoped = Scopes::Cached(MakePropagating, n), expected = Scopes::NumberedName("Pressure-", n + 1)]() mutable {
+            ZFXUnicodeString name("Pressure-");
+            QVRNameUtil::GetUniqueName(name, scoped.feature, scoped.analysisCase);
+            return name.Compare(expected) == 2;
+        };
 }
 
-void ProposeInSteps(benchmark::State& state, int n) {
-    FeatureInScope scoped = Cached(MakePropagating, n);
-    const ZFXUnicodeString expected = Scopes::NumberedName("Pressure-", n + 1);
-    for (auto _ : state) {
-        ZFXUnicodeString name("Pressure-");
-        QVRNameUtil::GetUniqueName(name, scoped.feature, scoped.analysisCase);
-        if (name.Compare(expected) != 2)
-            state.SkipWithError("the proposal is wrong");
+/// Makes the requests for the late type of the set that contains the feature.
+ZFXUnicodeString SetTypeByHand(const ZFXISpecObject_var& feature) {
+    ZFXListValZFXBaseUnknown_var* sets = nullptr;
+    std::ignore = ZFXISamAnalysisEntity_var(feature)->GetParentSets(sets);
+    const std::unique_ptr<ZFXListValZFXBaseUnknown_var> owned(sets);
+    return ZFXISpecObject_var((*sets)[1])->GetLateType();
+}
+
+const ZFXUnicodeString kInitialTemperature("QVRInitialTemperatureLT");
+
+/// Appends the features of a step that are not propagated.
+void AppendStepByHand(const ZFXISpecObject_var& step, const ZFXISpecObject_var& feature, List& features) {
+    const ZFXUnicodeString setType = SetTypeByHand(feature);
+    List sets;
+    std::ignore = ZFXISamAnalysisScan_var(step)->FindObjectsOfType(setType, sets, ZFXISamAnalysisScan::kScanMode);
+    for (const ZFXBaseUnknown_var& set : sets) {
+        ZFXListValZFXISpecObject_var members;
+        std::ignore =
+            ZFXISamAnalysisSet_var(set)->ListMembers(members, CLSID_ZFXBaseUnknown, ZFXISamAnalysisSet::kMemberFlag);
+        for (ZFXISpecObject_var& member : members) {
+            const QVRIPropagatingFeature_var propagating(member);
+            if (propagating == nullptr || member->GetLateType() == kInitialTemperature ||
+                propagating->IsPropagated() == 0)
+                features.Append(std::move(member));
+        }
     }
 }
 
-void SetAlias(benchmark::State& state, int n) {
-    const FeatureInScope& scoped = Cached(MakeGuarded, n);
-    const ZFXIAlias_var alias(scoped.feature);
-    const ZFXUnicodeString name = Scopes::NumberedName("Pressure-", n + 1);
-    for (auto _ : state)
+/// The requests of GetUniqueName for a load: it finds the history of the case, lists its steps, searches each step for
+/// the sets of the load's kind, lists their members, and reads the name of each but the load. Then the reading of the
+/// numbers.
+Operation ProposeInStepsByHand(int n) {
+    return [scoped = Scopes::Cached(MakePropagating, n), n]() mutable {
+        const bool isStep = QVRIStep_var(scoped.feature) != nullptr;
+        if (isStep || QVRAnalysisEntityUtils::IsObjectAProperty(scoped.feature) != 0 ||
+            QVRAnalysisEntityUtils::IsObjectAnAmplitude(scoped.feature) != 0)
+            return false;
+        List found;
+        List steps;
+        List features;
+        std::ignore = ZFXISamAnalysisScan_var(scoped.analysisCase)
+                          ->FindObjectsOfType("QVROruSimHistLT", found, ZFXISamAnalysisScan::kScanMode);
+        std::ignore = ZFXISamAnalysisScan_var(found[1])->ListChildren(steps, ZFXISamAnalysisScan::kScanMode);
+        for (const ZFXBaseUnknown_var& step : steps)
+            AppendStepByHand(ZFXISpecObject_var(step), scoped.feature, features);
+        List others;
+        for (ZFXBaseUnknown_var& feature : features)
+            if (feature != scoped.feature)
+                others.Append(std::move(feature));
+        return Scopes::HighestNumberByHand(others, u"Pressure-") == n;
+    };
+}
+
+Operation SetAlias(int n) {
+    return [alias = ZFXIAlias_var(Scopes::Cached(MakeGuarded, n).feature),
+            name = Scopes::NumberedName("Pressure-", n + 1)] {
         alias->SetAlias(name);
-    if (alias->GetAlias().Compare(name) != 2)
-        state.SkipWithError("the alias was not stored");
+        return alias->GetAlias().Compare(name) == 2;
+    };
 }
 
-void CheckName(benchmark::State& state, int n) {
-    FeatureInScope scoped = Cached(MakeGuarded, n);
-    const ZFXUnicodeString name = Scopes::NumberedName("Pressure-", n + 1);
-    for (auto _ : state)
-        if (Failed(QVRNameUtil::CheckName(scoped.feature, name, 1)))
-            state.SkipWithError("the name was rejected");
-}
-
-void RegisterSized(const char* name, void (*function)(benchmark::State&, int), int n) {
-    benchmark::RegisterBenchmark(BenchmarkName(name, n).c_str(), [=](benchmark::State& state) { function(state, n); });
+Operation CheckName(int n) {
+    return [scoped = Scopes::Cached(MakeGuarded, n), name = Scopes::NumberedName("Pressure-", n + 1)]() mutable {
+        return !Failed(QVRNameUtil::CheckName(scoped.feature, name, 1));
+    };
 }
 
 } // namespace
 
 void RegisterDocumentBenchmarks() {
     for (const int n : {Scopes::kLargest / 2, Scopes::kLargest}) {
-        RegisterSized("GetUniqueName/propagating", ProposeInSteps, n);
-        RegisterSized("SetAlias", SetAlias, n);
-        RegisterSized("CheckName", CheckName, n);
+        RegisterOperation(BenchmarkName("GetUniqueName/propagating", n), [n] { return ProposeInSteps(n); });
+        RegisterOperation(BenchmarkName("Requests/propagating", n), [n] { return ProposeInStepsByHand(n); });
+        RegisterOperation(BenchmarkName("SetAlias", n), [n] { return SetAlias(n); });
+        RegisterOperation(BenchmarkName("CheckName", n), [n] { return CheckName(n); });
     }
 }

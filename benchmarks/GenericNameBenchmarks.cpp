@@ -1,7 +1,5 @@
 #include "Benchmarks.h"
-#include "CpuTime.h"
 #include "QVRGenI18NUtils.h"
-#include "Results.h"
 #include "Scopes.h"
 
 #include <vector>
@@ -11,65 +9,73 @@ namespace {
 using Objects = std::vector<ZFXISpecObject_var>;
 using NamingOperation = HRESULT (QVRGenI18NUtils::*)(const ZFXISpecObject_var&, ZFXUnicodeString&) noexcept;
 
+constexpr NamingOperation kGenericName = &QVRGenI18NUtils::GetGenericEnglishFeatureName;
+constexpr NamingOperation kMaterialName = &QVRGenI18NUtils::GetGenericEnglishMaterialName;
+
 Objects FirstObjects(int n) {
     const ZFXListValZFXBaseUnknown_var features = Scopes::FirstFeatures(Scopes::AliasSource::Platform, n);
-    Objects objects;
-    for (int i = 1; i <= n; ++i)
-        objects.emplace_back(features[i]);
-    return objects;
+    return {features.begin(), features.end()};
 }
 
-/// Names all objects, so that the singleton knows them.
-void NameAll(NamingOperation naming, const Objects& objects) {
+/// Names all objects, so that the singleton knows them. Returns true if all have a name.
+bool NameAll(NamingOperation naming, const Objects& objects) {
     ZFXUnicodeString name;
+    bool areNamed = true;
     for (const ZFXISpecObject_var& object : objects)
-        (QVRGenI18NUtils::Instance()->*naming)(object, name);
+        areNamed = !Failed((QVRGenI18NUtils::Instance()->*naming)(object, name)) && areNamed;
+    return areNamed;
 }
 
-/// Measures `naming` on ten of n known objects. `first` has named them before. For features that is
-/// GetGenericEnglishFeatureName: GetFeatureName compares each display name with those of all known features.
-void NameKnown(benchmark::State& state, NamingOperation naming, NamingOperation first, int n) {
+/// Names ten of n known objects. `first` has named them before. For features that is GetGenericEnglishFeatureName:
+/// GetFeatureName compares each display name with those of all known features.
+Operation NameKnown(NamingOperation naming, NamingOperation first, int n) {
     const Objects objects = FirstObjects(n);
     QVRGenI18NUtils::Instance()->ResetAllLists();
     NameAll(first, objects);
-    const std::size_t stride = objects.size() / 10;
-    std::size_t next = 0;
-    ZFXUnicodeString name;
-    for (auto _ : state) {
-        benchmark::DoNotOptimize((QVRGenI18NUtils::Instance()->*naming)(objects[next * stride], name));
-        next = (next + 1) % 10;
-    }
-    QVRGenI18NUtils::Instance()->ResetAllLists();
+    Objects ten;
+    for (std::size_t i = 0; i < 10; ++i)
+        ten.push_back(objects[i * (objects.size() / 10)]);
+    return [naming, ten] { return NameAll(naming, ten); };
 }
 
-/// Measures the time to name n objects that the singleton does not know.
-void NameNew(benchmark::State& state, int n) {
-    const Objects objects = FirstObjects(n);
-    for (auto _ : state) {
+/// Names n objects that the singleton does not know.
+Operation NameNew(int n) {
+    return [objects = FirstObjects(n)] {
         QVRGenI18NUtils::Instance()->ResetAllLists();
-        state.SetIterationTime(CpuSecondsOf([&] { NameAll(&QVRGenI18NUtils::GetGenericEnglishFeatureName, objects); }));
-    }
-    QVRGenI18NUtils::Instance()->ResetAllLists();
+        return NameAll(kGenericName, objects);
+    };
+}
+
+/// Returns n materials, which all have one name.
+ZFXListValZFXISpecObject_var MakeMaterials(int n) {
+    ZFXListValZFXISpecObject_var materials;
+    MemoryFeature model = Scopes::NewDocument().Model();
+    for (int i = 0; i < n; ++i)
+        materials.Append(model.Add(MemoryKind::Material, "SAMUserMaterial", "Steel").MaterialName("Steel"));
+    return materials;
+}
+
+Operation NameMaterials(int n) {
+    return [materials = Scopes::Cached(MakeMaterials, n)] {
+        ZFXListValZFXUnicodeString names;
+        QVRGenI18NUtils::Instance()->ResetAllLists();
+        return !Failed(QVRGenI18NUtils::Instance()->GetMaterialNames(materials, names));
+    };
 }
 
 void RegisterKnown(const std::string& operation, NamingOperation naming, NamingOperation first) {
     for (const int n : {100, Scopes::kLargest})
-        benchmark::RegisterBenchmark(BenchmarkName(operation + "/known", n).c_str(), [=](benchmark::State& state) {
-            NameKnown(state, naming, first, n);
-        })->Iterations(2000);
+        RegisterOperation(BenchmarkName(operation + "/known", n), [=] { return NameKnown(naming, first, n); });
 }
 
 } // namespace
 
 void RegisterGenericNameBenchmarks() {
-    const NamingOperation generic = &QVRGenI18NUtils::GetGenericEnglishFeatureName;
-    const NamingOperation material = &QVRGenI18NUtils::GetGenericEnglishMaterialName;
-    RegisterKnown("GetFeatureName", &QVRGenI18NUtils::GetFeatureName, generic);
-    RegisterKnown("GetGenericEnglishFeatureName", generic, generic);
-    RegisterKnown("GetGenericEnglishMaterialName", material, material);
+    RegisterKnown("GetFeatureName", &QVRGenI18NUtils::GetFeatureName, kGenericName);
+    RegisterKnown("GetGenericEnglishFeatureName", kGenericName, kGenericName);
+    RegisterKnown("GetGenericEnglishMaterialName", kMaterialName, kMaterialName);
     for (const int n : {2000, 4000, Scopes::kLargest / 2, Scopes::kLargest})
-        benchmark::RegisterBenchmark(BenchmarkName("GetGenericEnglishFeatureName/new", n).c_str(),
-                                     [=](benchmark::State& state) { NameNew(state, n); })
-            ->UseManualTime()
-            ->Iterations(3);
+        RegisterOperation(BenchmarkName("GetGenericEnglishFeatureName/new", n), [n] { return NameNew(n); });
+    for (const int n : {Scopes::kLargest / 2, Scopes::kLargest})
+        RegisterOperation(BenchmarkName("GetMaterialNames", n), [n] { return NameMaterials(n); });
 }

@@ -1,4 +1,5 @@
 #include "Benchmarks.h"
+#include "Repeated.h"
 #include "Scopes.h"
 #include "analysis/ZFXIAlias.h"
 
@@ -7,29 +8,27 @@ namespace {
 /// Returns a feature whose alias belongs to the platform. The model owns it.
 ZFXISpecObject* Feature() { return Scopes::UnlistedFeature(Scopes::AliasSource::Platform).Get(); }
 
-void Cast(benchmark::State& state) {
-    ZFXISpecObject* feature = Feature();
-    for (auto _ : state) {
+Operation Cast() {
+    return Repeated([feature = Feature()]() mutable {
         benchmark::DoNotOptimize(feature);
         const ZFXIAlias_var alias(feature);
         benchmark::DoNotOptimize(alias.Get());
-    }
+    });
 }
 
-void CallRaw(benchmark::State& state) {
-    ZFXISpecObject* feature = Feature();
-    for (auto _ : state) {
+Operation CallRaw() {
+    return Repeated([feature = Feature()]() mutable {
         benchmark::DoNotOptimize(feature);
         void* face = nullptr;
         if (!Failed(feature->QueryInterface(IID_ZFXIAlias, &face)))
             static_cast<ZFXIAlias*>(face)->Release();
         benchmark::DoNotOptimize(face);
-    }
+    });
 }
 
 } // namespace
 
 void RegisterHandleBenchmarks() {
-    benchmark::RegisterBenchmark("Handle/cast", Cast);
-    benchmark::RegisterBenchmark("Handle/raw", CallRaw);
+    RegisterOperation("Handle/cast", Cast);
+    RegisterOperation("Handle/raw", CallRaw);
 }

@@ -54,10 +54,10 @@ void MeasureBlocks(Results& results, MemoryModel& model, AliasSource from) {
     const ZFXISpecObject_var feature = root.Set("BenchmarkSet").Feature(Scopes::LateTypeOf(from), "Newcomer");
     const std::string label = Scopes::LabelOf(from);
     const ZFXUnicodeString name = Scopes::NumberedName(kBase, kFirstNumber + 2 * kNames);
-    results.Put("Blocks/IsNameUniqueInSet/" + label, BlocksPerName(scope, [&](const auto& names) {
+    results.Put(Quantity::Blocks, "Blocks/IsNameUniqueInSet/" + label, BlocksPerName(scope, [&](const auto& names) {
                     static_cast<void>(QVRNameUtil::IsNameUniqueInSet(feature, names, name));
                 }));
-    results.Put("Blocks/GetNextUniqueName/" + label, BlocksPerName(scope, [](const auto& names) {
+    results.Put(Quantity::Blocks, "Blocks/GetNextUniqueName/" + label, BlocksPerName(scope, [](const auto& names) {
                     ZFXUnicodeString proposal(kBase);
                     static_cast<void>(QVRNameUtil::GetNextUniqueName(proposal, names));
                 }));
@@ -68,7 +68,7 @@ void MeasureMemory(Results& results, MemoryModel& model) {
     const HeapCounter counter;
     for (int i = 0; i < Scopes::kLargest; ++i) // "Pressure load-100000": 20 units
         set.Feature("QVRPressure", Scopes::NumberedName("Pressure load-", Scopes::kLargest + i));
-    results.Put("Memory/feature", static_cast<double>(HeapCounter::Bytes()) / Scopes::kLargest);
+    results.Put(Quantity::Bytes, "Memory/feature", static_cast<double>(HeapCounter::Bytes()) / Scopes::kLargest);
 }
 
 } // namespace

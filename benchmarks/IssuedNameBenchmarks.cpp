@@ -1,14 +1,12 @@
 #include "Benchmarks.h"
-#include "CpuTime.h"
 #include "QVRGenI18NUtils.h"
-#include "Results.h"
 #include "Scopes.h"
 
 #include <vector>
 
 namespace {
 
-constexpr int kBatch = 100; // names that are issued per measurement
+constexpr int kBatch = 100; // names that are issued per operation
 
 /// Clears the list of issued names and appends n different names.
 void FillIssuedNames(int n) {
@@ -27,33 +25,26 @@ std::vector<ZFXUnicodeString> TenOf(int n) {
 }
 
 /// Issues kBatch names: looks up how often a name was issued, then records it.
-void IssueNames(const std::vector<ZFXUnicodeString>& names) {
-    QVRGenI18NUtils* issued = QVRGenI18NUtils::Instance();
-    for (int i = 0; i < kBatch; ++i) {
-        const ZFXUnicodeString& name = names[static_cast<std::size_t>(i) % names.size()];
-        int count = 0;
-        benchmark::DoNotOptimize(issued->FindNameAndNextID(name, count));
-        issued->PushNameToList(name);
-    }
-}
-
-void IssueAmong(benchmark::State& state, int n) {
-    const std::vector<ZFXUnicodeString> names = TenOf(n);
+Operation IssueAmong(int n) {
     FillIssuedNames(n);
-    for (auto _ : state) {
-        if (n < kBatch * kBatch)
-            FillIssuedNames(n); // removes the names of the last batch; for larger n they do not matter
-        state.SetIterationTime(CpuSecondsOf([&] { IssueNames(names); }));
-    }
-    QVRGenI18NUtils::Instance()->ResetAllLists();
+    return [names = TenOf(n)] {
+        QVRGenI18NUtils* issued = QVRGenI18NUtils::Instance();
+        int failures = 0;
+        for (int i = 0; i < kBatch; ++i) {
+            const ZFXUnicodeString& name = names[static_cast<std::size_t>(i) % names.size()];
+            int count = 0;
+            failures += issued->FindNameAndNextID(name, count) != 0 ? 0 : 1;
+            issued->PushNameToList(name);
+        }
+        return failures == 0;
+    };
 }
 
 } // namespace
 
 void RegisterIssuedNameBenchmarks() {
+    // Each run lengthens the list, so their number is limited.
     for (const int n : {100, Scopes::kLargest})
-        benchmark::RegisterBenchmark(BenchmarkName("IssueName", n).c_str(),
-                                     [=](benchmark::State& state) { IssueAmong(state, n); })
-            ->UseManualTime()
-            ->Iterations(10);
+        RegisterOperation(
+            BenchmarkName("IssueName", n), [n] { return IssueAmong(n); }, 10);
 }

@@ -5,24 +5,33 @@
 #include <map>
 #include <optional>
 #include <string>
+#include <utility>
 
-/// The measurements of one run by benchmark name: medians over the repetitions, in nanoseconds per iteration, and
-/// counts of blocks or bytes.
+enum class Quantity {
+    Time,         ///< nanoseconds: the median of all repetitions
+    Spread,       ///< standard deviation of the time, as a fraction of its mean
+    Instructions, ///< of one run, counted by callgrind
+    Requests,     ///< of one run, to the document
+    Blocks,       ///< on the heap
+    Bytes         ///< on the heap
+};
+
+/// The results of one run by benchmark name.
 class Results {
 public:
-    void Put(const std::string& name, double value) { m_values[name] = value; }
+    void Put(Quantity quantity, const std::string& name, double value) { m_values[{quantity, name}] = value; }
     void PutError(const std::string& name, const std::string& error) { m_errors[name] = error; }
 
-    std::optional<double> Value(const std::string& name) const;
+    std::optional<double> Value(Quantity quantity, const std::string& name) const;
     /// Returns the error of the benchmark, or an empty string if it reported none.
     std::string Error(const std::string& name) const;
 
 private:
-    std::map<std::string, double> m_values;
+    std::map<std::pair<Quantity, std::string>, double> m_values;
     std::map<std::string, std::string> m_errors;
 };
 
-/// Collects the medians while the benchmarks run. Prints nothing.
+/// Collects the times while the benchmarks run. Prints nothing.
 class ResultCollector : public benchmark::BenchmarkReporter {
 public:
     explicit ResultCollector(Results& results) : m_results(results) {}
@@ -32,6 +41,3 @@ public:
 private:
     Results& m_results;
 };
-
-/// Returns a benchmark name such as "IsNameUniqueInSet/platform/1000".
-inline std::string BenchmarkName(const std::string& name, int size) { return name + "/" + std::to_string(size); }

@@ -1,6 +1,14 @@
 #include "Scopes.h"
 
+#include "analysis/ZFXIAlias.h"
+
+#include <algorithm>
 #include <array>
+#include <cstdint>
+#include <cstring>
+#include <limits>
+#include <random>
+#include <vector>
 
 namespace Scopes {
 
@@ -27,6 +35,19 @@ const FeaturePool& PoolOf(AliasSource from) {
     if (pool == nullptr)
         pool = new FeaturePool(from);
     return *pool;
+}
+
+/// Returns the number in the digits at the start of a text, or 0 if there are none or it is too large for an int.
+int ReadNumber(std::u16string_view text) {
+    std::int64_t number = 0;
+    for (const char16_t unit : text) {
+        if (unit < u'0' || unit > u'9')
+            break;
+        number = number * 10 + (unit - u'0');
+        if (number > std::numeric_limits<int>::max())
+            return 0;
+    }
+    return static_cast<int>(number);
 }
 
 } // namespace
@@ -63,6 +84,28 @@ ZFXListValZFXBaseUnknown_var FirstFeatures(AliasSource from, int n) {
     for (int i = 1; i <= n; ++i)
         first.Append(all[i]);
     return first;
+}
+
+ZFXListValZFXBaseUnknown_var ScatteredFeatures(AliasSource from) {
+    const ZFXListValZFXBaseUnknown_var& all = PoolOf(from).features;
+    std::vector<ZFXBaseUnknown_var> objects(all.begin(), all.end());
+    std::shuffle(objects.begin(), objects.end(), std::mt19937()); // the same order in each run
+    ZFXListValZFXBaseUnknown_var scattered;
+    for (const ZFXBaseUnknown_var& object : objects)
+        scattered.Append(object);
+    return scattered;
+}
+
+int HighestNumberByHand(const ZFXListValZFXBaseUnknown_var& features, std::u16string_view base) {
+    int highest = 0;
+    for (const ZFXBaseUnknown_var& feature : features) {
+        const ZFXIAlias_var alias(feature);
+        const ZFXUnicodeString name = alias->GetAlias();
+        const std::u16string_view units = name.Units();
+        if (units.size() >= base.size() && std::memcmp(units.data(), base.data(), base.size() * sizeof(char16_t)) == 0)
+            highest = std::max(highest, ReadNumber(units.substr(base.size())));
+    }
+    return highest;
 }
 
 ZFXISpecObject_var UnlistedFeature(AliasSource from) { return PoolOf(from).unlisted; }

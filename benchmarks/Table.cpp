@@ -7,19 +7,21 @@
 
 namespace {
 
-using Cells = std::array<std::string, 6>;
+using Cells = std::array<std::string, 8>;
 
 Cells CellsOf(const BudgetResult& row) {
-    return {row.subject, row.measured, row.reference, row.ratio, row.budget, row.isWithinBudget ? "ok" : "FAILED"};
+    return {row.subject, row.measured, row.reference, row.ratio, row.budget, row.isWithinBudget ? "ok" : "FAILED",
+            row.time,    row.floor};
 }
 
 } // namespace
 
 void PrintTable(std::ostream& out, const std::vector<BudgetResult>& budgetResults) {
-    std::vector<Cells> rows{{"subject", "measured", "compared with", "ratio", "budget", "result"}};
+    std::vector<Cells> rows{
+        {"subject", "measured", "compared with", "ratio", "budget", "result", "time (ratio)", "floor"}};
     for (const BudgetResult& row : budgetResults)
         rows.push_back(CellsOf(row));
-    std::array<std::size_t, 6> widths{};
+    std::array<std::size_t, 8> widths{};
     for (const Cells& cells : rows)
         for (std::size_t i = 0; i < cells.size(); ++i)
             widths[i] = std::max(widths[i], cells[i].size());

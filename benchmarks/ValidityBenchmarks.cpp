@@ -1,5 +1,6 @@
 #include "Benchmarks.h"
 #include "QVRNameUtil.h"
+#include "Repeated.h"
 #include "base/CompilerExtensions.h"
 
 #include <array>
@@ -31,24 +32,23 @@ ZFX_NOINLINE bool HasIllegalUnit(std::u16string_view units, const std::array<boo
     return false;
 }
 
-void Validate(benchmark::State& state) {
-    std::vector<ZFXUnicodeString> names = LegalNames();
-    for (auto _ : state)
+Operation Validate() {
+    return Repeated([names = LegalNames()]() mutable {
         for (ZFXUnicodeString& name : names)
             benchmark::DoNotOptimize(QVRNameUtil::IsNameValid(name, 1));
+    });
 }
 
-void LookUp(benchmark::State& state) {
-    const std::vector<ZFXUnicodeString> names = LegalNames();
-    const std::array<bool, 256> isIllegal = IllegalUnits();
-    for (auto _ : state)
+Operation LookUp() {
+    return Repeated([names = LegalNames(), isIllegal = IllegalUnits()] {
         for (const ZFXUnicodeString& name : names)
             benchmark::DoNotOptimize(HasIllegalUnit(name.Units(), isIllegal));
+    });
 }
 
 } // namespace
 
 void RegisterValidityBenchmarks() {
-    benchmark::RegisterBenchmark("IsNameValid", Validate);
-    benchmark::RegisterBenchmark("IsNameValid/table", LookUp);
+    RegisterOperation("IsNameValid", Validate);
+    RegisterOperation("IsNameValid/table", LookUp);
 }

@@ -1,8 +1,11 @@
 #include "Benchmarks.h"
 #include "Budgets.h"
-#include "Chart.h"
+#include "InstructionCounts.h"
+#include "Operations.h"
 #include "Results.h"
 #include "Table.h"
+
+#include <benchmark/benchmark.h>
 
 #include <cstring>
 #include <iostream>
@@ -46,40 +49,38 @@ bool InitializeLibrary(Options& options) {
     return !benchmark::ReportUnrecognizedArguments(count, pointers.data());
 }
 
-void RegisterAll(const std::filesystem::path& folder) {
-    RegisterCompareBenchmarks();
-    RegisterValidityBenchmarks();
-    RegisterHandleBenchmarks();
-    RegisterScanBenchmarks();
-    RegisterDocumentBenchmarks();
-    RegisterIssuedNameBenchmarks();
-    RegisterGenericNameBenchmarks();
-    RegisterBatchBenchmarks();
-    RegisterAuditBenchmarks(folder);
+/// Makes the allocator keep freed memory. Otherwise the times would include the system's work to provide new pages,
+/// which depends on the benchmarks that ran before.
+void KeepFreedMemory() {
+    mallopt(M_MMAP_THRESHOLD, 1 << 30);
+    mallopt(M_TRIM_THRESHOLD, 1 << 30);
 }
 
 } // namespace
 
 /// Usage: qvr-bench [--out FOLDER] [options of the benchmark library]
+///        qvr-bench --count FILTER    (under callgrind; used by the other form)
 /// Exit codes:
 /// - 0: all results are within their budget
 /// - 1: a result exceeds its budget or could not be measured
 /// - 2: an argument is unknown
 int main(int argc, char** argv) {
+    KeepFreedMemory();
+    RegisterOperations();
+    if (argc == 3 && std::strcmp(argv[1], "--count") == 0)
+        return WriteInstructionCounts(std::regex(argv[2])) ? 0 : 1;
     Options options = ReadOptions(argc, argv);
     if (!InitializeLibrary(options))
         return 2;
     Results results;
     MeasureHeap(results);
-    // The allocator keeps freed memory. Otherwise the times would include the system's work to provide new pages, which
-    // depends on the benchmarks that ran before.
-    mallopt(M_MMAP_THRESHOLD, 1 << 30);
-    mallopt(M_TRIM_THRESHOLD, 1 << 30);
-    RegisterAll(options.folder);
+    const Programs programs = WriteDocuments(options.folder);
+    CountInstructions(argv[0], benchmark::GetBenchmarkFilter(), programs, options.folder / "counts", results);
+    RegisterTimes();
+    RegisterTimes(programs);
     ResultCollector collector(results);
     benchmark::RunSpecifiedBenchmarks(&collector);
     const std::vector<BudgetResult> budgetResults = CheckBudgets(results);
     PrintTable(std::cout, budgetResults);
-    WriteChart(options.folder / "qvr-bench.svg", results);
     return AreAllWithinBudget(budgetResults) ? 0 : 1;
 }
