@@ -1,4 +1,5 @@
 // A minimal host: a document that supports one guarded rename and one name proposal. docs/bind-a-host.md explains it.
+#include "QVREFeatureAlias.h"
 #include "QVRNameUtil.h"
 #include "analysis/AnalysisInterfaces.h"
 #include "binding-check/ZFXBindingCheck.h"
@@ -82,6 +83,11 @@ public:
 class Set final : public ZFXImplements<Feature, ZFXISamAnalysisSet> {
 public:
     using ZFXImplements::ZFXImplements;
+    void SetAlias(const ZFXUnicodeString& alias) override { // the type of the set is not guarded
+        QVRBaseFeatureAlias guard;
+        guard.SetImpl(Root());
+        guard.SetAlias(alias);
+    }
     HRESULT ListMembers(ZFXListValZFXISpecObject_var& members, const IID&, int) override {
         for (Node* child : children)
             members.Append(child);
@@ -121,6 +127,10 @@ int main() {
         ZFXIAlias_var(&operation)->SetAlias(newName);
         std::cout << "The step is called " << operation.name.ConvertToChar() << "\n";
     }
+    ZFXIAlias_var(&loads)->SetAlias("Loads.1");                                        // a full stop is not allowed
+    QVREFeatureAlias::MetaObject()->SetExtensionOf(fct_FindMetaObject("QVRPressure")); // guards this type too
+    ZFXIAlias_var(&load)->SetAlias("PRESSURE-1");
+
     ZFXISpecObject_var feature(&load);
     ZFXISamAnalysisCase_var scope(&analysisCase);
     ZFXUnicodeString name;

@@ -155,14 +155,17 @@ void CheckParentSets(Subject& subject) {
     const std::unique_ptr<List> sets(first);
     const std::unique_ptr<List> unused(second);
     if (Failed(code))
-        subject.Report(kGetParentSets, "fails: the names of the feature are not checked", Section::kScopes);
+        subject.Report(kGetParentSets, "fails: every rename is rejected without a message", Section::kScopes);
     else if (sets == nullptr)
-        subject.Report(kGetParentSets, "returns a null list: the names of the feature are not checked",
+        subject.Report(kGetParentSets, "returns a null list: a name that the set already has is accepted",
                        Section::kScopes);
     else if (sets->Size() == 0)
-        subject.Report(kGetParentSets, "returns an empty list: the feature is in no set", Section::kScopes);
+        subject.Report(kGetParentSets, "returns an empty list: a name that the set already has is accepted",
+                       Section::kScopes);
     else if ((*sets)[1] == nullptr)
-        subject.Report(kGetParentSets, "returns a list whose first set is null", Section::kScopes);
+        subject.Report(kGetParentSets,
+                       "returns a list whose first set is null: every rename is rejected without a message",
+                       Section::kScopes);
     else
         CheckFirstSet(subject, (*sets)[1]);
 }
@@ -195,10 +198,10 @@ void CheckHistoryOfStep(Subject& subject) {
 
 void CheckCaseOfPropagatingFeature(Subject& subject) {
     ZFXISpecObject_var parent;
-    QVRAnalysisEntityUtils::GetParentCaseFromObject(subject.As<ZFXISpecObject>(), parent);
+    const HRESULT code = QVRAnalysisEntityUtils::GetParentCaseFromObject(subject.As<ZFXISpecObject>(), parent);
     ZFXISamAnalysisCase_var analysisCase(parent);
     const auto linkable = subject.As<ZFXILinkableObject>();
-    if (parent == nullptr && linkable != nullptr && linkable->GetOwningDocument() != nullptr)
+    if (Failed(code) && linkable != nullptr && linkable->GetOwningDocument() != nullptr)
         QVRStepUtils::GetCurrentAnalysisCaseSP(analysisCase, linkable->GetOwningDocument());
     const ZFXISamAnalysisScan_var scan(analysisCase);
     if (scan == nullptr) {
