@@ -9,39 +9,10 @@
 #include <gtest/gtest.h>
 
 #include <stdexcept>
+#include <string_view>
+#include <tuple>
 
 namespace {
-
-enum class Mistake {
-    None,
-    // of a host with a reference count of its own
-    CastWithoutReference,
-    CastWithTwoReferences,
-    FailureWithPointer,
-    SuccessWithoutPointer,
-    NoSetImpl,
-    WrongBase,
-    UnevenOffers,
-    NoSearchForExtensions,
-    // in the operations of the interfaces
-    FatherWithoutReference,
-    OwnerWithoutReference,
-    BorrowedKey,
-    BorrowedList,
-    Exception,
-    NullList,
-    NullEntry,
-    EmptyList,
-    OtherSet,
-    WrongAttribute,
-    FatherOfItself,
-    ChangingLateType,
-    NoPointingAttributes,
-    NoHistory,
-    NoDocument,
-    DocumentWithReference,
-    LostReference,
-};
 
 /// Returns the first sentence of a report.
 template <class Check>
@@ -94,204 +65,184 @@ struct Extension {
         ZFXIAlias::MetaObject(), Adaptor::Make, nullptr, 1};
 };
 
-/// A host with a reference count of its own. One interface is a second base, one is a member.
-class OwnCount final : public ZFXISpecObject, public ZFXIAlias {
+/// A step, or the history that contains it. The history is also the first set of the step, and the attribute that
+/// points at it. The class implements the operations of the root itself; QVRIStep is a member, all other interfaces are
+/// bases.
+class Host final : public ZFXISpecObject,
+                   public ZFXIAlias,
+                   public ZFXISpecAttrAccess,
+                   public ZFXISamAnalysisEntity,
+                   public ZFXILinkableObject,
+                   public ZFXISpecAttribute,
+                   public ZFXISamAnalysisScan,
+                   public ZFXISamAnalysisSet {
 public:
-    explicit OwnCount(Mistake made)
-        : m_mistake(made), m_lateType(made == Mistake::NoSearchForExtensions ? "ExtendedLT" : "AnyLT") {
-        m_part.count = &count;
-        if (m_mistake != Mistake::NoSetImpl)
-            m_part.SetImpl(Root());
+    /// @param itsFather  null for a history
+    Host(std::string_view itsMistake, const char* itsLateType, Host* itsFather)
+        : mistake(itsMistake), lateType(itsLateType), father(itsFather) {
+        m_step.host = this;
+        if (mistake != "no SetImpl")
+            m_step.SetImpl(Root());
     }
-    HRESULT QueryInterface(const IID& iid, void** result) override {
-        *result = nullptr;
-        if (iid == IID_ZFXBaseUnknown || iid == IID_ZFXISpecObject)
-            *result = Root();
-        else if (iid == IID_ZFXIAlias)
-            *result = m_mistake == Mistake::WrongBase ? Root() : static_cast<ZFXIAlias*>(this);
-        else if (iid == IID_ZFXIMSHMeshPart && (m_mistake != Mistake::UnevenOffers || ++m_casts % 3 == 1))
-            *result = static_cast<ZFXIMSHMeshPart*>(&m_part);
-        if (*result == nullptr) {
-            *result = m_mistake == Mistake::FailureWithPointer ? this : nullptr;
-            return m_mistake == Mistake::SuccessWithoutPointer ? S_OK : E_NOINTERFACE;
-        }
-        count += m_mistake == Mistake::CastWithoutReference ? 0 : m_mistake == Mistake::CastWithTwoReferences ? 2 : 1;
-        return S_OK;
+
+    ~Host() override {
+        m_document->AddRef();
+        while (m_document->Release() > 1) {
+        } // releases what a mistake has added
     }
+
+    ZFXBaseUnknown* Root() { return static_cast<ZFXISpecObject*>(this); }
+    ULONG AddRef() override { return ++count; }
+    ULONG Release() override { return --count; }
+    ZFXBaseUnknown* GetImpl() const override { return const_cast<Host*>(this)->Root(); }
     HRESULT QueryInterface(const char* name, void** result) override {
         return ZFXISpecObject::QueryInterface(name, result);
     }
-    ULONG AddRef() override { return ++count; }
-    ULONG Release() override { return --count; }
-    ZFXBaseUnknown* GetImpl() const override { return const_cast<OwnCount*>(this)->Root(); }
-    ZFXBaseUnknown* Root() { return static_cast<ZFXISpecObject*>(this); }
-
-    ZFXUnicodeString GetLateType() override { return m_lateType; }
-    ZFXBaseUnknown* GetFather() override { return nullptr; }
-    ZFXListValZFXISpecAttribute_var* ListPointingAttributes(const char*, const ZFXUnicodeString&,
-                                                            const ZFXUnicodeString&) override {
-        return nullptr;
+    HRESULT QueryInterface(const IID& iid, void** result) override {
+        const ZFXAdaptorFactory factory = fct_FindMetaObject(lateType)->FindAdaptorFactory(iid);
+        if (factory != nullptr && mistake != "no search for extensions" && mistake != "wrong base") {
+            *result = factory(Root(), nullptr);
+            return S_OK;
+        }
+        *result = OwnInterface(iid);
+        if (*result == nullptr) {
+            *result = mistake == "pointer after a failure" ? this : nullptr;
+            return mistake == "no pointer after a success" ? S_OK : E_NOINTERFACE;
+        }
+        count += mistake == "cast without reference" ? 0 : mistake == "cast with two references" ? 2 : 1;
+        return S_OK;
     }
-    void SetAlias(const ZFXUnicodeString&) override {}
-    ZFXUnicodeString GetAlias() override { return "name"; }
-
-    ULONG count = 1;
-
-private:
-    const Mistake m_mistake;
-    const char* const m_lateType;
-    int m_casts = 0;
-    struct : ZFXIMSHMeshPart {
-        ULONG AddRef() override { return ++*count; }
-        ULONG Release() override { return --*count; }
-        ULONG* count = nullptr;
-    } m_part;
-};
-
-TEST(BindingCheck, ReportsMistakesOfHostsWithTheirOwnCount) {
-    const Extension extension;
-    const std::tuple<Mistake, const char*, const char*> rows[] = {
-        {Mistake::None, "", ""},
-        {Mistake::CastWithoutReference, "QueryInterface to ZFXBaseUnknown returns an object without", kOwnership},
-        {Mistake::CastWithTwoReferences, "QueryInterface to ZFXBaseUnknown returns an object with more", kOwnership},
-        {Mistake::FailureWithPointer, "QueryInterface to ZFXISpecAttribute fails without setting", kOwnCount},
-        {Mistake::SuccessWithoutPointer, "QueryInterface to ZFXISpecAttribute succeeds without", kOwnCount},
-        {Mistake::NoSetImpl, "QueryInterface to ZFXIMSHMeshPart returns an interface whose GetImpl", kOwnCount},
-        {Mistake::WrongBase, "QueryInterface to ZFXIAlias returns the address of another base", kOwnCount},
-        {Mistake::UnevenOffers, "QueryInterface to ZFXIMSHMeshPart differs between the object and", kOwnCount},
-        {Mistake::NoSearchForExtensions, "QueryInterface to ZFXIAlias does not return the adaptor", kCasts},
-    };
-    for (const auto& [mistake, sentence, section] : rows) {
-        OwnCount object(mistake);
-        ExpectFault(FirstFault(object.Root()), sentence, section);
-        EXPECT_TRUE(object.count == 1 || mistake == Mistake::UnevenOffers) << sentence;
-    }
-}
-
-/// A document of one step with a history. The step is also the only member of its set, which is the history.
-class Node : public ZFXImplements<ZFXObject, ZFXISpecObject, ZFXISpecAttrAccess, ZFXIAlias, ZFXISamAnalysisEntity,
-                                  ZFXILinkableObject> {
-public:
-    Node(Mistake made, const char* itsLateType) : ZFXImplements(fct_FindMetaObject(itsLateType)), mistake(made) {}
 
     ZFXUnicodeString GetLateType() override {
-        return mistake == Mistake::ChangingLateType && ++m_requests > 1 ? "AnotherLT" : LateType();
+        return mistake == "changing late type" && ++m_requests > 1 ? "AnotherLT" : lateType;
     }
     ZFXBaseUnknown* GetFather() override {
-        if (mistake == Mistake::Exception)
+        if (mistake == "exception")
             throw std::runtime_error("from the host");
-        if (mistake == Mistake::FatherWithoutReference)
-            return ZFXBaseUnknown_var(father).Get();
-        return ZFXNewReference(mistake == Mistake::FatherOfItself ? this : father);
+        if (mistake == "father of itself")
+            return WithReference(this);
+        return mistake == "father without reference" ? father->Root() : WithReference(father);
     }
     ZFXListValZFXISpecAttribute_var* ListPointingAttributes(const char*, const ZFXUnicodeString&,
                                                             const ZFXUnicodeString&) override {
-        return mistake == Mistake::NoPointingAttributes ? nullptr : &pointing;
+        return mistake == "no pointing attributes" ? nullptr : &pointing;
     }
+    ZFXBaseUnknown* GetOwner() override { return mistake == "owner without reference" ? Root() : WithReference(this); }
     ZFXISpecAttrKey* GetAttrKey(const char* name) override {
-        if (std::string(name) != (mistake == Mistake::WrongAttribute ? "Name" : "Alias"))
+        if (std::string(name) != (mistake == "wrong attribute" ? "Name" : "Alias"))
             return nullptr;
-        return mistake == Mistake::BorrowedKey ? m_key.Get() : ZFXISpecAttrKey_var(m_key).Detach();
+        return mistake == "borrowed key" ? m_key.Get() : ZFXISpecAttrKey_var(m_key).Detach();
     }
     void SetString(ZFXISpecAttrKey*, const ZFXUnicodeString&, int) override {}
     ZFXUnicodeString GetString(ZFXISpecAttrKey*, int) override { return "name"; }
     void SetAlias(const ZFXUnicodeString&) override {}
     ZFXUnicodeString GetAlias() override { return "name"; }
-    HRESULT GetParentSets(ZFXListValZFXBaseUnknown_var*& sets) override {
-        if (mistake == Mistake::NullList)
-            return S_OK;
-        sets = mistake == Mistake::BorrowedList ? &m_sets : new ZFXListValZFXBaseUnknown_var;
-        if (mistake != Mistake::EmptyList)
-            sets->Append(mistake == Mistake::NullEntry ? ZFXBaseUnknown_var() : ZFXBaseUnknown_var(father));
-        if (mistake == Mistake::LostReference)
+    HRESULT GetParentSets(ZFXListValZFXBaseUnknown_var*& list) override {
+        if (mistake == "lost reference")
             AddRef();
+        if (mistake == "null list")
+            return S_OK;
+        list = mistake == "borrowed list" ? &m_sets : new ZFXListValZFXBaseUnknown_var;
+        if (mistake != "empty list")
+            list->Append(ZFXBaseUnknown_var(mistake == "null entry" ? nullptr : father->Root()));
         return S_OK;
-    }
-    ZFXDocument* GetOwningDocument() override {
-        if (mistake == Mistake::DocumentWithReference)
-            m_document.AddRef();
-        return mistake == Mistake::NoDocument ? nullptr : &m_document;
-    }
-
-    /// Releases what the mistake left behind.
-    void Undo() {
-        pointing.RemoveAll();
-        m_sets.RemoveAll();
-        for (ZFXBaseUnknown* object : {Root(), static_cast<ZFXBaseUnknown*>(&m_document)})
-            for (ULONG references = object->AddRef(); references > 1;)
-                references = object->Release();
-    }
-
-    const Mistake mistake;
-    Node* father = nullptr;
-    ZFXListValZFXISpecAttribute_var pointing;
-
-private:
-    int m_requests = 0;
-    ZFXListValZFXBaseUnknown_var m_sets;
-    ZFXDocument m_document;
-    const ZFXISpecAttrKey_var m_key = ZFXISpecAttrKey_var::Attach(new ZFXISpecAttrKey);
-};
-
-class History final : public ZFXImplements<Node, ZFXISpecAttribute, ZFXISamAnalysisScan, ZFXISamAnalysisSet> {
-public:
-    using ZFXImplements::ZFXImplements;
-    ZFXBaseUnknown* GetOwner() override {
-        return mistake == Mistake::OwnerWithoutReference ? Root() : ZFXNewReference(this);
     }
     HRESULT FindObjectsOfType(const ZFXUnicodeString&, ZFXListValZFXBaseUnknown_var&, int) override { return S_OK; }
     HRESULT ListChildren(ZFXListValZFXBaseUnknown_var& children, int) override {
-        children.Append(step);
+        children.Append(step->Root());
         return S_OK;
     }
     HRESULT ListMembers(ZFXListValZFXISpecObject_var& members, const IID&, int) override {
-        if (mistake != Mistake::OtherSet)
-            members.Append(step);
+        if (mistake != "not a member")
+            members.Append(step->Root());
         return S_OK;
     }
-    Node* step = nullptr;
+    ZFXDocument* GetOwningDocument() override {
+        if (mistake == "document with reference")
+            m_document->AddRef();
+        return mistake == "no document" ? nullptr : m_document.Get();
+    }
+
+    const std::string_view mistake;
+    const char* const lateType;
+    Host* const father;
+    Host* step = nullptr;
+    ZFXListValZFXISpecAttribute_var pointing;
+    ULONG count = 1;
+
+private:
+    static ZFXBaseUnknown* WithReference(Host* host) {
+        return host == nullptr ? nullptr : ZFXNewReference(host->Root());
+    }
+    ZFXBaseUnknown* OwnInterface(const IID& iid) {
+        const bool isStep = father != nullptr;
+        if (iid == IID_ZFXIAlias)
+            return mistake == "wrong base" ? Root() : static_cast<ZFXIAlias*>(this);
+        if (iid == IID_QVRIStep && isStep)
+            return mistake == "uneven offers" && ++m_requests % 3 != 1 ? nullptr : static_cast<QVRIStep*>(&m_step);
+        return iid == IID_ZFXBaseUnknown || iid == IID_ZFXISpecObject ? Root()
+               : iid == IID_ZFXISpecAttrAccess                        ? static_cast<ZFXISpecAttrAccess*>(this)
+               : iid == IID_ZFXILinkableObject                        ? static_cast<ZFXILinkableObject*>(this)
+               : iid == IID_ZFXISamAnalysisEntity && isStep           ? static_cast<ZFXISamAnalysisEntity*>(this)
+               : isStep                                               ? nullptr
+               : iid == IID_ZFXISpecAttribute                         ? static_cast<ZFXISpecAttribute*>(this)
+               : iid == IID_ZFXISamAnalysisScan                       ? static_cast<ZFXISamAnalysisScan*>(this)
+               : iid == IID_ZFXISamAnalysisSet                        ? static_cast<ZFXISamAnalysisSet*>(this)
+                                                                      : static_cast<ZFXBaseUnknown*>(nullptr);
+    }
+
+    struct : QVRIStep {
+        ULONG AddRef() override { return host->AddRef(); }
+        ULONG Release() override { return host->Release(); }
+        Host* host = nullptr;
+    } m_step;
+    int m_requests = 0;
+    ZFXListValZFXBaseUnknown_var m_sets;
+    const ZFXHandle<ZFXDocument> m_document = ZFXHandle<ZFXDocument>::Attach(new ZFXDocument);
+    const ZFXISpecAttrKey_var m_key = ZFXISpecAttrKey_var::Attach(new ZFXISpecAttrKey);
 };
 
-class Step final : public ZFXImplements<Node, QVRIStep> {
-public:
-    using ZFXImplements::ZFXImplements;
-};
-
-TEST(BindingCheck, ReportsMistakesInTheOperationsOfTheInterfaces) {
-    const Extension extension;
-    const std::tuple<Mistake, const char*, const char*> rows[] = {
-        {Mistake::None, "", ""},
-        {Mistake::FatherWithoutReference, "ZFXISpecObject::GetFather returns an object without", kOwnership},
-        {Mistake::OwnerWithoutReference, "ZFXISpecAttribute::GetOwner returns an object without", kOwnership},
-        {Mistake::BorrowedKey, "ZFXISpecAttrAccess::GetAttrKey returns an object without", kOwnership},
-        {Mistake::BorrowedList, "ZFXISamAnalysisEntity::GetParentSets returns one list twice", kOwnership},
-        {Mistake::Exception, "ZFXISpecObject::GetFather throws an exception", kOwnership},
-        {Mistake::NullList, "ZFXISamAnalysisEntity::GetParentSets returns a null list", kScopes},
-        {Mistake::NullEntry, "ZFXISamAnalysisEntity::GetParentSets returns a list whose first", kScopes},
-        {Mistake::EmptyList, "ZFXISamAnalysisEntity::GetParentSets returns an empty list", kScopes},
-        {Mistake::OtherSet, "ZFXISamAnalysisSet::ListMembers does not list the feature", kScopes},
-        {Mistake::WrongAttribute, "ZFXISpecAttrAccess::GetAttrKey returns no key of the attribute \"Alias\"",
-         kFeatures},
-        {Mistake::FatherOfItself, "ZFXISpecObject::GetFather leads from an object back to it", kFeatures},
-        {Mistake::ChangingLateType, "ZFXISpecObject::GetLateType returns another late type", kFeatures},
-        {Mistake::NoPointingAttributes, "ZFXISpecObject::ListPointingAttributes returns null for a step", kFeatures},
-        {Mistake::NoHistory, "ZFXISpecObject::ListPointingAttributes returns no attribute", kFeatures},
-        {Mistake::NoDocument, "ZFXILinkableObject::GetOwningDocument returns no document", kServices},
-        {Mistake::DocumentWithReference, "ZFXILinkableObject::GetOwningDocument adds a reference", kOwnership},
-        {Mistake::LostReference, "The requests leave references on the object", kOwnership},
+TEST(BindingCheck, ReportsEachMistakeOfAHost) {
+    const ZFXFillDictionary extension(
+        fct_RetrieveMetaObject("BindingCheckExtension", ENUMTypeOfClass::DataExtension, nullptr, "ExtendedLT", "", 0),
+        ZFXIAlias::MetaObject(), Adaptor::Make, nullptr, 1);
+    const std::tuple<std::string_view, const char*, const char*> rows[] = {
+        {"none", "", ""},
+        {"cast without reference", "QueryInterface to ZFXBaseUnknown returns an object without", kOwnership},
+        {"cast with two references", "QueryInterface to ZFXBaseUnknown returns an object with more", kOwnership},
+        {"pointer after a failure", "QueryInterface to ZFXISpecAttribute fails without setting", kOwnCount},
+        {"no pointer after a success", "QueryInterface to ZFXISpecAttribute succeeds without", kOwnCount},
+        {"no SetImpl", "QueryInterface to QVRIStep returns an interface whose GetImpl", kOwnCount},
+        {"wrong base", "QueryInterface to ZFXIAlias returns the address of another base", kOwnCount},
+        {"uneven offers", "QueryInterface to QVRIStep differs between the object and", kOwnCount},
+        {"no search for extensions", "QueryInterface to ZFXIAlias does not return the adaptor", kCasts},
+        {"father without reference", "ZFXISpecObject::GetFather returns an object without", kOwnership},
+        {"owner without reference", "ZFXISpecAttribute::GetOwner returns an object without", kOwnership},
+        {"borrowed key", "ZFXISpecAttrAccess::GetAttrKey returns an object without", kOwnership},
+        {"borrowed list", "ZFXISamAnalysisEntity::GetParentSets returns one list twice", kOwnership},
+        {"exception", "ZFXISpecObject::GetFather throws an exception", kOwnership},
+        {"null list", "ZFXISamAnalysisEntity::GetParentSets returns a null list", kScopes},
+        {"null entry", "ZFXISamAnalysisEntity::GetParentSets returns a list whose first", kScopes},
+        {"empty list", "ZFXISamAnalysisEntity::GetParentSets returns an empty list", kScopes},
+        {"not a member", "ZFXISamAnalysisSet::ListMembers does not list the feature", kScopes},
+        {"wrong attribute", "ZFXISpecAttrAccess::GetAttrKey returns no key of the attribute \"Alias\"", kFeatures},
+        {"father of itself", "ZFXISpecObject::GetFather leads from an object back to it", kFeatures},
+        {"changing late type", "ZFXISpecObject::GetLateType returns another late type", kFeatures},
+        {"no pointing attributes", "ZFXISpecObject::ListPointingAttributes returns null for a step", kFeatures},
+        {"no history", "ZFXISpecObject::ListPointingAttributes returns no attribute", kFeatures},
+        {"no document", "ZFXILinkableObject::GetOwningDocument returns no document", kServices},
+        {"document with reference", "ZFXILinkableObject::GetOwningDocument adds a reference", kOwnership},
+        {"lost reference", "The requests leave references on the object", kOwnership},
     };
     for (const auto& [mistake, sentence, section] : rows) {
-        History history(mistake == Mistake::OwnerWithoutReference || mistake == Mistake::OtherSet ? mistake
-                                                                                                  : Mistake::None,
-                        mistake == Mistake::NoHistory ? "OtherLT" : "QVROruSimHistLT");
-        Step step(mistake, "ExtendedLT");
+        const bool isOfHistory = mistake == "owner without reference" || mistake == "not a member";
+        Host history(isOfHistory ? mistake : "none", mistake == "no history" ? "OtherLT" : "QVROruSimHistLT", nullptr);
+        Host step(mistake, "ExtendedLT", &history);
         history.step = &step;
-        step.father = &history;
-        step.pointing.Append(&history);
-        ExpectFault(FirstFault(ZFXBaseUnknown_var(&step)), sentence, section);
-        step.Undo();
-        history.AddRef();
-        EXPECT_EQ(history.Release(), 1U) << sentence;
+        step.pointing.Append(static_cast<ZFXISpecAttribute*>(&history));
+        ExpectFault(FirstFault(step.Root()), sentence, section);
+        EXPECT_TRUE(step.count == 1 || mistake == "uneven offers" || mistake == "lost reference") << mistake;
+        EXPECT_EQ(history.count, mistake == "borrowed list" ? 4U : 2U) << mistake;
     }
 }
 
