@@ -66,11 +66,11 @@ void HostProbe::CheckCasts(ZFXBaseUnknown& object) {
     for (const ProbedInterface& to : kProbedInterfaces) {
         offered.push_back(Cast(object, to, identity));
         if (Faults() > 0)
-            return; // most of the other casts have the same fault
+            return; // the other casts probably have this fault too
     }
     if (offered.front() == nullptr)
         Report(CastTo(kProbedInterfaces.front()), "fails: every object offers the root", Section::kOwnCount);
-    // The object and each of its interfaces offer the same interfaces.
+    // All interfaces of an object must offer what the object offers.
     for (std::size_t from = 0; from < offered.size(); ++from)
         for (std::size_t to = 0; to < offered.size() && offered[from] != nullptr; ++to)
             if ((Cast(*offered[from], kProbedInterfaces[to], identity) == nullptr) != (offered[to] == nullptr))

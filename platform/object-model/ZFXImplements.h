@@ -17,9 +17,9 @@ template <class Object>
 /// class of its document nodes from it, and passes that class to ZFXImplements.
 class ZFXObject : public ZFXBaseUnknown {
 public:
-    /// @param lateType  the meta class of the late type, from `fct_FindMetaObject`; its extensions add interfaces to
-    /// the
-    ///                  object. Null for an object that is no feature, such as an attribute.
+    /// Creates an object with one reference.
+    /// @param lateType  the meta class of the late type, from `fct_FindMetaObject`; its extensions add interfaces. Null
+    ///                  for an object that is no feature, such as an attribute.
     explicit ZFXObject(const ZFXMetaClass* lateType)
         : m_lateType(lateType != nullptr ? lateType : ZFXnull::MetaObject()) {}
 
