@@ -6,7 +6,7 @@
 cmake_minimum_required(VERSION 3.25)
 get_filename_component(root ${CMAKE_CURRENT_LIST_DIR} DIRECTORY)
 set(module ${root}/QVRGeneralUtilities)
-set(table ${module}/QVRNameUtility.m/src/internal/MessageIds.def)
+set(table ${root}/facts/MessageIds.def)
 set(catalog ${module}/resources/msgcatalog/QVRNameUtility.msg)
 set(page ${root}/docs/messages.md)
 

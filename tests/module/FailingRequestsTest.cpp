@@ -114,7 +114,7 @@ const Operation kOperations[] = {
 /// The rows of MessageIds.def: a message id, and ", " before and after each operation that raises it.
 const std::pair<std::string_view, std::string_view> kRaisedBy[] = {
 #define MESSAGE_ID(id, raisedBy) {#id, ", " raisedBy ", "},
-#include "internal/MessageIds.def"
+#include "MessageIds.def"
 #undef MESSAGE_ID
 };
 

@@ -9,7 +9,7 @@ namespace {
 
 constexpr const char* kIds[] = {
 #define MESSAGE_ID(id, raisedBy) #id,
-#include "internal/MessageIds.def"
+#include "MessageIds.def"
 #undef MESSAGE_ID
 };
 

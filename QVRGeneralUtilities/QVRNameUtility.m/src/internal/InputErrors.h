@@ -12,7 +12,7 @@
 /// The message ids of MessageIds.def.
 enum class MessageId : std::uint8_t {
 #define MESSAGE_ID(id, raisedBy) id,
-#include "internal/MessageIds.def"
+#include "MessageIds.def"
 #undef MESSAGE_ID
 };
 
