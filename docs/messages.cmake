@@ -38,11 +38,11 @@ foreach(row IN LISTS rows)
   endforeach()
 endforeach()
 
-# ---- The texts: Diagnostic_ID and Advice_ID ----
+# ---- The texts: Diagnostic_ID, Example_ID and Advice_ID ----
 
 read_lines(${catalog} rows)
 foreach(row IN LISTS rows)
-  if(NOT row MATCHES "^([A-Za-z0-9_]+)\\.(Request|Diagnostic|Advice)[ \t]*=[ \t]*(.+)$")
+  if(NOT row MATCHES "^([A-Za-z0-9_]+)\\.(Request|Diagnostic|Example|Advice)[ \t]*=[ \t]*(.+)$")
     continue()
   endif()
   set(id ${CMAKE_MATCH_1})
@@ -67,12 +67,12 @@ replaced by a text, such as the characters that are not allowed.
 This page is written by `cmake -P docs/messages.cmake` from the message catalog and `MessageIds.def`.
 ")
 foreach(id IN LISTS ids)
-  if(NOT Diagnostic_${id} OR NOT Advice_${id})
-    message(SEND_ERROR "${catalog}: ${id} has no diagnostic or no advice")
+  if(NOT Diagnostic_${id} OR NOT Example_${id} OR NOT Advice_${id})
+    message(SEND_ERROR "${catalog}: ${id} has no diagnostic, example or advice")
   endif()
   list(JOIN raisers_${id} "`, `" raisers)
-  string(APPEND text "\n## ${id}\n\n**Cause:** ${Diagnostic_${id}}\n\n**Fix:** ${Advice_${id}}\n\n"
-                     "**Raised by:** `${raisers}`\n")
+  string(APPEND text "\n## ${id}\n\n**Cause:** ${Diagnostic_${id}}\n\n**Example:** ${Example_${id}}\n\n"
+                     "**Fix:** ${Advice_${id}}\n\n**Raised by:** `${raisers}`\n")
 endforeach()
 as_written("${text}" text)
 

@@ -13,8 +13,9 @@
 /// A catalog is one UTF-8 file: its name with the ending ".msg". A translation is another file in that folder, with the
 /// language in its name, such as "QVRNameUtility_de.msg". The name of a catalog contains no underscore.
 ///
-/// A line is `key = text`. A key is a message id followed by ".Request", ".Diagnostic" or ".Advice". Blank lines and
-/// lines that start with "#" are skipped. A file that does not exist or cannot be read has no texts.
+/// A line is `key = text`. A key is a message id followed by ".Request", ".Diagnostic" or ".Advice", the parts of an
+/// error's text, or by another word, such as ".Example". Blank lines and lines that start with "#" are skipped. A file
+/// that does not exist or cannot be read has no texts.
 ///
 /// The files are in the folder "share/QVRGeneralUtilities/msgcatalog" of the installation, unless a host sets another
 /// folder. Its path is relative to that of the platform's shared library, so the installation can be moved.

@@ -13,7 +13,7 @@ none() { ! grep -n "${@:2}" >&2 || fault "$1"; }
 translations=(QVRNameUtility_*.msg)
 check "there are three translations" [ ${#translations[@]} -ge 3 ]
 for catalog in QVRNameUtility.msg "${translations[@]}"; do
-    none "$catalog: not a row of a catalog" -vE '^(#.*)?$|^[A-Za-z0-9_]+\.(Request|Diagnostic|Advice) = .*[^ ]$' "$catalog"
+    none "$catalog: not a row of a catalog" -vE '^(#.*)?$|^[A-Za-z0-9_]+\.(Request|Diagnostic|Example|Advice) = .*[^ ]$' "$catalog"
     none "$catalog: a text ends in a parameter, so the next text follows without a space" '^[^#].*/P[1-9]$' "$catalog"
     same "keys and parameters of $catalog" "$(rows QVRNameUtility.msg)" "$(rows "$catalog")"
 done

@@ -44,6 +44,7 @@ public:
         AddDeck();
         AddPropose();
         AddRename();
+        AddExplain();
     }
 
     int Parse(int argc, const char* const* argv) {
@@ -156,6 +157,11 @@ private:
                         "Write the changed document to this file and leave DOCUMENT unchanged.\n"
                         "\"-\" is stdout (default for stdin); messages go to stderr");
     }
+    void AddExplain() {
+        CLI::App* app = Add("explain", "Print the cause of a message, an example, and the fix.",
+                            "explain IllegalCharERR_01", [this] { return ExplainRule(m_explained, m_console); });
+        app->add_option("ID", m_explained, "The message id or rule in a report; omit it to list all of them");
+    }
     static void AddDocument(CLI::App* app, std::string& document) {
         app->add_option("DOCUMENT", document, "The document file, or - for stdin")->required();
     }
@@ -169,6 +175,7 @@ private:
     std::string m_deckDocument;
     ProposeRequest m_propose;
     RenameRequest m_rename;
+    std::string m_explained;
     std::function<int()> m_command;
 };
 

@@ -57,6 +57,9 @@ struct RenameRequest {
 };
 int RenameFeature(const RenameRequest& request, Console console);
 
+/// Prints cause, example and fix of a message or rule; lists all of them if `id` is empty.
+int ExplainRule(const std::string& id, Console console);
+
 // Helpers of the commands.
 
 /// Reads the document in a file, or on standard input if `file` is "-". Messages of BadInput begin with the file name.

@@ -1,16 +1,16 @@
 // The formats of audit reports for other programs: JSON, SARIF 2.1.0 and JUnit XML.
 
 #include "commands/AuditReport.h"
+#include "commands/Rules.h"
 
 #include "QVRNameUtilityVersion.h"
 #include "files/FileErrors.h"
 #include "terminal/DisplayWidth.h"
 
-#include "errors/MessageCatalog.h"
-
 #include <nlohmann/json.hpp>
 
 #include <algorithm>
+#include <cassert>
 #include <cstdio>
 #include <filesystem>
 #include <map>
@@ -110,24 +110,11 @@ Json ResultOf(const std::string& uri, const ReportedFinding& finding, const char
     return result;
 }
 
-/// Returns the text of a rule from the message catalog, or a fixed text for a rule without a message.
 Json RuleOf(const std::string& id) {
-    static const std::map<std::string, const char*> fixed{
-        {kRequestFailed, "A name cannot be checked, because a part of the document cannot be read."},
-        {kDuplicateDeckName, "Two objects have the same name in the solver deck."},
-        {kDeckCharacter, "A name contains a line break, a comma or an asterisk, which have a meaning in the deck."},
-        {kUnknownType, "A late type is not known; it may be misspelt."}};
-    const auto text = fixed.find(id);
-    if (text != fixed.end())
-        return {{"id", id}, {"shortDescription", {{"text", text->second}}}};
-    Json rule{{"id", id}};
-    if (auto diagnostic = MessageCatalog::Find("QVRNameUtility", id + ".Diagnostic")) {
-        diagnostic->ReplaceSubString("/P1", "...");
-        rule["shortDescription"] = {{"text", diagnostic->ConvertToChar()}};
-    }
-    if (const auto advice = MessageCatalog::Find("QVRNameUtility", id + ".Advice"))
-        rule["help"] = {{"text", advice->ConvertToChar()}};
-    return rule;
+    const std::vector<Rule> rules = AllRules();
+    const auto rule = std::find_if(rules.begin(), rules.end(), [&](const Rule& known) { return known.id == id; });
+    assert(rule != rules.end());
+    return {{"id", id}, {"shortDescription", {{"text", rule->cause}}}, {"help", {{"text", rule->fix}}}};
 }
 
 void PrintAsSarif(const Reports& reports, const AuditRequest& request, std::ostream& out) {

@@ -23,10 +23,10 @@ _qvrnames() {
         esac
     done
     case $command in
-        '') options="$common --version" words='check audit deck propose rename' ;;
+        '') options="$common --version" words='check audit deck propose rename explain' ;;
         check) options="$common --file-name --from" ;;
         audit) options="$common --deck --strict --summary --format" ;;
-        deck) options=$common ;;
+        deck | explain) options=$common ;;
         propose) options="$common --base --job" ;;
         rename) options="$common --force --output" ;;
         *) return ;;
@@ -42,7 +42,7 @@ _qvrnames() {
             case $command:$current in
                 *:-?*) words=$options ;;
                 :*) words="$words $options" ;;
-                check:*) words=$options ;;
+                check:* | explain:*) words=$options ;;
                 audit:*) words=FILE ;;
                 *) if [ "$place" = 0 ]; then words=FILE; else words=$options; fi ;;
             esac

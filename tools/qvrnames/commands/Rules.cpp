@@ -1,0 +1,57 @@
+#include "commands/Rules.h"
+
+#include "commands/AuditReport.h"
+
+#include "errors/MessageCatalog.h"
+
+namespace {
+
+struct MessageRow {
+    const char* id;
+    const char* operations;
+};
+
+constexpr MessageRow kMessages[] = {
+#define MESSAGE_ID(id, raisedBy) {#id, raisedBy},
+#include "MessageIds.def"
+#undef MESSAGE_ID
+};
+
+std::string TextOf(const char* id, const char* part) {
+    ZFXUnicodeString text = MessageCatalog::Find("QVRNameUtility", std::string(id) + part).value_or("");
+    text.ReplaceSubString("/P1", "...");
+    return text.ConvertToChar();
+}
+
+} // namespace
+
+std::vector<Rule> AllRules() {
+    std::vector<Rule> rules;
+    for (const auto& [id, operations] : kMessages)
+        rules.push_back({id, TextOf(id, ".Diagnostic"), TextOf(id, ".Example"), TextOf(id, ".Advice"), operations});
+    rules.push_back({kRequestFailed,
+                     "A name cannot be checked, because a part of the document cannot be read.",
+                     "The father of a job container is not the analysis model, so the names of its jobs cannot be "
+                     "compared with those of other cases.",
+                     "Change the document as the message of the finding describes.",
+                     {}});
+    rules.push_back({kDuplicateDeckName,
+                     "Two objects have the same name in the solver deck.",
+                     "A document contains the materials \"Steel\" and \"STEEL\".",
+                     "Rename one of the objects; letter case makes no difference.",
+                     {}});
+    rules.push_back(
+        {kDeckCharacter,
+         "A name in the solver deck contains a line break, a comma or an asterisk. The deck is made of lines, "
+         "and comma and asterisk have a meaning in it.",
+         "A pressure load has the name \"Flange, top\".",
+         "Use another character. The name is a finding only with --strict.",
+         {}});
+    rules.push_back({kUnknownType,
+                     "A late type is not known; it may be misspelt.",
+                     "A set has the type \"QVRLoadsContainerLT\" instead of \"QVRLoadContainerLT\".",
+                     "Correct the key \"type\". A type that is correct needs no change; it is a finding only with "
+                     "--strict.",
+                     {}});
+    return rules;
+}
