@@ -109,6 +109,28 @@ std::string FirstFault(const Json& value, Json schema, const Json& root, const s
     return fault;
 }
 
+TEST(Commands, IgnoreTheFindingsOfABaseline) {
+    const TestFolder folder;
+    const std::string baseline = folder.Path("baseline.json");
+    const std::string document = folder.Write("document.json", R"({"cases": [{"name": "1"}, {"name": "2"}]})");
+    const std::vector<std::string> audit{"audit", document, "--baseline", baseline};
+    EXPECT_EQ(RunWith(audit).code, 2) << "the file does not exist";
+    EXPECT_EQ(RunWith({"audit", document, "--write-baseline", baseline}).code, 0);
+    const RunResult known = RunWith(audit);
+    EXPECT_EQ(known.out, "2 features checked, 0 refusals\n");
+    EXPECT_EQ(known.code, 0);
+    folder.Write("document.json", R"({"cases": [{"comment": "moved", "name": "1"}, {"name": "3"}]})");
+    const RunResult changed = RunWith(audit);
+    EXPECT_EQ(changed.code, 1);
+    EXPECT_NE(changed.out.find("2 features checked, 1 refusal\n"), std::string::npos) << changed.out;
+    EXPECT_EQ(changed.err, "qvrnames: " + baseline + ": no longer found: " + document + ": 2: LeadingDigitERR_01\n");
+    for (const char* text :
+         {"", "[]", R"({"version": 2, "findings": []})", R"({"version": 1, "findings": [{"file": 1}]})"}) {
+        folder.Write("baseline.json", text);
+        EXPECT_EQ(RunWith(audit).err, "qvrnames: " + baseline + ": no baseline; --write-baseline writes one\n") << text;
+    }
+}
+
 TEST(Commands, PrintReportsThatConformToTheirSchema) {
     const Json schema = Json::parse(ReadFile(QVRNAMES_FOLDER "/report.schema.json"));
     const std::vector<std::string> arguments{"audit", TRANSCRIPTS_FOLDER "/reports",

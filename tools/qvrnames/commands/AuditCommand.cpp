@@ -1,5 +1,6 @@
 #include "ExitCode.h"
 #include "commands/AuditReport.h"
+#include "commands/Baseline.h"
 #include "commands/Commands.h"
 #include "files/FileErrors.h"
 #include "terminal/DisplayWidth.h"
@@ -10,6 +11,7 @@
 #include <algorithm>
 #include <filesystem>
 #include <map>
+#include <optional>
 #include <ostream>
 
 namespace {
@@ -134,10 +136,15 @@ int AuditDocuments(const AuditRequest& request, Console console) {
     if (resolved.format.empty())
         resolved.format = console.isJson ? "json" : "text";
     const bool isText = resolved.format == "text";
+    std::optional<Baseline> baseline;
+    if (!request.baseline.empty())
+        baseline.emplace(request.baseline);
     const std::vector<std::string> files = FilesOf(request.documents);
     std::vector<DocumentReport> reports;
     for (const std::string& file : files) {
         reports.push_back(AuditFile(file, request.withDeck));
+        if (baseline)
+            baseline->RemoveKnown(reports.back());
         PrintNotices(reports.back(), request, console);
         if (isText)
             PrintDocument(reports.back(), request, files.size() > 1, console);
@@ -146,5 +153,12 @@ int AuditDocuments(const AuditRequest& request, Console console) {
         PrintReports(reports, resolved, console.out);
     else if (files.size() > 1 || reports.front().error.empty())
         PrintSummary(reports, request, console);
-    return ExitCodeOf(reports, request.isStrict);
+    if (baseline)
+        for (const std::string& entry : baseline->Outdated(reports))
+            console.err << "qvrnames: " << Printable(request.baseline + ": no longer found: " + entry) << '\n';
+    const int code = ExitCodeOf(reports, request.isStrict);
+    if (request.newBaseline.empty())
+        return code;
+    Baseline::Write(request.newBaseline, reports);
+    return code == kBadInput ? kBadInput : kSuccess;
 }

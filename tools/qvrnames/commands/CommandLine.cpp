@@ -128,6 +128,10 @@ private:
         app->add_option("--format", m_audit.format, "Format of the report: text (default), json, sarif or junit")
             ->check(CLI::IsMember({"text", "json", "sarif", "junit"}))
             ->type_name("FORMAT");
+        app->add_option("--baseline", m_audit.baseline, "Ignore the findings in this file")->type_name("FILE");
+        app->add_option("--write-baseline", m_audit.newBaseline, "Write all findings to this file, and succeed")
+            ->type_name("FILE")
+            ->excludes("--baseline");
     }
     void AddDeck() {
         CLI::App* app = Add("deck", "Show the names that the solver deck would contain.", "deck pump.json",

@@ -32,6 +32,8 @@ struct AuditRequest {
     bool withDeck = false;              ///< also check the names in the solver deck
     bool isStrict = false;              ///< a warning is a finding
     bool isSummary = false;             ///< print the number of findings by rule instead of the findings
+    std::string baseline;               ///< a file of findings to ignore; empty: none
+    std::string newBaseline;            ///< the file to write all findings to; empty: none
     std::string format;                 ///< "text", "json", "sarif" or "junit"; empty: that of the console
 };
 /// Audits the documents in the order of the arguments. The result is kBadInput if one is unusable, else kRefused if

@@ -17,7 +17,7 @@ _qvrnames() {
             continue
         fi
         case $word in
-            --color | --language | --base | --output | --format | --from) skip=1 ;;
+            --color | --language | --base | --output | --format | --from | --baseline | --write-baseline) skip=1 ;;
             = | -?*) ;;
             *) if [ -z "$command" ]; then command=$word; else place=$((place + 1)); fi ;;
         esac
@@ -25,7 +25,7 @@ _qvrnames() {
     case $command in
         '') options="$common --version" words='check audit deck propose rename explain' ;;
         check) options="$common --file-name --from" ;;
-        audit) options="$common --deck --strict --summary --format" ;;
+        audit) options="$common --deck --strict --summary --format --baseline --write-baseline" ;;
         deck | explain) options=$common ;;
         propose) options="$common --base --job" ;;
         rename) options="$common --force --output" ;;
@@ -37,7 +37,7 @@ _qvrnames() {
         --language) words='de en fr ja' ;;
         --format) words='text json sarif junit' ;;
         --base) return ;;
-        --output | --from) words=FILE ;;
+        --output | --from | --baseline | --write-baseline) words=FILE ;;
         *)
             case $command:$current in
                 *:-?*) words=$options ;;

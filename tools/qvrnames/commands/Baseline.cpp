@@ -1,0 +1,76 @@
+#include "commands/Baseline.h"
+
+#include "ExitCode.h"
+#include "files/FileErrors.h"
+#include "files/WholeFile.h"
+
+#include <algorithm>
+#include <set>
+
+namespace {
+
+using Json = nlohmann::json;
+
+constexpr int kVersion = 1;
+
+Json EntryOf(const DocumentReport& report, const ReportedFinding& finding) {
+    Json entry{{"file", report.file}, {"feature", finding.object.path}, {"rule", finding.rule}};
+    entry["name"] = finding.rule == kUnknownType ? finding.lateType : finding.name;
+    if (!finding.deckColumn.empty())
+        entry["deck"] = finding.deckColumn;
+    return entry;
+}
+
+bool IsEntry(const Json& entry) {
+    if (!entry.is_object())
+        return false;
+    for (const char* key : {"file", "feature", "rule", "name"})
+        if (!entry.contains(key) || !entry[key].is_string())
+            return false;
+    return true;
+}
+
+} // namespace
+
+Baseline::Baseline(const std::string& file) {
+    const Json baseline = Json::parse(ReadWholeFile(file), nullptr, false);
+    const bool hasFindings = baseline.is_object() && baseline.value("version", Json()) == kVersion &&
+                             baseline.value("findings", Json()).is_array();
+    if (!hasFindings || !std::all_of(baseline["findings"].begin(), baseline["findings"].end(), IsEntry))
+        throw BadInput(DisplayFileName(file) + ": no baseline; --write-baseline writes one");
+    for (const Json& entry : baseline["findings"])
+        m_isFound.emplace(entry, false);
+}
+
+void Baseline::Write(const std::string& file, const std::vector<DocumentReport>& reports) {
+    Json findings = Json::array();
+    for (const DocumentReport& report : reports)
+        for (const ReportedFinding* finding : FindingsOf(report, true))
+            findings.push_back(EntryOf(report, *finding));
+    const Json baseline{{"version", kVersion}, {"findings", std::move(findings)}};
+    ReplaceWholeFile(file, baseline.dump(2) + "\n", kStandardStream);
+}
+
+void Baseline::RemoveKnown(DocumentReport& report) {
+    for (auto* findings : {&report.refusals, &report.deckFaults, &report.warnings})
+        std::erase_if(*findings, [&](const ReportedFinding& finding) {
+            const auto entry = m_isFound.find(EntryOf(report, finding));
+            if (entry == m_isFound.end())
+                return false;
+            entry->second = true;
+            return true;
+        });
+}
+
+std::vector<std::string> Baseline::Outdated(const std::vector<DocumentReport>& reports) const {
+    std::set<std::string> audited;
+    for (const DocumentReport& report : reports)
+        if (report.error.empty())
+            audited.insert(report.file);
+    std::vector<std::string> outdated;
+    for (const auto& [entry, isFound] : m_isFound)
+        if (const auto file = entry["file"].get<std::string>(); !isFound && audited.count(file) != 0)
+            outdated.push_back(file + ": " + entry["feature"].get<std::string>() + ": " +
+                               entry["rule"].get<std::string>());
+    return outdated;
+}

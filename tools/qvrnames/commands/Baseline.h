@@ -1,0 +1,27 @@
+#pragma once
+
+#include "commands/AuditReport.h"
+
+#include <nlohmann/json.hpp>
+
+#include <map>
+#include <string>
+#include <vector>
+
+/// A file of known findings, which an audit ignores. A finding is known by its document, feature, name and rule, so
+/// that it stays known when other parts of the document change.
+class Baseline {
+public:
+    /// Reads the file. Throws BadInput if it is no baseline.
+    explicit Baseline(const std::string& file);
+    /// Writes all findings of the reports, warnings included. Throws BadInput if the file cannot be written.
+    static void Write(const std::string& file, const std::vector<DocumentReport>& reports);
+
+    /// Removes the known findings from a report.
+    void RemoveKnown(DocumentReport& report);
+    /// Returns a description of each entry for one of the documents that was not found in it.
+    [[nodiscard]] std::vector<std::string> Outdated(const std::vector<DocumentReport>& reports) const;
+
+private:
+    std::map<nlohmann::json, bool> m_isFound; // by entry of the file
+};
