@@ -66,7 +66,9 @@ Programs WriteDocuments(const std::filesystem::path& folder) {
     return {{"qvrnames/load", "load", {LOADING_PROGRAM, loads}},
             {"qvrnames/audit", "audit", {qvrnames, "audit", loads}},
             {"qvrnames/propose", "propose", {qvrnames, "propose", loads, "load"}},
-            {"qvrnames/rename", "rename", {qvrnames, "rename", loads, "load", "Unused", "--output", "-"}},
+            {"qvrnames/rename",
+             "rename",
+             {qvrnames, "rename", loads, "load", "Unused", "--output", (folder / "renamed.json").string()}},
             {"qvrnames/load-materials", "load-materials", {LOADING_PROGRAM, materials}},
             {"qvrnames/audit-deck", "audit-deck", {qvrnames, "audit", "--deck", materials}}};
 }
