@@ -3,20 +3,11 @@
 
 #include "document/FeaturePaths.h"
 
-#include <map>
 #include <string_view>
+#include <unordered_map>
 #include <utility>
 
 namespace {
-
-/// Returns equal texts for names that differ only in letter case. Names with equal texts must be compared again,
-/// because other names may also have equal texts.
-std::string CaseInsensitiveKey(const std::string& name) {
-    ZFXUnicodeString text(name.c_str());
-    text.ToUpper();
-    text.ToLower();
-    return text.ConvertToChar();
-}
 
 /// Returns the case above an object, or the model if there is none.
 std::uint32_t CaseOf(const LoadedDocument& loaded, std::uint32_t entry) {
@@ -41,16 +32,25 @@ public:
     std::optional<std::uint32_t> FindOwnerOrAdd(const DeckSection& section, std::uint32_t entry,
                                                 const std::string& name) {
         const std::uint32_t analysisCase = std::string_view(section.key) == "features" ? CaseOf(m_loaded, entry) : 0;
-        for (const auto& [other, otherName] : m_owners[{analysisCase, CaseInsensitiveKey(name)}])
-            if (ZFXUnicodeString(otherName.c_str()).Compare(name.c_str()) != 0)
-                return other;
-        m_owners[{analysisCase, CaseInsensitiveKey(name)}].emplace_back(entry, name);
-        return std::nullopt;
+        const auto [owner, isNew] = m_owners.try_emplace({analysisCase, name.c_str()}, entry);
+        return isNew ? std::nullopt : std::optional(owner->second);
     }
 
 private:
+    struct Key {
+        std::uint32_t analysisCase;
+        ZFXUnicodeString name;
+
+        friend bool operator==(const Key& a, const Key& b) {
+            return a.analysisCase == b.analysisCase && a.name.Compare(b.name) != 0;
+        }
+    };
+    struct HashOfKey {
+        std::size_t operator()(const Key& key) const { return key.name.HashIgnoringCase() + 31 * key.analysisCase; }
+    };
+
     const LoadedDocument& m_loaded;
-    std::map<std::pair<std::uint32_t, std::string>, std::vector<std::pair<std::uint32_t, std::string>>> m_owners;
+    std::unordered_map<Key, std::uint32_t, HashOfKey> m_owners;
 };
 
 /// Appends the findings in one column.
