@@ -42,7 +42,7 @@ void CountInstructions(const std::string& benchmarks, const std::string& filter,
                        const Path& folder, Results& results) {
     std::filesystem::remove_all(folder);
     std::filesystem::create_directories(folder);
-    // All processes run at once, because their number does not change what they count.
+    // All processes run in parallel, because their number does not change what they count.
     std::vector<std::pair<const Program*, Process>> counted;
     for (const Program& program : programs)
         if (std::regex_search(program.name, std::regex(filter)))

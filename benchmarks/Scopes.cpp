@@ -89,7 +89,7 @@ ZFXListValZFXBaseUnknown_var FirstFeatures(AliasSource from, int n) {
 ZFXListValZFXBaseUnknown_var ScatteredFeatures(AliasSource from) {
     const ZFXListValZFXBaseUnknown_var& all = PoolOf(from).features;
     std::vector<ZFXBaseUnknown_var> objects(all.begin(), all.end());
-    std::shuffle(objects.begin(), objects.end(), std::mt19937()); // the same order in each run
+    std::shuffle(objects.begin(), objects.end(), std::mt19937()); // with a fixed seed
     ZFXListValZFXBaseUnknown_var scattered;
     for (const ZFXBaseUnknown_var& object : objects)
         scattered.Append(object);

@@ -35,8 +35,8 @@ ZFXListValZFXBaseUnknown_var ScatteredFeatures(AliasSource from);
 /// Returns a feature that FirstFeatures never returns.
 ZFXISpecObject_var UnlistedFeature(AliasSource from);
 
-/// Returns the highest number after the base in the names of the features. Makes the requests of GetNextUniqueName (the
-/// cast to ZFXIAlias, the alias by value, the release), reads the digits after the base, and does nothing else.
+/// Returns the highest number after the base in the names of the features. For each feature it makes the requests of
+/// GetNextUniqueName (the cast to ZFXIAlias, the alias by value, the release) and reads the digits after the base.
 int HighestNumberByHand(const ZFXListValZFXBaseUnknown_var& features, std::u16string_view base);
 
 /// Returns make(n), from a cache after the first call.
