@@ -71,7 +71,7 @@ TEST_F(FeatureAliasTest, AdaptorIsAnInterfaceOfItsFeature) {
         EXPECT_EQ(step.References(), 1);
         EXPECT_EQ(ZFXBaseUnknown::LiveAllocations(), before + 2);
         EXPECT_TRUE(ZFXISpecObject_var(alias) == step.Object());
-        EXPECT_TRUE(ZFXIAlias_var(ZFXBaseUnknown_var(alias)) == alias);
+        EXPECT_EQ(ZFXIAlias_var(ZFXBaseUnknown_var(alias)).Get(), alias.Get());
         EXPECT_STREQ(alias->IsA(), "ZFXIAlias");
         EXPECT_EQ(alias->GetTypeInfo(0, 0, nullptr), E_NOTIMPL);
     }

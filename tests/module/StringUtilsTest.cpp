@@ -12,6 +12,7 @@ using Utils = QVRGenZFXUnicodeStringUtils;
 
 // docs/operations.md has an example of each of these functions.
 TEST(StringUtils, RemoveAndReplaceCharacters) {
+    EXPECT_EQ(Utils::RemoveDoubleQuotes("\"a\"b"), "ab");
     EXPECT_EQ(Utils::RemovePeriods(Repeated('.', kMillion)), "");
     EXPECT_EQ(Utils::RemoveLeadingSpaces(Repeated(' ', kMillion)), "");
     EXPECT_EQ(Utils::ReplaceBackslashWithForwardslash("\\a\\b"), "/a/b");
