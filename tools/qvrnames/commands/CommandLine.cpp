@@ -45,6 +45,7 @@ public:
         AddPropose();
         AddRename();
         AddExplain();
+        AddImport();
     }
 
     int Parse(int argc, const char* const* argv) {
@@ -166,6 +167,17 @@ private:
                             "explain IllegalCharERR_01", [this] { return ExplainRule(m_explained, m_console); });
         app->add_option("ID", m_explained, "The message id or rule in a report; omit it to list all of them");
     }
+    void AddImport() {
+        CLI::App* app =
+            Add("import", "Make a document from a table of names.",
+                "import names.csv --output names.json\n         qvrnames import names.csv | qvrnames audit -",
+                [this] { return ImportTable(m_import, m_console); });
+        app->add_option("TABLE", m_import.table,
+                        "A file with comma-separated values, or - for stdin. Columns: case, step, set, type,\n"
+                        "name; kind: feature (default), step, job, material, property or meshPart")
+            ->required();
+        app->add_option("--output", m_import.output, "Write the document to this file (default: stdout)");
+    }
     static void AddDocument(CLI::App* app, std::string& document) {
         app->add_option("DOCUMENT", document, "The document file, or - for stdin")->required();
     }
@@ -180,6 +192,7 @@ private:
     ProposeRequest m_propose;
     RenameRequest m_rename;
     std::string m_explained;
+    ImportRequest m_import;
     std::function<int()> m_command;
 };
 

@@ -62,6 +62,13 @@ int RenameFeature(const RenameRequest& request, Console console);
 /// Prints cause, example and fix of a message or rule; lists all of them if `id` is empty.
 int ExplainRule(const std::string& id, Console console);
 
+struct ImportRequest {
+    std::string table;  ///< a file with comma-separated values, or "-"
+    std::string output; ///< a file; empty or "-": standard output
+};
+/// Makes a document file from a table of names.
+int ImportTable(const ImportRequest& request, Console console);
+
 // Helpers of the commands.
 
 /// Reads the document in a file, or on standard input if `file` is "-". Messages of BadInput begin with the file name.
