@@ -10,9 +10,9 @@
 
 /// The names of a mesh part in the solver deck.
 struct QVRMeshPartNames {
-    HRESULT code = S_OK; ///< the result of GetUniqueLegalInstanceName; after a failure, both names are empty
-    ZFXUnicodeString instanceName;
-    ZFXUnicodeString partName;
+    HRESULT code = S_OK;           ///< the result of GetUniqueLegalInstanceName; after a failure, both names are empty
+    ZFXUnicodeString instanceName; ///< the name of the instance
+    ZFXUnicodeString partName;     ///< the name of the part
 };
 
 /// Builds the names that a mesh part has in the solver deck. Only the integer tag of the part makes them unique: they

@@ -32,7 +32,9 @@ protected:
         return m_lateType->IsExtended() ? m_lateType->FindAdaptorFactory(iid) : nullptr;
     }
     /// Implements QueryInterface.
-    /// @param own  the interface that the object itself implements, or null
+    /// @param iid               the interface
+    /// @param own               the interface that the object itself implements, or null
+    /// @param interfacePointer  receives the interface with a new reference, or null
     HRESULT Cast(const IID& iid, ZFXBaseUnknown* own, void** interfacePointer) {
         if (interfacePointer == nullptr)
             return E_POINTER;
@@ -73,17 +75,21 @@ class ZFXImplements : public Object, public Interfaces... {
 public:
     using Object::Object;
 
+    /// Offers the interface of an extension of the late type, else that of the object.
     HRESULT QueryInterface(const IID& iid, void** interfacePointer) override {
         return this->Cast(iid, OwnInterface(iid), interfacePointer);
     }
+    /// Offers the interface with this name.
     HRESULT QueryInterface(const char* interfaceName, void** interfacePointer) override {
         return Object::QueryInterface(interfaceName, interfacePointer);
     }
-    ULONG AddRef() override { return Object::AddRef(); }
-    ULONG Release() override { return Object::Release(); }
+    ULONG AddRef() override { return Object::AddRef(); }   ///< Adds a reference on the object.
+    ULONG Release() override { return Object::Release(); } ///< Releases a reference on the object.
+    /// Returns the root interface. [borrowed]
     ZFXBaseUnknown* GetImpl() const override { return const_cast<ZFXImplements*>(this)->Root(); }
 
 protected:
+    /// Returns the reference count, which all interfaces share.
     ULONG& Count() noexcept { return Object::Count(); }
     /// Returns the root interface, which is also the identity of the object. [borrowed]
     ZFXBaseUnknown* Root() noexcept { return static_cast<ZFXObject*>(this); }
