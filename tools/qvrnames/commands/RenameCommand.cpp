@@ -95,8 +95,10 @@ void WriteDocument(const std::string& bytes, const RenameRequest& request, const
 int RenameFeature(const RenameRequest& request, Console console) {
     const std::string& target = request.output.empty() ? request.document : request.output;
     std::error_code error; // a file that does not exist differs from all others
+    // Equal paths are not compared by their files: another process can replace the file between the two look-ups.
     const bool isInPlace = request.document != kStandardStream && target != kStandardStream &&
-                           std::filesystem::equivalent(Utf8::ToPath(request.document), Utf8::ToPath(target), error);
+                           (target == request.document ||
+                            std::filesystem::equivalent(Utf8::ToPath(request.document), Utf8::ToPath(target), error));
     // From reading to writing, so that no change by another process is lost.
     const std::shared_ptr<void> lock = isInPlace ? LockFile(request.document) : nullptr;
     const auto loaded = OpenDocument(request.document);
