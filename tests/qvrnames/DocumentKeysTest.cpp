@@ -65,6 +65,34 @@ TEST(DocumentKeys, AreOnThePageWithTheirDefaultTypes) {
     }
 }
 
+/// Adds the keys of all objects in a value.
+void AddKeys(const nlohmann::json& value, Words& keys) {
+    for (const auto& [key, member] : value.items()) {
+        if (value.is_object())
+            keys.insert(key);
+        if (member.is_structured() && key != "attributes")
+            AddKeys(member, keys);
+    }
+}
+
+TEST(DocumentKeys, AreInTheLastExampleOfThePage) {
+    static const std::regex example("```json\n([^`]*)```");
+    const std::string page = ReadFile(DOCUMENT_FILE_PAGE);
+    const TestFolder folder;
+    Words found;
+    for (std::sregex_iterator match(page.begin(), page.end(), example), end; match != end; ++match) {
+        const std::string text = (*match)[1];
+        const RunResult result = RunWith({"audit", "--deck", "--strict", folder.Write("example.json", text)});
+        EXPECT_EQ(result.code, 0) << result.out << result.err;
+        found.clear();
+        AddKeys(nlohmann::json::parse(text), found);
+    }
+    Words expected;
+    for (std::size_t key = 0; key < kDocumentKeys; ++key)
+        expected.insert(SpellingOf(static_cast<DocumentKey>(key)));
+    EXPECT_EQ(found, expected);
+}
+
 /// Returns the keys that a definition of the schema allows, including those of its base definitions.
 Words KeysIn(const nlohmann::json& schema, const nlohmann::json& definition) {
     Words keys;
