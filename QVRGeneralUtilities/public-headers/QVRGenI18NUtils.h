@@ -89,9 +89,10 @@ public:
     /// - E_FAIL: a material before it in the list has no name now. If the material is listed, `name` becomes its
     ///   current name without a number, with full stops.
     HRESULT GetMaterialName(const ZFXISpecObject_var& material, ZFXUnicodeString& name) noexcept;
-    /// Appends to `names`, for each of the materials in order, what GetMaterialName would set an empty text to. The time
-    /// is linear in the number of materials and of listed materials: each name is requested once.
-    /// - E_FAIL: GetMaterialName would fail for at least one of them. The others have their names nevertheless.
+    /// Appends to `names` one text for each of the materials, in their order: what GetMaterialName would set an empty
+    /// text to. The time is linear in the number of these and of the listed materials, because each name is requested
+    /// only once.
+    /// - E_FAIL: GetMaterialName would fail for at least one material. The texts of the others are their names.
     HRESULT GetMaterialNames(const ZFXListValZFXISpecObject_var& materials, ZFXListValZFXUnicodeString& names) noexcept;
     /// Sets `name` to the late type, "-" and the index (from 1) of the material in the list of materials, with hyphens
     /// for full stops. Appends a material that is not listed.

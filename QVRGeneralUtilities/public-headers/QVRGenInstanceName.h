@@ -38,8 +38,9 @@ public:
     static HRESULT GetUniqueLegalInstanceName(const ZFXIMSHMeshPart_var& meshPart, ZFXUnicodeString& instanceName,
                                               ZFXUnicodeString& partName) noexcept;
 
-    /// Appends to `names` the results of GetUniqueLegalInstanceName for each of the mesh parts, in their order. Always
-    /// returns S_OK. The time is linear in the number of mesh parts and of the members of their fathers.
+    /// Appends to `names` one element for each of the mesh parts, in their order: the results of
+    /// GetUniqueLegalInstanceName. Always returns S_OK. The time is linear in the number of the mesh parts and of the
+    /// members of their fathers.
     static HRESULT GetUniqueLegalInstanceNames(const ZFXListVal<ZFXIMSHMeshPart_var>& meshParts,
                                                ZFXListVal<QVRMeshPartNames>& names) noexcept;
 

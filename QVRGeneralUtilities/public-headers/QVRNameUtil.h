@@ -224,7 +224,7 @@ public:
     /// current case; the handle is unchanged. `name` is unchanged if the feature is empty, if there is no case, or if
     /// the scope is not available. Only a failure in this list registers an error:
     /// - Step (QVRIStep): the scope is the steps of the case except the first.
-    ///   - "AnalysisCaseERR_02": the case is none of the solver's own (IsTarnisAnalysisCase returns 0).
+    ///   - "AnalysisCaseERR_02": the case does not belong to the solver (IsTarnisAnalysisCase returns 0).
     ///   - "AnalysisCaseERR_03": the case has no simulation history that can be searched.
     /// - Property or amplitude: the scope is the property set ("QVRTarnisPropertySetLT") of the model of the document.
     ///   - "AnalysisCaseERR_01": the case does not offer ZFXILinkableObject.
@@ -236,7 +236,8 @@ public:
                               ZFXISamAnalysisCase_var& analysisCase) noexcept;
 
     /// Appends to `names` the results of `count` calls of GetUniqueName with the base in `name`, as if each result were
-    /// added to the scope. Reads the scope once. Registers an error where GetUniqueName does, and returns its code.
+    /// added to the scope. Reads the scope once. If GetUniqueName would register an error, registers this error and
+    /// returns its code. After a failure, `names` is unchanged.
     /// - E_FAIL: `count` is below 1, the feature is empty, or there is no case.
     /// - The code of a request: the scope cannot be listed.
     static HRESULT GetUniqueNames(const ZFXUnicodeString& name, ZFXISpecObject_var& feature,

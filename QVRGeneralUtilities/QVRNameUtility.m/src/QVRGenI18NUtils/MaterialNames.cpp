@@ -22,7 +22,7 @@ std::optional<ZFXUnicodeString> MaterialNameOf(const ZFXISpecObject_var& materia
     return std::nullopt;
 }
 
-/// The listed materials by name. Requests each name once, and no name after that of a material without one.
+/// The listed materials by name. Requests each name at most once. Counting stops at the first material without a name.
 class ListedMaterials {
 public:
     explicit ListedMaterials(const ZFXListValZFXISpecObject_var& materials) : m_materials(materials) {}
@@ -37,8 +37,8 @@ public:
     /// Records the name of the material that was listed last.
     void SetNameOfLast(const ZFXUnicodeString& name) { m_names.emplace(m_materials.Size(), name); }
 
-    /// Returns the number of materials before a position whose name is `name`, which is also the name of the material
-    /// at the position or, one after the last, of a new material. Returns nothing if one of them has no name.
+    /// Returns how many of the materials before a position have the name, or nothing if one of them has no name.
+    /// @param name  the name of the material at the position; of a new material if the position is one after the last
     std::optional<int> CountBefore(int position, const ZFXUnicodeString& name) {
         for (; m_counted < position - 1; ++m_counted) {
             const std::optional<ZFXUnicodeString>& next = NameAt(m_counted + 1);

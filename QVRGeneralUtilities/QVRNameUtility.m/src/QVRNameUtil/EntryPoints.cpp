@@ -11,7 +11,7 @@
 
 namespace {
 
-/// Returns the case, or the current case if the handle is empty. Returns an empty handle if there is no case.
+/// Returns the case or, if the handle is empty, the current case. Returns an empty handle if no case is current.
 ZFXISamAnalysisCase_var ThisOrCurrent(const ZFXISamAnalysisCase_var& analysisCase) {
     ZFXISamAnalysisCase_var current;
     if (analysisCase != nullptr)

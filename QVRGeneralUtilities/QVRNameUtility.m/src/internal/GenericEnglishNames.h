@@ -5,8 +5,8 @@
 
 #include <unordered_map>
 
-/// The generic English names of features: the late type, "-" and the index among the members of the father. Lists the
-/// members of each father once.
+/// The generic English names of features: the late type, "-" and the index (from 1) among the members of the father.
+/// Lists the members of each father once.
 class GenericEnglishNames {
 public:
     /// Sets `name` to the generic English name of a feature. Fails as QVRGenI18NUtils::GetGenericEnglishName does.
@@ -14,7 +14,7 @@ public:
 
 private:
     struct Members {
-        ZFXBaseUnknown_var father;         // keeps the father alive, so that its address stays unique
+        ZFXBaseUnknown_var father;         // a reference, so that no other object gets the address
         ZFXListValZFXISpecObject_var list; // empty if the members cannot be listed
         std::unordered_map<const ZFXBaseUnknown*, int> positions;
     };

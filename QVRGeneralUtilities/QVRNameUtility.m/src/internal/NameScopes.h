@@ -10,8 +10,8 @@
 #include <optional>
 #include <variant>
 
-/// The scopes of names: which features a name is compared with, and which names are counted for a proposal. Nothing
-/// here registers an error or prints: a failure is part of the result.
+/// The scopes of names: which features a name is compared with, and which features are counted for a proposal. No
+/// function registers an error or prints: a failure is part of the result.
 namespace NameScopes {
 
 // ---- Checks: the features that a name is compared with ----
@@ -82,7 +82,7 @@ Decision ComparisonFailed(const Scope& scope, MessageId comparison, const ZFXBas
 // ---- Proposals: the features whose names are counted ----
 
 enum class ProposalKind { Step, Property, PropagatingObject };
-/// Returns the kind of scope that a proposal for a feature has. Amplitudes are properties.
+/// Returns the kind of scope in which a name for the feature is proposed. Amplitudes are treated like properties.
 [[nodiscard]] ProposalKind ProposalKindOf(ZFXISpecObject_var& feature);
 
 /// Appends the steps of a case except the first.

@@ -32,7 +32,7 @@ public:
     Decision Compare(const ZFXBaseUnknown_var& self, const ZFXUnicodeString& name) const;
 
 private:
-    /// Not noexcept: the library of GCC then stores the hash of each name instead of computing it at each comparison.
+    /// Not noexcept: GCC's standard library then stores the hash of each name instead of computing it repeatedly.
     struct HashOfName {
         std::size_t operator()(const ZFXUnicodeString* name) const { return name->HashIgnoringCase(); }
     };
