@@ -19,12 +19,12 @@ public:
     AnalysisServices() = default;
     AnalysisServices(const AnalysisServices&) = delete;
     AnalysisServices& operator=(const AnalysisServices&) = delete;
-    /// Uninstalls the services if they are installed.
+    /// Uninstalls the services if they are still installed.
     virtual ~AnalysisServices();
 
     /// Installs the services of the process. They replace those installed before.
-    /// @param services  [borrowed] Must be uninstalled before it is destroyed: the destructor of the derived class runs
-    ///                  before that of this class uninstalls it. Null uninstalls.
+    /// @param services  the services, or null to uninstall. [borrowed] Uninstall them before you destroy them: the
+    ///                  destructor of this class also uninstalls them, but only after that of the derived class.
     static void Install(AnalysisServices* services) noexcept;
     /// Returns the installed services, or null if there are none. [borrowed]
     [[nodiscard]] static AnalysisServices* Installed() noexcept;

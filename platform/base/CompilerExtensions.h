@@ -1,19 +1,19 @@
 #pragma once
 
-// The extensions of compilers that the sources use, each with a portable form. No other file contains one: `./dev lint`
+// The compiler extensions that the sources use, each with a portable form. No other file contains one: `./dev lint`
 // checks this. A build that defines ZFX_NO_COMPILER_EXTENSIONS uses the portable forms with every compiler.
 
 #if defined(__GNUC__) && !defined(ZFX_NO_COMPILER_EXTENSIONS)
-/// Expands to its arguments if the compiler has the extensions of GNU.
+/// Expands to its arguments if the compiler has the GNU extensions, otherwise to nothing.
 #define ZFX_GNU(...) __VA_ARGS__
-/// Follows a number type: the type becomes a vector of `bytes` bytes. Not defined without the extensions.
+/// Written after a number type, makes it a vector of `bytes` bytes. Not defined without the extensions.
 #define ZFX_VECTOR(bytes) __attribute__((vector_size(bytes)))
 #else
 #define ZFX_GNU(...)
 #endif
 
-/// Exports a symbol from the shared library that is compiled, imports it from another one, or hides it from others.
-/// Without the extensions, a library on ELF exports all its symbols. Windows has no portable form.
+/// Exports a symbol from the shared library that is compiled, imports it from another library, or hides it from other
+/// libraries. Without the extensions, a library on ELF exports all its symbols. On Windows there is no portable form.
 /// @{
 #ifdef _WIN32
 #define ZFX_EXPORT __declspec(dllexport)
@@ -26,11 +26,11 @@
 #endif
 /// @}
 
-/// Prevents that calls of a function are inlined.
+/// Prevents the inlining of a function.
 #define ZFX_NOINLINE ZFX_GNU(__attribute__((noinline)))
 /// Marks a function that is rarely called.
 #define ZFX_COLD ZFX_GNU(__attribute__((cold)))
-/// Reads a thread-local variable of a shared library without a function call.
+/// Makes a thread-local variable of a shared library accessible without a function call.
 #define ZFX_INITIAL_EXEC ZFX_GNU(__attribute__((tls_model("initial-exec"))))
 
 /// Loads the memory at an address, which can be invalid, into the caches of the processor.

@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-/// The sections of docs/bind-a-host.md that the sentences of a report name.
+/// The headings of the sections of docs/bind-a-host.md to which reports refer.
 namespace Section {
 inline constexpr const char* kCasts = "Objects and their interfaces";
 inline constexpr const char* kLink = "Link the library";
@@ -21,23 +21,23 @@ inline constexpr const char* kErrors = "Messages, errors, locale, caches, thread
 struct ProbedInterface {
     const char* name;
     IID iid;
-    /// Returns true if the object has the interface at this address.
+    /// Returns true if the interface pointer of the object has this address.
     bool (*isAt)(ZFXBaseUnknown* address);
 };
 /// All interfaces, the root first.
 extern const std::vector<ProbedInterface> kProbedInterfaces;
 
-/// Calls a host in a way that survives its faults, and reports them.
+/// Makes calls to a host and reports faults. Continues after an exception or a missing reference.
 class HostProbe {
 public:
     explicit HostProbe(std::vector<std::string>& report) : m_report(report), m_before(report.size()) {}
 
-    /// Appends a sentence to the report, unless it is the last one already.
+    /// Appends a sentence to the report, unless this probe appended it last.
     void Report(const std::string& operation, const std::string& fault, const char* section);
     /// Returns the number of sentences that this probe appended.
     int Faults() const { return static_cast<int>(m_report.size() - m_before); }
 
-    /// Makes a call. Reports an exception; returns false then.
+    /// Makes a call. If it throws, reports the exception and returns false; otherwise returns true.
     template <class Call>
     bool Run(const char* operation, Call call) {
         try {
@@ -49,7 +49,7 @@ public:
         }
     }
 
-    /// Makes a call that is marked [new reference], twice. Reports if the result has no new reference or more than one.
+    /// Makes a call that is marked [new reference], twice. Reports a result with no new reference or more than one.
     /// Returns the result with a reference of the probe, or an empty handle if the call returned null or threw.
     template <class Interface, class Call>
     ZFXHandle<Interface> NewReference(const char* operation, Call call) {

@@ -40,7 +40,7 @@ bool Contains(const List& list, const ZFXBaseUnknown_var& object) {
     return std::find(list.begin(), list.end(), object) != list.end();
 }
 
-/// Reports an entry of a list that is null.
+/// Reports a null entry in a list.
 template <class List>
 void CheckEntries(const Subject& subject, const char* operation, const List& list) {
     if (std::find(list.begin(), list.end(), nullptr) != list.end())
@@ -313,7 +313,7 @@ void CheckObject(Subject subject) {
                        Section::kOwnership);
 }
 
-/// Makes a request to the services, which sets `result`. Reports a success without a result.
+/// Makes a request to the services that sets `result`. Reports a request that succeeds without a result.
 template <class Result, class Request>
 void CheckResult(HostProbe& probe, const char* operation, const Result& result, Request request) {
     HRESULT code = S_OK;

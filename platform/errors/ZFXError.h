@@ -50,15 +50,15 @@ public:
     [[nodiscard]] static HRESULT GetReturn(int type, ZFXError* error, ZFXBaseUnknown* object, const char* sourceFile,
                                            int sourceLine);
     /// Returns the error that this thread registered under the code, or null if there is none. The error is valid until
-    /// the next GetReturn of this thread. `object` is ignored. [borrowed]
+    /// the next GetReturn or ReleaseRegistered of this thread. `object` is ignored. [borrowed]
     [[nodiscard]] static ZFXError* ZFXGetLastError(HRESULT code, ZFXBaseUnknown* object);
     /// Returns the error that this thread registered last, or null if there is none. The error is valid until the next
     /// GetReturn or ReleaseRegistered of this thread. [borrowed]
     [[nodiscard]] static ZFXError* Latest();
-    /// Releases all errors that this thread registered. Their codes lead to no error from now on.
+    /// Releases all errors that this thread registered. Afterwards ZFXGetLastError returns null for their codes.
     static void ReleaseRegistered();
-    /// Returns the number of platform objects that this thread has created with new and that were not destroyed,
-    /// without the registered errors. It is 0 in a test that released all objects of its host.
+    /// Returns the number of platform objects that this thread has created with new and that still exist, without the
+    /// registered errors. After a test has released all objects, the number is 0.
     [[nodiscard]] static long LiveObjects();
     /// The number of errors that the registry of a thread keeps.
     static constexpr int kRegistered = 32;

@@ -56,7 +56,7 @@ public:
     /// Casts to the interface of this name, such as "ZFXIAlias". Results are those of the cast by identifier; a name
     /// that is null or unknown gives E_NOINTERFACE.
     virtual HRESULT QueryInterface(const char* interfaceName, void** interfacePointer);
-    /// An object that is not destroyed by Release must have no references except its first.
+    /// An object that is not destroyed by Release, such as one on the stack, must have only its first reference.
     virtual ~ZFXBaseUnknown();
     /// Returns the meta class of the object's class. [borrowed]
     virtual ZFXMetaClass* GetMetaObject() const;

@@ -29,8 +29,8 @@ class ZFXHandle {
     // True if a pointer to Derived converts to a pointer to Base, constant or not.
     template <class Derived, class Base>
     static constexpr bool kDerivesFrom = std::is_convertible_v<const volatile Derived*, const volatile Base*>;
-    // True for the class of an object with interfaces as bases. An extension can take precedence over such a base, so
-    // the interface cast finds the interface.
+    // True for ZFXObject and its derived classes, whose bases are interfaces. A pointer to one is not converted to a
+    // base but cast, because an extension can take precedence over the base.
     template <class Other>
     static constexpr bool kIsObject = kDerivesFrom<Other, ZFXObject>;
     template <class Other>
@@ -38,7 +38,7 @@ class ZFXHandle {
     // Accepts constant objects too, so that overload resolution prefers it to the comparison of two raw pointers.
     template <class Other>
     using Comparison = std::enable_if_t<kDerivesFrom<Other, ZFXBaseUnknown> || kIsObject<Other>, bool>;
-    // The base of an object that leads to one root; its interfaces lead to others.
+    // The type that has exactly one root: for an object with interfaces ZFXObject, because each interface has a root.
     template <class Other>
     using Rooted = std::conditional_t<kIsObject<Other>, ZFXObject, Other>;
 

@@ -6,15 +6,15 @@
 
 #include <type_traits>
 
-/// Returns the root of an object with one more reference, which the caller owns; null for null. An operation marked
-/// [new reference] returns the result: `return ZFXNewReference(m_father);`
+/// Returns the root of an object with a new reference for the caller, or null for null. Use it in operations that are
+/// marked [new reference]: `return ZFXNewReference(m_father);`
 template <class Object>
 [[nodiscard]] ZFXBaseUnknown* ZFXNewReference(Object* object) {
     return ZFXBaseUnknown_var(object).Detach();
 }
 
-/// What all interfaces of one object share: the reference count, the identity and the late type. A host derives the
-/// class of its document nodes from it, and passes that class to ZFXImplements.
+/// The part of an object that all its interfaces share: the reference count, the identity and the late type. A host
+/// derives the class of its document nodes from ZFXObject and passes that class to ZFXImplements.
 class ZFXObject : public ZFXBaseUnknown {
 public:
     /// Creates an object with one reference.
