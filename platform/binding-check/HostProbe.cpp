@@ -4,8 +4,8 @@
 
 namespace {
 
-/// Returns true if `address` is that of the object's base `Interface`. A faulty QueryInterface can return the address of
-/// another base; dynamic_cast finds the right one through the type information of the object.
+/// Returns true if `address` is that of the object's base `Interface`. A faulty QueryInterface can return the address
+/// of another base; dynamic_cast finds the right one through the type information of the object.
 template <class Interface>
 bool IsAt(ZFXBaseUnknown* address) {
     return static_cast<void*>(dynamic_cast<Interface*>(address)) == static_cast<void*>(address);

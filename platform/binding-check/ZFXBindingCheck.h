@@ -10,9 +10,9 @@ class ZFXBaseUnknown;
 // Checks of a host's binding. Call them when the host starts, in its tests, or from a debugger. They make the requests
 // that the naming module makes, so call them on the thread of the document. They change no document.
 //
-// Each function appends one sentence to `report` for each fault. The sentence names the operation, what is wrong, and the
-// section of docs/bind-a-host.md that explains the rule. Returns the number of appended sentences; 0 means no fault.
-// Exceptions from the host are caught and reported.
+// Each function appends one sentence to `report` for each fault. The sentence names the operation, what is wrong, and
+// the section of docs/bind-a-host.md that explains the rule. Returns the number of appended sentences; 0 means no
+// fault. Exceptions from the host are caught and reported.
 
 /// Checks an object of a document: its interface casts, its identity, its reference count, the ownership of what its
 /// operations return, and whether these results lead to the objects that the name rules need: the sets, the history or
@@ -26,7 +26,8 @@ ZFX_PLATFORM_EXPORT int ZFXCheckBinding(ZFXBaseUnknown* object, std::vector<std:
 /// Checks that AnalysisServices are installed, and that their results for the current document are complete.
 ZFX_PLATFORM_EXPORT int ZFXCheckServices(std::vector<std::string>& report);
 
-/// Checks that the naming module is loaded, that it guards each guarded late type, and that its message catalog is found.
+/// Checks that the naming module is loaded, that it guards each guarded late type, and that its message catalog is
+/// found.
 ZFX_PLATFORM_EXPORT int ZFXCheckModule(std::vector<std::string>& report);
 
 /// Checks that an object has no references except those of the host. Call it before the host closes the document. The

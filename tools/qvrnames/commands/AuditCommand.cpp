@@ -16,7 +16,7 @@
 
 namespace {
 
-/// Returns the files to audit: the arguments, with the files "*.json" in and below a folder, by name, in its place.
+/// Returns the files to audit: the arguments, with each folder replaced by the files "*.json" in and below it, sorted.
 std::vector<std::string> FilesOf(const std::vector<std::string>& arguments) {
     std::vector<std::string> files;
     for (const std::string& argument : arguments) {
@@ -107,7 +107,7 @@ void PrintSummary(const std::vector<DocumentReport>& reports, const AuditRequest
     console.out << '\n';
 }
 
-/// Prints what a user must notice in every format: why a document is unusable, and warnings.
+/// Prints to standard error, for every format: why the document is unusable and, unless strict, the warnings.
 void PrintNotices(const DocumentReport& report, const AuditRequest& request, Console console) {
     if (!report.error.empty())
         console.err << "qvrnames: " << Printable(report.error) << '\n';

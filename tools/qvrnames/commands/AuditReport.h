@@ -26,10 +26,10 @@ struct ReportedFinding {
 };
 
 // Rules without a message in the catalog.
-inline constexpr const char* kRequestFailed = "RequestFailed";         ///< a check without an error object
+inline constexpr const char* kRequestFailed = "RequestFailed";         ///< a check that failed without an error object
 inline constexpr const char* kDuplicateDeckName = "DuplicateDeckName"; ///< two objects have one name in the deck
 inline constexpr const char* kDeckCharacter = "DeckCharacter";         ///< a character with a meaning in the deck
-inline constexpr const char* kUnknownType = "UnknownLateType";         ///< a late type that the library does not know
+inline constexpr const char* kUnknownType = "UnknownLateType";         ///< an unknown late type, see KnownLateTypes
 
 /// The result for one document.
 struct DocumentReport {
@@ -41,11 +41,11 @@ struct DocumentReport {
     std::vector<ReportedFinding> warnings;   ///< unknown late types, and characters with a meaning in the deck
 };
 
-/// Audits a document. An unusable document is part of the report.
+/// Audits a document. If it is unusable, the report contains only the file and the error.
 [[nodiscard]] DocumentReport AuditFile(const std::string& file, bool withDeck);
 
-/// Returns the findings that make the audit of a document fail: refusals, deck faults and, if strict, warnings.
+/// Returns the findings that make the audit of a document fail: refusals, deck faults and, if `isStrict`, warnings.
 [[nodiscard]] std::vector<const ReportedFinding*> FindingsOf(const DocumentReport& report, bool isStrict);
 
-/// Prints reports in one of the formats of AuditRequest::format but "text".
+/// Prints reports in the format of the request, which is not "text".
 void PrintReports(const std::vector<DocumentReport>& reports, const AuditRequest& request, std::ostream& out);

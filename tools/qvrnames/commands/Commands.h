@@ -21,8 +21,8 @@ struct Console {
 };
 
 struct CheckRequest {
-    std::vector<std::string> names; ///< "-": the names on standard input, one a line
-    std::string from;               ///< a file with further names, one a line; empty: none
+    std::vector<std::string> names; ///< "-": the names on standard input, one per line
+    std::string from;               ///< a file with further names, one per line; empty: none
     bool areFileNames = false;
 };
 int CheckNames(const CheckRequest& request, Console console);
@@ -36,8 +36,8 @@ struct AuditRequest {
     std::string newBaseline;            ///< the file to write all findings to; empty: none
     std::string format;                 ///< "text", "json", "sarif" or "junit"; empty: that of the console
 };
-/// Audits the documents in the order of the arguments. The result is kBadInput if one is unusable, else kRefused if
-/// there are findings.
+/// Audits the documents in the order of the arguments. Returns kBadInput if a document is unusable; otherwise kRefused
+/// if there are findings, else kSuccess.
 int AuditDocuments(const AuditRequest& request, Console console);
 
 int ShowDeck(const std::string& document, Console console);
@@ -59,7 +59,7 @@ struct RenameRequest {
 };
 int RenameFeature(const RenameRequest& request, Console console);
 
-/// Prints cause, example and fix of a message or rule; lists all of them if `id` is empty.
+/// Prints the cause of a message or rule, an example, and the fix. Lists all messages and rules if `id` is empty.
 int ExplainRule(const std::string& id, Console console);
 
 struct ImportRequest {

@@ -3,6 +3,6 @@
 #include <string>
 #include <vector>
 
-/// Returns the late types that the library knows: those of the tables in facts/, and the default types of the objects
-/// in a document file. Documents may contain others.
+/// Returns the late types in the tables of facts/, and the default types of the objects in a document file. Documents
+/// may contain other types.
 [[nodiscard]] const std::vector<std::string>& KnownLateTypes();

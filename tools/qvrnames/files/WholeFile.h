@@ -10,9 +10,9 @@
 /// cannot be read or is larger than kMaxDocumentBytes.
 [[nodiscard]] std::string ReadWholeFile(const std::string& path);
 
-/// Excludes the file from other calls of LockFile, in any process, until the returned object is destroyed or the
-/// process ends. Waits for the current owner of the lock. The content of the file can be read and replaced. If `path`
-/// is a symbolic link, its target is locked. Throws BadInput if the file does not exist or cannot be locked.
+/// Locks a file until the returned object is destroyed or the process ends. Other calls of LockFile for this file, in
+/// any process, wait until then. The lock does not prevent reading or replacing the content. If `path` is a symbolic
+/// link, its target is locked. Throws BadInput if the file does not exist or cannot be locked.
 [[nodiscard]] std::shared_ptr<void> LockFile(const std::string& path);
 
 /// Replaces the content of a file, or creates the file. The bytes are written to a temporary file in the same folder,

@@ -149,7 +149,7 @@ std::shared_ptr<void> LockFile(const std::string& path) {
         lastByte.Offset = lastByte.OffsetHigh = 0x7FFFFFFF;
         if (LockFileEx(*file, LOCKFILE_EXCLUSIVE_LOCK, 0, 1, 0, &lastByte) == 0)
             ThrowFileError(path, "locked");
-        // The former owner of the lock may have replaced the file: the lock is then on a file that has lost this path.
+        // The former owner of the lock may have replaced the file; then the locked file no longer has this path.
         const FileHandle current(OpenExisting(name, GENERIC_READ));
         if (current.IsOpen() && IsSameFile(*file, current))
             return file;
