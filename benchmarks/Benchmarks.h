@@ -5,12 +5,12 @@
 
 class Results;
 
-/// What is measured. Returns false if the result is wrong.
+/// A function that is measured. Returns false if its result is wrong.
 using Operation = std::function<bool()>;
 
 /// Registers an operation for the measurement of its time, its instructions and its requests.
 /// @param prepare     returns the operation; called before each measurement and not measured
-/// @param iterations  number of runs per measurement of time; 0: as many as the benchmark library needs
+/// @param iterations  number of runs per measurement of time; 0: the benchmark library chooses it
 void RegisterOperation(const std::string& name, const std::function<Operation()>& prepare, int iterations = 0);
 
 /// Each function registers the operations of the source file with its name.

@@ -17,7 +17,7 @@ Objects FirstObjects(int n) {
     return {features.begin(), features.end()};
 }
 
-/// Names all objects, so that the singleton knows them. Returns true if all have a name.
+/// Names all objects, which adds them to the lists of the singleton. Returns true if all have a name.
 bool NameAll(NamingOperation naming, const Objects& objects) {
     ZFXUnicodeString name;
     bool areNamed = true;
@@ -26,8 +26,8 @@ bool NameAll(NamingOperation naming, const Objects& objects) {
     return areNamed;
 }
 
-/// Names ten of n known objects. `first` has named them before. For features that is GetGenericEnglishFeatureName:
-/// GetFeatureName compares each display name with those of all known features.
+/// Names ten of n known objects. Before that, `first` names all n objects. For features, `first` is
+/// GetGenericEnglishFeatureName, because GetFeatureName compares each display name with those of all known features.
 Operation NameKnown(NamingOperation naming, NamingOperation first, int n) {
     const Objects objects = FirstObjects(n);
     QVRGenI18NUtils::Instance()->ResetAllLists();
@@ -38,7 +38,7 @@ Operation NameKnown(NamingOperation naming, NamingOperation first, int n) {
     return [naming, ten] { return NameAll(naming, ten); };
 }
 
-/// Names n objects that the singleton does not know.
+/// Names n objects that are not in the lists of the singleton.
 Operation NameNew(int n) {
     return [objects = FirstObjects(n)] {
         QVRGenI18NUtils::Instance()->ResetAllLists();

@@ -14,7 +14,7 @@ public:
     HeapCounter(const HeapCounter&) = delete;
     HeapCounter& operator=(const HeapCounter&) = delete;
 
-    /// Returns the number of blocks allocated since the constructor, including those freed again.
+    /// Returns the number of blocks allocated since the constructor, including those that were freed.
     static long Blocks() noexcept;
     /// Returns the bytes allocated since the constructor and not freed: the usable size of each block and its header.
     static long Bytes() noexcept;

@@ -20,7 +20,7 @@ Command UnderCallgrind(const Path& file, const Command& command, const Command& 
     return counted;
 }
 
-/// Reads a dump. If an operation triggered it, `name` is replaced by that of the operation.
+/// Reads a dump. If an operation triggered the dump, its name is used instead of `name`.
 void ReadDump(const Path& file, std::string name, Results& results) {
     const std::string kTrigger = "desc: Trigger: Client Request: ";
     const std::string kTotals = "totals: ";
@@ -42,7 +42,7 @@ void CountInstructions(const std::string& benchmarks, const std::string& filter,
                        const Path& folder, Results& results) {
     std::filesystem::remove_all(folder);
     std::filesystem::create_directories(folder);
-    // All processes run in parallel, because their number does not change what they count.
+    // The processes run in parallel, which does not change their counts.
     std::vector<std::pair<const Program*, Process>> counted;
     for (const Program& program : programs)
         if (std::regex_search(program.name, std::regex(filter)))

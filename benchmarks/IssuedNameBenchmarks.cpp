@@ -43,7 +43,7 @@ Operation IssueAmong(int n) {
 } // namespace
 
 void RegisterIssuedNameBenchmarks() {
-    // Each run lengthens the list, so their number is limited.
+    // Each run makes the list longer, so the number of runs is limited.
     for (const int n : {100, Scopes::kLargest})
         RegisterOperation(
             BenchmarkName("IssueName", n), [n] { return IssueAmong(n); }, 10);

@@ -2,7 +2,7 @@
 
 #include <regex>
 
-/// Registers the operations at the benchmark library, which measures their times.
+/// Registers the operations with the benchmark library, which measures their times.
 void RegisterTimes();
 
 /// Runs each operation whose name matches the filter twice and writes a dump of callgrind about the second run. The

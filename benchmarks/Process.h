@@ -7,10 +7,10 @@
 /// A program and its arguments.
 using Command = std::vector<std::string>;
 
-/// A child process. Its output is discarded, except errors.
+/// A child process. Its standard output is discarded.
 class Process {
 public:
-    /// Starts a program, which is searched in PATH if its name contains no slash.
+    /// Starts a program. If its name contains no slash, it is searched for in PATH.
     explicit Process(Command command);
     /// Waits for the end of the process. Returns its exit code, or -1 if it did not start or was killed.
     int Wait() const;

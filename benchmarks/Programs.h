@@ -16,5 +16,5 @@ using Programs = std::vector<Program>;
 
 /// Writes the documents to the folder. Returns the runs of qvrnames on them, and runs that only load them.
 Programs WriteDocuments(const std::filesystem::path& folder);
-/// Registers the programs at the benchmark library, which measures their CPU times.
+/// Registers the programs with the benchmark library, which measures their CPU times.
 void RegisterTimes(const Programs& programs);

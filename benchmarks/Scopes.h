@@ -22,7 +22,7 @@ const char* LabelOf(AliasSource from);
 MemoryModel& Model();
 /// Returns a new, empty document of the model.
 MemoryDocument NewDocument();
-/// Appends `count` features to a set: the base followed by 1, 2 and so on.
+/// Appends `count` features to a set. Their names are the base followed by 1, 2 and so on.
 void Fill(MemoryFeature set, const char* lateType, const ZFXUnicodeString& base, int count);
 /// Returns the base followed by the number in decimal digits.
 ZFXUnicodeString NumberedName(const ZFXUnicodeString& base, int number);
