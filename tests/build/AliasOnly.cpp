@@ -1,4 +1,4 @@
-// A program that uses the module only through ZFXIAlias, so none of the module's symbols. It returns 0 if the alias is
+// A program that uses the module only through ZFXIAlias, and therefore none of its symbols. Returns 0 if the alias is
 // guarded.
 #include "memory-model/MemoryModel.h"
 

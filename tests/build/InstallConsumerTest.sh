@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # Installs the build and moves the copy. Builds two programs against the copy alone, with CMake, with pkg-config and
 # with the command in docs/packaging.md: that of the README, whose output it compares with the page, and alias-only,
-# which must be guarded although it uses no symbol of the module.
+# whose alias must be guarded although it uses no symbol of the module.
 # Usage: InstallConsumerTest.sh README BUILD VERSION GENERATOR COMPILER CMAKE_OPTION [EMULATOR]
 # An emulator runs programs for another system, for which there is no pkg-config.
 # shellcheck source=tests/support/checks.sh disable=SC2016  # the variable is CMake's

@@ -40,7 +40,7 @@ TEST_F(EntryPointsTest, UniquenessIsCheckedBeforeTheText) {
     EXPECT_EQ(CheckName(feature, Repeated('y', 80), 1), kDuplicate) << "a name that clashes and is too long";
 }
 
-/// Proposes five names for a feature at once and one after the other, and expects equal names. Each proposed name is
+/// Proposes five names for a feature in one call and in five calls, and expects equal names. Each proposed name is
 /// given to a new feature.
 TEST_F(EntryPointsTest, BatchEqualsSingleProposalsThatAreUsed) {
     MemoryFeature analysisCase = document.Case("Case");

@@ -33,7 +33,7 @@ TEST_F(MaterialNamesTest, NumberIsTheCountOfEarlierMaterialsWithTheName) {
     EXPECT_EQ(NameBy(kMaterial, steel), "Iron-2") << "no material is before it";
 }
 
-/// Names random materials, some of them twice and some without a name, at once and one after the other.
+/// Names random materials in one call and in single calls. Some occur twice, and some have no name.
 TEST_F(MaterialNamesTest, BatchEqualsSingleCalls) {
     std::mt19937 random(7);
     for (int run = 0; run < 200; ++run) {

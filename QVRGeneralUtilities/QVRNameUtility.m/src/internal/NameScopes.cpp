@@ -278,7 +278,7 @@ Decision AppendProperties(const ZFXISamAnalysisCase_var& analysisCase, List& fea
         return Decision::Broken(MessageId::ErrorAnalysisModelErr_0004);
     const ZFXISamAnalysisScan_var scan(model);
     List found;
-    if (scan != nullptr) // the list counts, not the code
+    if (scan != nullptr) // the list is used even after a failure
         std::ignore =
             scan->FindObjectsOfType(Vocabulary::QVRTarnisPropertySetLT, found, ZFXISamAnalysisScan::kScanMode);
     const ZFXISamAnalysisSet_var propertySet(found.Size() == 0 ? ZFXBaseUnknown_var() : found[1]);
@@ -301,9 +301,9 @@ Decision AppendMeshParts(const ZFXISpecObject_var& meshPart, List& features) {
 
 ZFXListValZFXISpecObject_var AllJobs() {
     List cases;
-    std::ignore = QVRAnalysisDocUtils::GetAllAnalysisCases(cases, nullptr); // the list counts, not the code
+    std::ignore = QVRAnalysisDocUtils::GetAllAnalysisCases(cases, nullptr); // the list is used even after a failure
     ZFXListValZFXISpecObject_var jobs;
-    std::ignore = QVRAnalysisDocUtils::GetJobs(cases, jobs); // the list counts, not the code
+    std::ignore = QVRAnalysisDocUtils::GetJobs(cases, jobs); // the list is used even after a failure
     return jobs;
 }
 
