@@ -75,16 +75,16 @@ class ZFXImplements : public Object, public Interfaces... {
 public:
     using Object::Object;
 
-    /// Offers the interface of an extension of the late type, else that of the object.
+    /// Returns the interface of an extension of the late type or, if there is none, that of the object.
     HRESULT QueryInterface(const IID& iid, void** interfacePointer) override {
         return this->Cast(iid, OwnInterface(iid), interfacePointer);
     }
-    /// Offers the interface with this name.
+    /// Casts to the interface of this name.
     HRESULT QueryInterface(const char* interfaceName, void** interfacePointer) override {
         return Object::QueryInterface(interfaceName, interfacePointer);
     }
-    ULONG AddRef() override { return Object::AddRef(); }   ///< Adds a reference on the object.
-    ULONG Release() override { return Object::Release(); } ///< Releases a reference on the object.
+    ULONG AddRef() override { return Object::AddRef(); }   ///< Adds a reference to the object.
+    ULONG Release() override { return Object::Release(); } ///< Removes a reference from the object.
     /// Returns the root interface. [borrowed]
     ZFXBaseUnknown* GetImpl() const override { return const_cast<ZFXImplements*>(this)->Root(); }
 

@@ -8,18 +8,18 @@
 #include <string>
 #include <vector>
 
-/// A file of known findings, which an audit ignores. A finding is known by its document, feature, name and rule, so
-/// that it stays known when other parts of the document change.
+/// A file of known findings, which an audit ignores. A finding is identified by its document, feature, name and rule,
+/// so that changes of other parts of the document do not matter.
 class Baseline {
 public:
-    /// Reads the file. Throws BadInput if it is no baseline.
+    /// Reads the file. Throws BadInput if it is not a baseline.
     explicit Baseline(const std::string& file);
     /// Writes all findings of the reports, warnings included. Throws BadInput if the file cannot be written.
     static void Write(const std::string& file, const std::vector<DocumentReport>& reports);
 
     /// Removes the known findings from a report.
     void RemoveKnown(DocumentReport& report);
-    /// Returns a description of each entry for one of the documents that was not found in it.
+    /// Returns a description of each entry that belongs to an audited document but was not found in it.
     [[nodiscard]] std::vector<std::string> Outdated(const std::vector<DocumentReport>& reports) const;
 
 private:

@@ -22,7 +22,7 @@
 /// Calls `visit` with the objects of a scope in their order, until it returns false.
 ///
 /// Prefetches each object a few calls ahead. Without this, a scan of a large scope whose objects are scattered in
-/// memory mostly waits for memory. The benchmarks of scattered features measure this.
+/// memory mostly waits for memory. docs/performance.md contains the measurements.
 template <class Visit>
 void ForEachPrefetched(const ZFXListValZFXBaseUnknown_var& scope, Visit visit) {
     constexpr std::ptrdiff_t kAhead = 6;
