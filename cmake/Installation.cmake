@@ -75,6 +75,7 @@ if(TARGET qvrnames)
   if(EXISTS ${PROJECT_SOURCE_DIR}/tools/qvrnames/completion/qvrnames.bash)
     install(FILES tools/qvrnames/completion/qvrnames.bash
       DESTINATION ${CMAKE_INSTALL_DATADIR}/bash-completion/completions RENAME qvrnames)
+    install(FILES tools/qvrnames/completion/_qvrnames DESTINATION ${CMAKE_INSTALL_DATADIR}/zsh/site-functions)
   endif()
 endif()
 
