@@ -30,6 +30,13 @@ std::uint32_t FindFeature(const LoadedDocument& loaded, const std::string& file,
     }
 }
 
+void WriteDocument(const std::string& bytes, const std::string& target, const std::string& model, Console console) {
+    if (target != kStandardStream)
+        ReplaceWholeFile(target, bytes, model);
+    else if (!console.out.write(bytes.data(), static_cast<std::streamsize>(bytes.size())).flush())
+        throw BadInput("the document cannot be written to standard output");
+}
+
 ZFXUnicodeString ToUnicode(const std::string& argument) {
     ZFXUnicodeString text(argument.c_str());
     if (text.ConvertToChar() != argument) // an ill-formed byte became U+FFFD

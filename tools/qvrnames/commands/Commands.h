@@ -77,6 +77,9 @@ int ImportTable(const ImportRequest& request, Console console);
 /// there are several, or if it is the analysis model, which cannot have a name.
 [[nodiscard]] std::uint32_t FindFeature(const LoadedDocument& loaded, const std::string& file,
                                         const std::string& reference);
+/// Writes a changed document to a file, or to standard output if `target` is "-". Throws BadInput on failure.
+/// @param model  the file whose permissions a new file gets
+void WriteDocument(const std::string& bytes, const std::string& target, const std::string& model, Console console);
 /// Converts an argument. Throws BadInput if it is not UTF-8.
 [[nodiscard]] ZFXUnicodeString ToUnicode(const std::string& argument);
 /// Returns the message of a refusal and, for a clash, the other feature.

@@ -33,3 +33,6 @@ struct Verdict {
 
 /// Returns the verdict for a finding of the naming module.
 [[nodiscard]] Verdict VerdictOf(const QVRNameFinding& finding, const EntriesByObject& entries);
+
+/// The base name of all jobs. GetUniqueNameForJob, which numbers jobs, uses it; CreateBaseName does not return it.
+inline constexpr const char* kJobBase = "Job-";

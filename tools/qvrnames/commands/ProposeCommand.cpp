@@ -19,9 +19,6 @@
 
 namespace {
 
-/// The base name of all jobs. GetUniqueNameForJob, which numbers jobs, uses it; CreateBaseName does not return it.
-constexpr const char* kJobBase = "Job-";
-
 bool IsJob(const ZFXISpecObject_var& feature) {
     return feature != nullptr && feature->GetLateType() == LateTypes::QVRJobLT;
 }

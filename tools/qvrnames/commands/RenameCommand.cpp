@@ -80,16 +80,6 @@ void PrintAsJson(const LoadedDocument& loaded, const std::string& feature, const
     PrintJson(console.out, json);
 }
 
-/// Writes the changed document to the file or to standard output.
-void WriteDocument(const std::string& bytes, const RenameRequest& request, const std::string& target, Console console) {
-    if (target != kStandardStream) {
-        ReplaceWholeFile(target, bytes, request.document);
-        return;
-    }
-    if (!console.out.write(bytes.data(), static_cast<std::streamsize>(bytes.size())).flush())
-        throw BadInput("the document cannot be written to standard output");
-}
-
 } // namespace
 
 int RenameFeature(const RenameRequest& request, Console console) {
@@ -109,7 +99,7 @@ int RenameFeature(const RenameRequest& request, Console console) {
     const bool needsOutput = outcome.newName != outcome.oldName || !request.output.empty() || target == kStandardStream;
     const bool mustWrite = !outcome.isRefused && needsOutput;
     if (mustWrite)
-        WriteDocument(TextWithName(*loaded, entry, outcome.newName), request, target, console);
+        WriteDocument(TextWithNames(*loaded, {{entry, outcome.newName}}), target, request.document, console);
     // Standard output contains either the document or the messages.
     const Console messages =
         target == kStandardStream ? Console{console.err, console.err, {}, console.isJson} : console;

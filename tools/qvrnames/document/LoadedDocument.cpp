@@ -2,6 +2,8 @@
 
 #include <nlohmann/json.hpp>
 
+#include <map>
+
 std::vector<std::uint32_t> NamedEntries(const LoadedDocument& loaded) {
     std::vector<std::uint32_t> named;
     for (std::uint32_t entry = 0; entry < loaded.entries.size(); ++entry)
@@ -26,21 +28,36 @@ std::size_t OffsetOf(const LoadedDocument& loaded, std::uint32_t entry, Document
     return offset;
 }
 
-std::string TextWithName(const LoadedDocument& loaded, std::uint32_t entry, const std::string& name) {
-    const JsonValue object = loaded.text.ValueAt(loaded.entries[entry].offset);
-    const std::string literal = nlohmann::json(name).dump();
-    std::string bytes = loaded.text.Bytes();
-    JsonValue firstKey;
-    JsonValue oldName;
-    object.ForEachMember([&](JsonValue key, JsonValue value) {
-        firstKey = firstKey ? firstKey : key;
-        if (key.Text() == SpellingOf(DocumentKey::Name))
-            oldName = value;
-    });
-    if (oldName)
-        return bytes.replace(oldName.Begin(), oldName.Literal().size(), literal);
-    const std::string member = nlohmann::json(SpellingOf(DocumentKey::Name)).dump() + ": " + literal;
-    if (firstKey)
-        return bytes.insert(firstKey.Begin(), member + ", ");
-    return bytes.insert(object.Begin() + 1, member);
+std::string TextWithNames(const LoadedDocument& loaded, const std::vector<EntryName>& names) {
+    struct Change {
+        std::size_t length; ///< of the replaced bytes
+        std::string bytes;
+    };
+    std::map<std::size_t, Change> changes; // by offset
+    for (const auto& [entry, name] : names) {
+        const JsonValue object = loaded.text.ValueAt(loaded.entries[entry].offset);
+        const std::string literal = nlohmann::json(name).dump();
+        JsonValue firstKey;
+        JsonValue oldName;
+        object.ForEachMember([&](JsonValue key, JsonValue value) {
+            firstKey = firstKey ? firstKey : key;
+            if (key.Text() == SpellingOf(DocumentKey::Name))
+                oldName = value;
+        });
+        const std::string member = nlohmann::json(SpellingOf(DocumentKey::Name)).dump() + ": " + literal;
+        if (oldName)
+            changes[oldName.Begin()] = {oldName.Literal().size(), literal};
+        else if (firstKey)
+            changes[firstKey.Begin()] = {0, member + ", "};
+        else
+            changes[object.Begin() + 1] = {0, member};
+    }
+    const std::string& former = loaded.text.Bytes();
+    std::string bytes;
+    std::size_t copied = 0;
+    for (const auto& [offset, change] : changes) {
+        bytes.append(former, copied, offset - copied).append(change.bytes);
+        copied = offset + change.length;
+    }
+    return bytes.append(former, copied);
 }

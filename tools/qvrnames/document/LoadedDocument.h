@@ -43,6 +43,12 @@ using EntriesByObject = std::unordered_map<const ZFXBaseUnknown*, std::uint32_t>
 /// Returns the offset of the value of the entry's key in the file, or of its JSON object if it lacks the key.
 [[nodiscard]] std::size_t OffsetOf(const LoadedDocument& loaded, std::uint32_t entry, DocumentKey key);
 
-/// Returns the text of the file with another name for one entry. All other bytes are unchanged. If the entry has no
+/// A new name of an entry.
+struct EntryName {
+    std::uint32_t entry;
+    std::string name;
+};
+/// Returns the text of the file with other names for some entries. All other bytes are unchanged. If an entry has no
 /// name yet, the key "name" is inserted before its other keys.
-[[nodiscard]] std::string TextWithName(const LoadedDocument& loaded, std::uint32_t entry, const std::string& name);
+/// @param names  at most one per entry
+[[nodiscard]] std::string TextWithNames(const LoadedDocument& loaded, const std::vector<EntryName>& names);
