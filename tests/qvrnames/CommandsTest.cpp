@@ -77,8 +77,8 @@ TEST_P(TranscriptTest, OutputIsUnchanged) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Each, TranscriptTest,
-                         ::testing::Values("audit", "check", "deck", "explain", "help", "import", "paths", "propose",
-                                           "rename", "reports", "terminals", "usage"),
+                         ::testing::Values("audit", "check", "deck", "explain", "fix", "help", "import", "paths",
+                                           "propose", "rename", "reports", "terminals", "usage"),
                          [](const auto& transcript) { return transcript.param; });
 
 using Json = nlohmann::json;

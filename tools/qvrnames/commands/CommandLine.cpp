@@ -44,6 +44,7 @@ public:
         AddDeck();
         AddPropose();
         AddRename();
+        AddFix();
         AddExplain();
         AddImport();
     }
@@ -162,6 +163,18 @@ private:
                         "Write the changed document to this file and leave DOCUMENT unchanged.\n"
                         "\"-\" is stdout (default for stdin); messages go to stderr");
     }
+    void AddFix() {
+        CLI::App* app =
+            Add("fix", "Give every refused name in a document a legal and unique one.",
+                "fix pump.json\n         qvrnames fix pump.json --write\n\n"
+                "Exit status: 0 no name is refused, or all are fixed; 1 a name is left, or changes are not\n"
+                "written because --write is missing; 2 as for all commands.",
+                [this] { return FixNames(m_fix, m_console); });
+        AddDocument(app, m_fix.document);
+        app->add_flag("--write", m_fix.write,
+                      "Change the names in DOCUMENT (default: only print the changes).\n"
+                      "For stdin, write the document to stdout; messages go to stderr");
+    }
     void AddExplain() {
         CLI::App* app = Add("explain", "Print the cause of a message, an example, and the fix.",
                             "explain IllegalCharERR_01", [this] { return ExplainRule(m_explained, m_console); });
@@ -191,6 +204,7 @@ private:
     std::string m_deckDocument;
     ProposeRequest m_propose;
     RenameRequest m_rename;
+    FixRequest m_fix;
     std::string m_explained;
     ImportRequest m_import;
     std::function<int()> m_command;

@@ -59,6 +59,12 @@ struct RenameRequest {
 };
 int RenameFeature(const RenameRequest& request, Console console);
 
+struct FixRequest {
+    std::string document;
+    bool write = false; ///< replace the file, or write the document to standard output if it was read from a pipe
+};
+int FixNames(const FixRequest& request, Console console);
+
 /// Prints the cause of a message or rule, an example, and the fix. Lists all messages and rules if `id` is empty.
 int ExplainRule(const std::string& id, Console console);
 

@@ -23,12 +23,13 @@ _qvrnames() {
         esac
     done
     case $command in
-        '') options="$common --version" words='check audit deck propose rename explain import' ;;
+        '') options="$common --version" words='check audit deck propose rename fix explain import' ;;
         check) options="$common --file-name --from" ;;
         audit) options="$common --deck --strict --summary --format --baseline --write-baseline" ;;
         deck | explain) options=$common ;;
         propose) options="$common --base --job" ;;
         rename) options="$common --force --output" ;;
+        fix) options="$common --write" ;;
         import) options="$common --output" ;;
         *) return ;;
     esac

@@ -1,0 +1,264 @@
+// Fixes the names of a document in memory. Each round checks all names with one call, then changes refused ones: their
+// texts if a text is illegal, otherwise the numbers of names that clash. The former names are restored at the end.
+
+#include "commands/NameFixes.h"
+
+#include "LateTypes.h"
+#include "QVRBaseFeatureAlias.h"
+#include "QVRGenI18NUtils.h"
+#include "QVRGenZFXUnicodeStringUtils.h"
+#include "QVRNameUtil.h"
+#include "analysis/ZFXIAlias.h"
+
+#include <algorithm>
+#include <numeric>
+#include <tuple>
+
+namespace {
+
+using Entry = std::uint32_t;
+using NameFindings = ZFXListVal<QVRNameFinding>;
+using Strings = QVRGenZFXUnicodeStringUtils;
+
+/// The number of changes after which a name is left. One that can be fixed needs a few at most.
+constexpr int kMaxChanges = 10;
+
+constexpr const char* kOtherCause = "Another name would not remove the cause.";
+constexpr const char* kNoText = "Nothing legal remains of the name, and its type has no base name.";
+constexpr const char* kNoName = "No legal and unique name was found.";
+
+constexpr const char* kLeadingDigit = "LeadingDigitERR_01";
+constexpr const char* kAboveLatin1 = "DoubleByteCharErr_01";
+constexpr const char* kTextRules[] = {"NameLengthERR_01", "NameLengthERR_02", kLeadingDigit, "IllegalCharERR_01",
+                                      kAboveLatin1};
+
+struct Fix : NameFix {
+    bool isTextBroken = false; ///< the former name breaks a rule about its text
+    bool isNumbered = false;   ///< a number was appended to the name
+    int changes = 0;           ///< the number of changes so far
+};
+
+bool BreaksTextRule(const QVRNameFinding& finding) {
+    return std::ranges::any_of(kTextRules, [&](const char* id) { return finding.messageId == id; });
+}
+
+/// Returns true if two names clash. In a finding about a feature without a name, `other` has no alias.
+bool IsClash(const QVRNameFinding& finding) { return ZFXIAlias_var(finding.other) != nullptr; }
+
+ZFXUnicodeString BaseNameOf(ZFXISpecObject_var feature) {
+    ZFXUnicodeString base;
+    std::ignore = QVRNameUtil::CreateBaseName(feature, base); // empty if there is none
+    return base.IsNull() != 0 && feature->GetLateType() == LateTypes::QVRJobLT ? ZFXUnicodeString(kJobBase) : base;
+}
+
+/// Returns a name without the fault that a rule reports; empty if nothing remains. It may break another rule.
+ZFXUnicodeString Cleaned(const ZFXISpecObject_var& feature, ZFXUnicodeString name, const ZFXUnicodeString& rule) {
+    if (rule == kAboveLatin1)
+        std::ignore = QVRGenI18NUtils::Instance()->GetGenericEnglishFeatureName(feature, name);
+    name = Strings::ReplaceBackslashWithForwardslash(Strings::ReplacePeriodWithDash(name));
+    name = QVRBaseFeatureAlias::Trimmed(Strings::RemoveDoubleQuotes(name));
+    if (rule == kLeadingDigit) {
+        // The digits remain, because often only they distinguish two names. Generic names begin with the late type too.
+        const ZFXUnicodeString base = BaseNameOf(feature);
+        name = (base.IsNull() != 0 ? feature->GetLateType() + "-" : base) + name;
+    }
+    return QVRBaseFeatureAlias::Trimmed(Strings::TrucateToLegalLength(name));
+}
+
+/// Returns the base name for numbering a name that is in use: "Load-" for "Load-2" and for "Load". Shortens it so that
+/// any number can follow.
+ZFXUnicodeString NumberingBase(const ZFXUnicodeString& name) {
+    auto end = static_cast<std::size_t>(name.GetLengthInChar());
+    while (end > 0 && name[end - 1].IsDigit() != 0)
+        --end;
+    const bool isNumbered = end > 0 && name[end - 1] == '-';
+    const ZFXUnicodeString stem = isNumbered ? name.SubString(0, static_cast<int>(end) - 1) : name;
+    const ZFXUnicodeString longest = stem + "-2147483647";
+    const int excess = longest.GetLengthInChar() - Strings::TrucateToLegalLength(longest).GetLengthInChar();
+    return stem.SubString(0, stem.GetLengthInChar() - excess) + "-";
+}
+
+/// Finds the new names of a document.
+class NameFixer {
+public:
+    explicit NameFixer(const LoadedDocument& loaded)
+        : m_loaded(loaded), m_named(NamedEntries(loaded)), m_entryOf(IndexByObject(loaded)) {
+        for (const Entry entry : m_named)
+            m_features.Append(loaded.entries[entry].feature);
+    }
+
+    std::map<Entry, NameFix> Run() {
+        NameFindings findings = Check();
+        for (const QVRNameFinding& finding : findings) {
+            const Entry entry = m_entryOf.at(ZFXIdentityOf(finding.feature));
+            Fix& fix = m_fixes.try_emplace(entry, Fix{{VerdictOf(finding, m_entryOf), NameOf(entry)}}).first->second;
+            const bool isText = BreaksTextRule(finding);
+            fix.isTextBroken |= isText;
+            if (!isText && !IsClash(finding))
+                fix.obstacle = kOtherCause;
+        }
+        QVRGenI18NUtils::Instance()->ResetAllLists();
+        while (CleanTexts(findings) || NumberClashes(findings) || LeaveRest(findings))
+            findings = Check();
+        QVRGenI18NUtils::Instance()->ResetAllLists();
+        std::map<Entry, NameFix> fixes;
+        for (auto& [entry, fix] : m_fixes) {
+            fix.newName = NameOf(entry);
+            SetName(entry, fix.oldName);
+            fixes.emplace(entry, std::move(fix));
+        }
+        return fixes;
+    }
+
+private:
+    struct NumberRequest {
+        Entry entry;
+        ZFXUnicodeString base;
+    };
+
+    NameFindings Check() const {
+        NameFindings findings;
+        std::ignore = QVRNameUtil::CheckNames(m_features, findings); // always S_OK
+        return findings;
+    }
+
+    std::string NameOf(Entry entry) const { return m_loaded.entries[entry].feature.StoredAlias().ConvertToChar(); }
+    void SetName(Entry entry, const std::string& name) const {
+        MemoryFeature feature = m_loaded.entries[entry].feature;
+        feature.Alias(name.c_str());
+    }
+    /// Returns true if the name was refused and is not left.
+    bool CanChange(Entry entry) const {
+        const auto fix = m_fixes.find(entry);
+        return fix != m_fixes.end() && fix->second.obstacle == nullptr;
+    }
+
+    /// Changes a name in memory. After too many changes, leaves it.
+    void Change(Entry entry, const ZFXUnicodeString& name) {
+        if (++m_fixes.at(entry).changes > kMaxChanges)
+            Leave(entry, kNoName);
+        else
+            SetName(entry, name.ConvertToChar());
+    }
+    void Leave(Entry entry, const char* obstacle) {
+        Fix& fix = m_fixes.at(entry);
+        fix.obstacle = obstacle;
+        SetName(entry, fix.oldName);
+    }
+
+    /// Removes the faults in the texts of the names. Returns false if there are none.
+    bool CleanTexts(const NameFindings& findings) {
+        bool hasFaults = false;
+        std::vector<NumberRequest> requests;
+        for (const QVRNameFinding& finding : findings) {
+            const Entry entry = m_entryOf.at(ZFXIdentityOf(finding.feature));
+            if (!CanChange(entry) || !BreaksTextRule(finding))
+                continue;
+            hasFaults = true;
+            const ZFXUnicodeString cleaned = Cleaned(finding.feature, NameOf(entry).c_str(), finding.messageId);
+            const ZFXUnicodeString base = BaseNameOf(finding.feature);
+            if (cleaned.IsNull() == 0)
+                Change(entry, cleaned);
+            else if (base.IsNull() == 0)
+                requests.push_back({entry, base});
+            else
+                Leave(entry, kNoText);
+        }
+        AppendNumbers(requests);
+        return hasFaults;
+    }
+
+    /// Appends numbers to the names that clash, except the first of each group. Names that must not change come first,
+    /// then those whose text is legal, then the others, each in document order. Returns false if no such name clashes.
+    bool NumberClashes(const NameFindings& findings) {
+        std::vector<Entry> earlier(m_loaded.entries.size()); // of a group; the first refers to itself
+        std::iota(earlier.begin(), earlier.end(), Entry{0});
+        const auto first = [&](Entry entry) {
+            while (earlier[entry] != entry)
+                entry = earlier[entry] = earlier[earlier[entry]];
+            return entry;
+        };
+        const auto rank = [&](Entry entry) {
+            return std::pair(!CanChange(entry) ? 0 : m_fixes.at(entry).isTextBroken ? 2 : 1, entry);
+        };
+        for (const QVRNameFinding& finding : findings) {
+            const auto other = m_entryOf.find(ZFXIdentityOf(finding.other));
+            if (!IsClash(finding) || other == m_entryOf.end())
+                continue;
+            const auto [low, high] =
+                std::minmax({rank(first(m_entryOf.at(ZFXIdentityOf(finding.feature)))), rank(first(other->second))});
+            earlier[high.second] = low.second;
+        }
+        std::vector<NumberRequest> requests;
+        for (const Entry entry : m_named) {
+            if (first(entry) == entry || !CanChange(entry))
+                continue;
+            const MemoryFeature kept = m_loaded.entries[first(entry)].feature;
+            const ZFXUnicodeString name = kept.StoredAlias();
+            requests.push_back({entry, name.IsNull() != 0 ? BaseNameOf(kept) : NumberingBase(name)});
+        }
+        AppendNumbers(requests);
+        return !requests.empty();
+    }
+
+    /// Leaves the names for which nothing can be changed. Returns false if there are none.
+    bool LeaveRest(const NameFindings& findings) {
+        bool isLeft = false;
+        for (const QVRNameFinding& finding : findings)
+            if (const Entry entry = m_entryOf.at(ZFXIdentityOf(finding.feature)); CanChange(entry)) {
+                Leave(entry, kNoName);
+                isLeft = true;
+            }
+        return isLeft;
+    }
+
+    /// Sets each name to its base and the next number in the case. If the former number clashes with a name outside the
+    /// case, as with jobs, sets it to the next number in the document.
+    void AppendNumbers(const std::vector<NumberRequest>& requests) {
+        struct Group {
+            std::vector<Entry> entries;
+            ZFXListValZFXBaseUnknown_var scope; ///< only the features with this base, so that the time is linear
+        };
+        if (requests.empty())
+            return;
+        std::map<std::pair<Entry, std::string>, Group> groups; // by case and base
+        for (const auto& [entry, base] : requests) {
+            Fix& fix = m_fixes.at(entry);
+            groups[{fix.isNumbered ? DocumentEntry::kNone : CaseOf(entry), base.ConvertToChar()}].entries.push_back(
+                entry);
+            fix.isNumbered = true;
+        }
+        for (const Entry entry : m_named) {
+            const MemoryFeature feature = m_loaded.entries[entry].feature;
+            const std::string base = NumberingBase(feature.StoredAlias()).ConvertToChar();
+            for (const Entry scope : {CaseOf(entry), DocumentEntry::kNone})
+                if (const auto group = groups.find({scope, base}); group != groups.end())
+                    group->second.scope.Append(feature);
+        }
+        for (const auto& [key, group] : groups) {
+            ZFXUnicodeString base(key.second.c_str());
+            ZFXListValZFXUnicodeString names;
+            std::ignore = QVRNameUtil::GetNextUniqueNames(base, group.scope, static_cast<int>(group.entries.size()),
+                                                          names); // S_OK, because there is an entry
+            for (std::size_t i = 0; i < group.entries.size(); ++i)
+                Change(group.entries[i], names[static_cast<int>(i) + 1]);
+        }
+    }
+
+    /// Returns the case that contains the entry in the file, or the model.
+    Entry CaseOf(Entry entry) const {
+        while (entry != 0 && m_loaded.entries[entry].key != DocumentKey::Cases)
+            entry = m_loaded.entries[entry].parent;
+        return entry;
+    }
+
+    const LoadedDocument& m_loaded;
+    const std::vector<Entry> m_named;
+    const EntriesByObject m_entryOf;
+    ZFXListValZFXISpecObject_var m_features; // of m_named
+    std::map<Entry, Fix> m_fixes;
+};
+
+} // namespace
+
+std::map<std::uint32_t, NameFix> FindFixes(const LoadedDocument& loaded) { return NameFixer(loaded).Run(); }
