@@ -12,7 +12,7 @@ inline constexpr const char* kLink = "Link the library";
 inline constexpr const char* kOwnCount = "Objects with a reference count of your own";
 inline constexpr const char* kFeatures = "Features: late type, father, name";
 inline constexpr const char* kScopes = "Scopes: where names are compared and numbered";
-inline constexpr const char* kServices = "Services: questions about the whole document";
+inline constexpr const char* kServices = "Services: requests about the whole document";
 inline constexpr const char* kOwnership = "Ownership of results";
 inline constexpr const char* kErrors = "Messages, errors, locale, caches, threads";
 } // namespace Section

@@ -44,7 +44,7 @@ bool Contains(const List& list, const ZFXBaseUnknown_var& object) {
 template <class List>
 void CheckEntries(const Subject& subject, const char* operation, const List& list) {
     if (std::find(list.begin(), list.end(), nullptr) != list.end())
-        subject.Report(operation, "returns a list with an entry that is null", Section::kOwnership);
+        subject.Report(operation, "returns a list with a null entry", Section::kOwnership);
 }
 
 ZFXBaseUnknown_var CastTo(const ZFXBaseUnknown_var& object, const IID& iid) {
@@ -132,7 +132,8 @@ void CheckFirstSet(Subject& subject, const ZFXBaseUnknown_var& first) {
         subject.Report(kGetParentSets, "returns a first set that does not offer ZFXISamAnalysisSet and ZFXISpecObject",
                        Section::kScopes);
     else if (!Contains(members, subject.object))
-        subject.Report("ZFXISamAnalysisSet::ListMembers", "does not list the feature, which has this set as first set",
+        subject.Report("ZFXISamAnalysisSet::ListMembers",
+                       "does not list the feature, although this set is the first of its parent sets",
                        Section::kScopes);
     else if (subject.lateType == LateTypes::QVRJobLT &&
              ZFXISamAnalysisModel_var(FatherOf(feature, subject.probe)) == nullptr)
@@ -216,7 +217,7 @@ void CheckCaseOfPropagatingFeature(Subject& subject) {
     ZFXListValZFXBaseUnknown_var steps;
     if (history == nullptr)
         subject.Report("ZFXISamAnalysisScan::FindObjectsOfType",
-                       "finds no simulation history below the case that can be searched", Section::kScopes);
+                       "finds below the case no simulation history that can be searched", Section::kScopes);
     else
         history->ListChildren(steps, ZFXISamAnalysisScan::kScanMode);
     for (const ZFXBaseUnknown_var& step : steps)

@@ -37,7 +37,7 @@ constexpr const char* kOwnCount = "Objects with a reference count of your own";
 constexpr const char* kOwnership = "Ownership of results";
 constexpr const char* kFeatures = "Features: late type, father, name";
 constexpr const char* kScopes = "Scopes: where names are compared and numbered";
-constexpr const char* kServices = "Services: questions about the whole document";
+constexpr const char* kServices = "Services: requests about the whole document";
 constexpr const char* kErrors = "Messages, errors, locale, caches, threads";
 
 /// An adaptor for objects of the late type "ExtendedLT".
@@ -299,7 +299,7 @@ TEST(BindingCheck, ReportsFaultyServices) {
         AnalysisServices::Install(&services);
         std::vector<std::string> report;
         EXPECT_EQ(ZFXCheckServices(report), 4);
-        ExpectFault(report[0], "AnalysisServices::GetAllAnalysisCases returns a list with an entry", kOwnership);
+        ExpectFault(report[0], "AnalysisServices::GetAllAnalysisCases returns a list with a null entry", kOwnership);
         ExpectFault(report[1], "AnalysisServices::GetJobs throws", kOwnership);
         ExpectFault(report[2], "AnalysisServices::GetAnalysisModel succeeds without a result", kServices);
         ExpectFault(report[3], "AnalysisServices::GetMeshManager succeeds without a result", kServices);

@@ -20,4 +20,5 @@ rename_often link.json B || true
 wait $! || true
 same "document" "{\"cases\": [{\"name\": \"A$count\"}, {\"name\": \"B$count\"}]}" "$(<document.json)"
 same "files" "document.json link.json output-A output-B" "$(echo *)"
+[ "$faults" = 0 ] || cat output-A output-B >&2
 finish

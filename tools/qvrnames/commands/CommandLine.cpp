@@ -111,8 +111,8 @@ private:
     void AddCheck() {
         CLI::App* app = Add("check", "Check whether texts are legal as names of features or files.",
                             "check Step-1 \"Static Step.2\"", [this] { return CheckNames(m_check, m_console); });
-        app->add_option("NAME", m_check.names, "The names to check; - for names on stdin, one a line");
-        app->add_option("--from", m_check.from, "Also check the names in this file, one a line");
+        app->add_option("NAME", m_check.names, "The names to check; - for names on stdin, one per line");
+        app->add_option("--from", m_check.from, "Also check the names in this file, one per line");
         app->add_flag("--file-name", m_check.areFileNames, "Check them as file names");
     }
     void AddAudit() {

@@ -80,15 +80,18 @@ void PrintAsJson(const LoadedDocument& loaded, const std::string& feature, const
     PrintJson(console.out, json);
 }
 
+/// Returns the path without symbolic links. The files are not compared, because another process can replace a file
+/// between two look-ups.
+std::filesystem::path RealPath(const std::string& path) {
+    std::error_code error;
+    return std::filesystem::weakly_canonical(Utf8::ToPath(path), error);
+}
+
 } // namespace
 
 int RenameFeature(const RenameRequest& request, Console console) {
     const std::string& target = request.output.empty() ? request.document : request.output;
-    std::error_code error; // a file that does not exist differs from all others
-    // Equal paths are not compared by their files: another process can replace the file between the two look-ups.
-    const bool isInPlace = request.document != kStandardStream && target != kStandardStream &&
-                           (target == request.document ||
-                            std::filesystem::equivalent(Utf8::ToPath(request.document), Utf8::ToPath(target), error));
+    const bool isInPlace = request.document != kStandardStream && RealPath(target) == RealPath(request.document);
     // From reading to writing, so that no change by another process is lost.
     const std::shared_ptr<void> lock = isInPlace ? LockFile(request.document) : nullptr;
     const auto loaded = OpenDocument(request.document);

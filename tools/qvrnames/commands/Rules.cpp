@@ -43,7 +43,7 @@ std::vector<Rule> AllRules() {
     rules.push_back(
         {kDeckCharacter,
          "A name in the solver deck contains a line break, a comma or an asterisk. The deck is made of lines, "
-         "and comma and asterisk have a meaning in it.",
+         "and commas and asterisks have a special meaning in it.",
          "A pressure load has the name \"Flange, top\".",
          "Use another character. The name is a finding only with --strict.",
          {}});
