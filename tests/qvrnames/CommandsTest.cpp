@@ -1,4 +1,5 @@
 #include "TestSupport.h"
+#include "terminal/Progress.h"
 
 #include <nlohmann/json.hpp>
 
@@ -107,6 +108,13 @@ std::string FirstFault(const Json& value, Json schema, const Json& root, const s
                             : place + "/" + key;
     }
     return fault;
+}
+
+TEST(Commands, EstimateTheRemainingTime) {
+    using std::chrono::seconds;
+    EXPECT_EQ(ProgressText(0, 3, seconds(5)), "0 % of 3 documents");
+    EXPECT_EQ(ProgressText(1, 3, seconds(5)), "33 % of 3 documents, 10 s left");
+    EXPECT_EQ(ProgressText(299, 300, seconds(900)), "99 % of 300 documents, 3 s left");
 }
 
 TEST(Commands, IgnoreTheFindingsOfABaseline) {

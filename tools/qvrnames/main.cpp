@@ -4,5 +4,5 @@
 
 int main(int argc, char** argv) {
     EndOnBrokenPipe();
-    return Run(argc, argv, std::cout, std::cerr, StandardOutputScreen());
+    return Run(argc, argv, std::cout, std::cerr, ScreenOfProcess());
 }

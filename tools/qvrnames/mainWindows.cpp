@@ -50,5 +50,5 @@ int wmain(int argc, wchar_t** argv) {
     std::vector<const char*> pointers;
     for (const std::string& argument : arguments)
         pointers.push_back(argument.c_str());
-    return Run(argc, pointers.data(), std::cout, std::cerr, StandardOutputScreen());
+    return Run(argc, pointers.data(), std::cout, std::cerr, ScreenOfProcess());
 }

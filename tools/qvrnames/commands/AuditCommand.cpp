@@ -4,6 +4,7 @@
 #include "commands/Commands.h"
 #include "files/FileErrors.h"
 #include "terminal/DisplayWidth.h"
+#include "terminal/Progress.h"
 #include "terminal/Table.h"
 
 #include "text/Utf8Path.h"
@@ -141,8 +142,11 @@ int AuditDocuments(const AuditRequest& request, Console console) {
         baseline.emplace(request.baseline);
     const std::vector<std::string> files = FilesOf(request.documents);
     std::vector<DocumentReport> reports;
+    Progress progress(console.err, console.screen.showsErrors, files.size());
     for (const std::string& file : files) {
+        progress.Show(reports.size());
         reports.push_back(AuditFile(file, request.withDeck));
+        progress.Clear();
         if (baseline)
             baseline->RemoveKnown(reports.back());
         PrintNotices(reports.back(), request, console);

@@ -1,12 +1,11 @@
 #include "terminal/Terminal.h"
 
+#include <cstdio>
 #include <cstdlib>
 #include <string_view>
 
 #ifdef _WIN32
 #include <windows.h>
-
-#include <cstdio>
 
 #include <io.h>
 #else
@@ -25,7 +24,7 @@ std::string_view Environment(const char* name) {
 
 #ifdef _WIN32
 
-bool IsTerminal() { return _isatty(_fileno(stdout)) != 0; }
+bool IsTerminal(std::FILE* file) { return _isatty(_fileno(file)) != 0; }
 
 std::size_t Columns() {
     CONSOLE_SCREEN_BUFFER_INFO info{};
@@ -44,7 +43,7 @@ bool SupportsColour() {
 
 #else
 
-bool IsTerminal() { return isatty(STDOUT_FILENO) == 1; }
+bool IsTerminal(std::FILE* file) { return isatty(fileno(file)) == 1; }
 
 std::size_t Columns() {
     winsize size{};
@@ -57,10 +56,11 @@ bool SupportsColour() { return !Environment("TERM").empty() && Environment("TERM
 
 } // namespace
 
-Screen StandardOutputScreen() {
-    if (!IsTerminal())
-        return {};
-    return {Columns(), Environment("NO_COLOR").empty() && SupportsColour()};
+Screen ScreenOfProcess() {
+    const bool showsErrors = IsTerminal(stderr) && Environment("TERM") != "dumb";
+    if (!IsTerminal(stdout))
+        return {.showsErrors = showsErrors};
+    return {Columns(), Environment("NO_COLOR").empty() && SupportsColour(), showsErrors};
 }
 
 std::string Styled(std::string_view text, Style style, const Screen& screen) {

@@ -4,15 +4,16 @@
 #include <string>
 #include <string_view>
 
-/// The properties of the terminal, if any, to which standard output is connected.
+/// The properties of the terminals, if any, to which standard output and standard error are connected.
 struct Screen {
     std::size_t columns = 0; ///< of the terminal; 0 if there is no terminal or its width is unknown
     bool hasColour = false;
+    bool showsErrors = false; ///< standard error is a terminal that can show progress
 };
 
-/// Returns the screen of standard output. Colour is used on a terminal that supports it (TERM is set and not "dumb"),
+/// Returns the screen of the process. Colour is used on a terminal that supports it (TERM is set and not "dumb"),
 /// unless NO_COLOR is set and not empty.
-[[nodiscard]] Screen StandardOutputScreen();
+[[nodiscard]] Screen ScreenOfProcess();
 
 /// How a piece of text is emphasised.
 enum class Style { Plain, Heading, Refusal, Proposal };
