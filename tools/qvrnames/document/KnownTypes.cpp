@@ -16,8 +16,7 @@ constexpr std::string_view kWords[] = {
 
 /// Late types begin with the prefix of the module, of the host or of its mesh parts. Some sets of the host have none.
 bool IsLateType(std::string_view word) {
-    return word.starts_with("QVR") || word.starts_with("SAM") || word.starts_with("MSH") ||
-           word.ends_with("Set");
+    return word.starts_with("QVR") || word.starts_with("SAM") || word.starts_with("MSH") || word.ends_with("Set");
 }
 
 } // namespace
