@@ -25,10 +25,10 @@ TEST(UnicodeString, ACopyHasATextOfItsOwn) {
         assigned = std::move(moved);
         EXPECT_STREQ(moved, ""); // NOLINT(bugprone-use-after-move)
         EXPECT_STREQ(assigned, original);
-        copy = assigned;
-        assigned.Append("!");
-        EXPECT_EQ(copy.Compare(original), 2);
-        EXPECT_EQ(assigned.GetLengthInChar(), original.GetLengthInChar() + 1);
+        copy = assigned.Append("!a");
+        EXPECT_STREQ(copy, original + "!a");
+        assigned.ToUpper();
+        EXPECT_EQ(assigned.Compare(copy), 1);
     }
 }
 
@@ -152,8 +152,7 @@ TEST(UnicodeString, PositionsOutsideTheTextAreClamped) {
         EXPECT_EQ(Narrow(text), removed);
     }
     String cut(kLong);
-    const std::pair<int, int> sizes[] = {{72, 72}, {500, 72}, {-1, 72}, {0, 0}};
-    for (const auto& [size, left] : sizes) {
+    for (const auto& [size, left] : {std::pair(72, 72), {500, 72}, {-1, 72}, {0, 0}}) {
         cut.Resize(size);
         EXPECT_EQ(cut, Repeated('x', left)) << size;
     }
