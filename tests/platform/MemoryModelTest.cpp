@@ -38,9 +38,6 @@ TEST_F(MemoryModelTest, SearchesFollowTheOrderOfTheDocument) {
     EXPECT_EQ(scan->FindObjectsOfType("QVRPressure", found, 3), S_OK);
     EXPECT_EQ(ZFXISamAnalysisScan_var(analysisCase.History())->ListChildren(found, 3), S_OK);
     EXPECT_EQ(Names(found), "a c b First Second ");
-    ZFXISpecObject_var step;
-    EXPECT_EQ(QVRAnalysisEntityUtils::GetParentStep(ZFXISpecObject_var(a), step), S_OK);
-    EXPECT_TRUE(step == first.Object());
     Objects* sets = nullptr;
     second.Set("AnyLT").AddMember(a);
     EXPECT_EQ(ZFXISamAnalysisEntity_var(a)->GetParentSets(sets), S_OK);
