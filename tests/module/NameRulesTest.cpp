@@ -10,8 +10,8 @@ namespace {
 void ExpectList(const std::filesystem::path& file, const std::string& list) {
     const std::string text = TextOf(file);
     const std::string begin = list.substr(0, 3);
-    EXPECT_NE(text.find(begin), text.npos) << file << " does not contain " << list;
-    for (std::size_t at = text.find(begin); at != text.npos; at = text.find(begin, at + 1))
+    EXPECT_NE(text.find(begin), std::string::npos) << file << " does not contain " << list;
+    for (std::size_t at = text.find(begin); at != std::string::npos; at = text.find(begin, at + 1))
         EXPECT_EQ(text.substr(at, list.size()), list) << file;
 }
 

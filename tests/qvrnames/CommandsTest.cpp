@@ -115,9 +115,9 @@ TEST(Commands, IgnoreTheFindingsOfABaseline) {
 
 TEST(Commands, PrintReportsThatConformToTheirSchema) {
     const Json schema = Json::parse(ReadFile(QVRNAMES_FOLDER "/report.schema.json"));
-    const std::vector<std::string> arguments{"audit", TRANSCRIPTS_FOLDER "/reports",
-                                             Example("pump-flange-bracket.json"), "--deck", "--json"};
-    ExpectConforms(Json::parse(RunWith(arguments).out), schema, schema, "#");
+    const std::string folder = TRANSCRIPTS_FOLDER "/reports";
+    const RunResult result = RunWith({"audit", folder, Example("pump-flange-bracket.json"), "--deck", "--json"});
+    ExpectConforms(Json::parse(result.out), schema, schema, "#");
 }
 
 TEST(Commands, ReturnTwoForUnusableFiles) {

@@ -74,7 +74,7 @@ std::vector<UnknownType> UnknownTypes(const LoadedDocument& loaded) {
     std::unordered_map<std::string, std::size_t> positions;
     for (std::uint32_t entry = 1; entry < loaded.entries.size(); ++entry) { // entry 0 is the model
         const std::string type = LateTypeOf(loaded, entry);
-        if (known.count(type) != 0)
+        if (known.contains(type))
             continue;
         const auto [position, isNew] = positions.try_emplace(type, unknown.size());
         if (isNew)

@@ -69,7 +69,7 @@ std::vector<std::string> Baseline::Outdated(const std::vector<DocumentReport>& r
             audited.insert(report.file);
     std::vector<std::string> outdated;
     for (const auto& [entry, isFound] : m_isFound)
-        if (const auto file = entry["file"].get<std::string>(); !isFound && audited.count(file) != 0)
+        if (const auto file = entry["file"].get<std::string>(); !isFound && audited.contains(file))
             outdated.push_back(file + ": " + entry["feature"].get<std::string>() + ": " +
                                entry["rule"].get<std::string>());
     return outdated;

@@ -46,7 +46,9 @@ private:
         }
     };
     struct HashOfKey {
-        std::size_t operator()(const Key& key) const { return key.name.HashIgnoringCase() + 31 * key.analysisCase; }
+        std::size_t operator()(const Key& key) const {
+            return key.name.HashIgnoringCase() + std::size_t{31} * key.analysisCase;
+        }
     };
 
     const LoadedDocument& m_loaded;

@@ -52,9 +52,8 @@ int ExplainRule(const std::string& id, Console console) {
         ListRules(rules, console);
         return kSuccess;
     }
-    std::vector<std::string> known;
-    for (const Rule& rule : rules)
-        known.push_back(rule.id);
+    std::vector<std::string> known(rules.size());
+    std::ranges::transform(rules, known.begin(), &Rule::id);
     const auto found = std::find(known.begin(), known.end(), id);
     if (found == known.end())
         throw BadInput("unknown message or rule \"" + id + "\"; " + Suggestion(id, known));
