@@ -1,11 +1,13 @@
 #!/usr/bin/env bash
-# Two processes at a time rename two features of one document, one of them through a symbolic link. No change is lost.
-# Usage: ConcurrentRenamesTest.sh COUNT [EMULATOR] PROGRAM
+# Two processes at a time rename two features of one document. No change is lost. SECOND is the path of the document for
+# the second process: document.json, or link.json, a symbolic link.
+# Usage: ConcurrentRenamesTest.sh COUNT SECOND [EMULATOR] PROGRAM
 # shellcheck source=tests/support/checks.sh
 source "$(dirname "$0")/../support/checks.sh"
 enter_work_folder
 count=$1
-program=("${@:2}")
+second=$2
+program=("${@:3}")
 
 # rename_often DOCUMENT LETTER: renames the case LETTER0 to LETTER1, LETTER2 and so on.
 rename_often() {
@@ -16,7 +18,7 @@ rename_often() {
 echo '{"cases": [{"name": "A0"}, {"name": "B0"}]}' >document.json
 ln -s document.json link.json
 rename_often document.json A & # another process for each change of one feature
-rename_often link.json B || true
+rename_often "$second" B || true
 wait $! || true
 same "document" "{\"cases\": [{\"name\": \"A$count\"}, {\"name\": \"B$count\"}]}" "$(<document.json)"
 same "files" "document.json link.json output-A output-B" "$(echo *)"
