@@ -118,6 +118,8 @@ TEST(Commands, PrintReportsThatConformToTheirSchema) {
     const std::string folder = TRANSCRIPTS_FOLDER "/reports";
     const RunResult result = RunWith({"audit", folder, Example("pump-flange-bracket.json"), "--deck", "--json"});
     ExpectConforms(Json::parse(result.out), schema, schema, "#");
+    const std::string sarif = RunWith({"audit", Example("pump-flange-bracket.json"), "--format", "sarif"}).out;
+    EXPECT_NE(sarif.find("\"uri\": \"file:///"), std::string::npos) << "an absolute path is a URI";
 }
 
 TEST(Commands, ReturnTwoForUnusableFiles) {

@@ -7,6 +7,8 @@
 #include "files/FileErrors.h"
 #include "terminal/DisplayWidth.h"
 
+#include "text/Utf8Path.h"
+
 #include <nlohmann/json.hpp>
 
 #include <algorithm>
@@ -68,16 +70,17 @@ void PrintAsJson(const Reports& reports, const AuditRequest& request, std::ostre
 
 // ---- SARIF ----
 
-/// Returns the path of a file as a relative or absolute URI reference.
+/// Returns the path of a file as a URI, or as a relative reference if the path is relative.
 std::string UriOf(const std::string& file) {
     if (file == kStandardStream)
         return "stdin";
     constexpr std::string_view kUnchanged = "-._~/ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789";
-    std::string uri;
+    const bool isAbsolute = Utf8::ToPath(file).is_absolute();
+    std::string uri = !isAbsolute ? "" : file.front() == '/' ? "file://" : "file:///"; // a drive has no leading slash
     for (const char byte : file) {
         if (byte == '\\' && std::filesystem::path::preferred_separator == '\\') {
             uri += '/';
-        } else if (kUnchanged.find(byte) != std::string_view::npos) {
+        } else if (kUnchanged.find(byte) != std::string_view::npos || (byte == ':' && isAbsolute)) {
             uri += byte;
         } else {
             char escape[4];
