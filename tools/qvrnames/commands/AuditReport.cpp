@@ -9,6 +9,7 @@
 
 #include "QVRNameUtil.h"
 
+#include <algorithm>
 #include <map>
 #include <set>
 #include <tuple>
@@ -42,14 +43,14 @@ class References {
 public:
     References(const LoadedDocument& loaded, const std::set<std::pair<std::uint32_t, DocumentKey>>& keys)
         : m_loaded(loaded) {
-        std::map<std::size_t, TextPosition> positions; // by offset
+        std::vector<std::pair<std::size_t, std::pair<std::uint32_t, DocumentKey>>> offsets;
+        offsets.reserve(keys.size());
         for (const auto& [entry, key] : keys)
-            positions[OffsetOf(loaded, entry, key)];
+            offsets.push_back({OffsetOf(loaded, entry, key), {entry, key}});
+        std::sort(offsets.begin(), offsets.end()); // ascending, as PositionFinder needs them for linear time
         PositionFinder finder(loaded.text.Bytes());
-        for (auto& [offset, position] : positions)
-            position = finder.Find(offset);
-        for (const auto& [entry, key] : keys)
-            m_positions[{entry, key}] = positions.at(OffsetOf(loaded, entry, key));
+        for (const auto& [offset, key] : offsets)
+            m_positions[key] = finder.Find(offset);
     }
 
     ObjectReference operator()(std::uint32_t entry, DocumentKey key = DocumentKey::Name) const {
