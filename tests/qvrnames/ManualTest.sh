@@ -14,7 +14,7 @@ options_of() { "$program" "$@" --help | sed -nE 's/^  (-h,)?(--[a-z-]+).*/\2/p' 
 section() { sed 's/\\-/-/g' "$manual" | awk -v heading="$1" '/^\.S[HS] / { on = ($0 == heading) } on'; }
 # completed WORD...: prints what bash suggests for the last word.
 completed() {
-    COMP_WORDS=(qvrnames "$@") COMP_CWORD=$# COMPREPLY=()
+    COMP_WORDS=("$program" "$@") COMP_CWORD=$# COMPREPLY=()
     _qvrnames
     printf '%s\n' "${COMPREPLY[@]}" | sort -u
 }
@@ -43,6 +43,8 @@ for command in "" $commands; do
     [ -z "$command" ] || same "options of $command in the manual" "$options" \
         "$({ echo "$common"; section ".SS $command"; } | options_in | grep -vx -e --version)"
 done
+rules=$("$program" explain | sed 's/ .*//' | sort)
+same "rules in the completion" "$rules" "$(completed explain '')"
 languages=$({ echo en; printf '%s\n' "$4"/*_*.msg | sed -E 's/.*_(.*)\.msg/\1/'; } | sort)
 same "languages in the completion" "$languages" "$(completed audit --language '')"
 same "languages in the completion after an equals sign" "$languages" "$(completed audit --language = '')"
@@ -57,7 +59,7 @@ if command -v zsh >/dev/null; then
     done
     same "languages in zsh" "$languages" "$(in_zsh audit --language '')"
     same "colours in zsh" $'always\nauto\nnever' "$(in_zsh audit --color=a)"
-    same "rules in zsh" "$("$program" explain | sed 's/ .*//' | sort)" "$(in_zsh explain --json '')"
+    same "rules in zsh" "$rules" "$(in_zsh explain --json '')"
     same "files in zsh" FILE "$(in_zsh audit --deck --baseline '')"
 fi
 if command -v groff >/dev/null; then

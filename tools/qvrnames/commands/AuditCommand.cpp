@@ -2,6 +2,7 @@
 #include "commands/AuditReport.h"
 #include "commands/Baseline.h"
 #include "commands/Commands.h"
+#include "commands/Rules.h"
 #include "files/FileErrors.h"
 #include "terminal/DisplayWidth.h"
 #include "terminal/Progress.h"

@@ -3,6 +3,7 @@
 #include "ExitCode.h"
 
 #include "commands/Deck.h"
+#include "commands/Rules.h"
 #include "document/EditDistance.h"
 #include "document/FeaturePaths.h"
 #include "document/KnownTypes.h"
@@ -95,9 +96,8 @@ std::vector<ReportedFinding> Reported(const LoadedDocument& loaded, const std::v
                                       const References& references) {
     std::vector<ReportedFinding> reported;
     for (const auto& [entry, name, verdict, deckColumn] : findings) {
-        const char* const otherRule = deckColumn.empty() ? kRequestFailed : kDuplicateDeckName;
-        reported.push_back({references(entry), verdict.messageId.empty() ? otherRule : verdict.messageId,
-                            LateTypeOf(loaded, entry), name, verdict.message, deckColumn});
+        reported.push_back(
+            {references(entry), verdict.rule, LateTypeOf(loaded, entry), name, verdict.message, deckColumn});
         if (verdict.other)
             reported.back().other = references(*verdict.other);
     }

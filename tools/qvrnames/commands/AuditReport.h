@@ -17,19 +17,13 @@ struct ObjectReference {
 
 struct ReportedFinding {
     ObjectReference object;
-    std::string rule; ///< a message id, or one of the rules below
+    std::string rule; ///< see Rule::id
     std::string lateType;
     std::string name;
     std::string message;
     std::string deckColumn = {}; ///< the column of a name in the deck; empty for the name of the feature
     std::optional<ObjectReference> other = {};
 };
-
-// Rules without a message in the catalog.
-inline constexpr const char* kRequestFailed = "RequestFailed";         ///< a check that failed without an error object
-inline constexpr const char* kDuplicateDeckName = "DuplicateDeckName"; ///< two objects have one name in the deck
-inline constexpr const char* kDeckCharacter = "DeckCharacter";         ///< a character with a meaning in the deck
-inline constexpr const char* kUnknownType = "UnknownLateType";         ///< an unknown late type, see KnownLateTypes
 
 /// The result for one document.
 struct DocumentReport {

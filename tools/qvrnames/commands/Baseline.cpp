@@ -1,6 +1,7 @@
 #include "commands/Baseline.h"
 
 #include "ExitCode.h"
+#include "commands/Rules.h"
 #include "files/FileErrors.h"
 #include "files/WholeFile.h"
 

@@ -64,9 +64,9 @@ int CheckNames(const CheckRequest& request, Console console) {
         nlohmann::ordered_json json{{"name", argument}, {"legal", !verdict.IsRefusal()}};
         table.rows.push_back({{Printable(argument)}, {verdict.IsRefusal() ? "refused" : "legal"}});
         if (verdict.IsRefusal()) {
-            json["messageId"] = verdict.messageId;
+            json["rule"] = verdict.rule;
             json["message"] = verdict.message;
-            table.rows.back().push_back({verdict.messageId, Style::Refusal});
+            table.rows.back().push_back({verdict.rule, Style::Refusal});
             table.rows.back().push_back({Printable(verdict.message)});
         }
         names.push_back(std::move(json));

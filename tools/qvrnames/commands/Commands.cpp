@@ -52,7 +52,7 @@ std::string ReasonOf(const LoadedDocument& loaded, const Verdict& verdict) {
 void AddVerdict(nlohmann::ordered_json& json, const LoadedDocument& loaded, const Verdict& verdict) {
     if (!verdict.IsRefusal())
         return;
-    json["messageId"] = verdict.messageId;
+    json["rule"] = verdict.rule;
     json["message"] = verdict.message;
     if (verdict.other)
         json["other"] = {{"feature", DisplayPath(loaded, *verdict.other)},

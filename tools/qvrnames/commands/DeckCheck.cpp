@@ -1,5 +1,5 @@
-#include "commands/AuditReport.h"
 #include "commands/Deck.h"
+#include "commands/Rules.h"
 
 #include "document/FeaturePaths.h"
 
@@ -73,7 +73,8 @@ void CheckColumn(const DeckSection& section, std::size_t column, const LoadedDoc
                  "The name contains a line break, a comma or an asterisk. The deck is made of lines, and commas "
                  "and asterisks have a special meaning in it."});
         if (const auto other = usedNames.FindOwnerOrAdd(section, row.entry, name))
-            add({E_FAIL, {}, "The deck also uses this name for " + OtherPath(loaded, *other, row.entry) + ".", other});
+            add({E_FAIL, kDuplicateDeckName,
+                 "The deck also uses this name for " + OtherPath(loaded, *other, row.entry) + ".", other});
     }
 }
 

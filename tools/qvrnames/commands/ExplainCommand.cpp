@@ -8,15 +8,23 @@
 
 #include <algorithm>
 #include <ostream>
+#include <string_view>
 
 namespace {
 
 nlohmann::ordered_json AsJson(const Rule& rule) {
-    return {{"id", rule.id},
+    nlohmann::ordered_json operations = nlohmann::ordered_json::array();
+    std::string_view rest = rule.operations;
+    while (!rest.empty()) {
+        const std::size_t end = std::min(rest.find(", "), rest.size());
+        operations.push_back(rest.substr(0, end));
+        rest.remove_prefix(std::min(end + 2, rest.size()));
+    }
+    return {{"rule", rule.id},
             {"cause", rule.cause},
             {"example", rule.example},
             {"fix", rule.fix},
-            {"operations", rule.operations}};
+            {"operations", std::move(operations)}};
 }
 
 void ListRules(const std::vector<Rule>& rules, Console console) {

@@ -41,9 +41,8 @@ void Print(const LoadedDocument& loaded, const std::vector<Line>& lines, Console
         console.out << Styled(text, style, console.screen) << '\n';
     };
     for (const auto& [entry, fix, position] : lines) {
-        const std::string& id = fix.verdict.messageId;
         console.out << position.line << ':' << position.column << ' ' << Printable(DisplayPath(loaded, entry)) << "  "
-                    << (id.empty() ? "" : id + ": ") << ReasonOf(loaded, fix.verdict) << '\n';
+                    << fix.verdict.rule << ": " << ReasonOf(loaded, fix.verdict) << '\n';
         print((fix.obstacle == nullptr ? "- " : "! ") + Shown(fix.oldName), Style::Refusal);
         if (fix.obstacle == nullptr)
             print("+ " + Shown(fix.newName), Style::Proposal);

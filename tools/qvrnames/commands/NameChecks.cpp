@@ -1,5 +1,7 @@
 #include "commands/NameChecks.h"
 
+#include "commands/Rules.h"
+
 #include "LateTypes.h"
 #include "QVRNameUtil.h"
 #include "errors/ZFXError.h"
@@ -17,7 +19,7 @@ constexpr const char* kScopeRequirement = "The features that the name is compare
 Verdict FailedWithoutError(HRESULT code, const char* operation, const char* requirement) {
     char hexadecimal[16];
     std::snprintf(hexadecimal, sizeof hexadecimal, "0x%08X", static_cast<std::uint32_t>(code));
-    return {code, {}, std::string(operation) + " failed with code " + hexadecimal + ". " + requirement};
+    return {code, kRequestFailed, std::string(operation) + " failed with code " + hexadecimal + ". " + requirement};
 }
 
 } // namespace

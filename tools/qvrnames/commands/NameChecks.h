@@ -13,16 +13,16 @@
 /// The result of a check by the naming module.
 struct Verdict {
     HRESULT code = S_OK;
-    std::string messageId; ///< empty if the name is accepted, or if it is refused without a registered error
-    std::string message;   ///< why the name is refused; empty if it is accepted
+    std::string rule;                        ///< the broken rule, see Rule::id; empty if the name is accepted
+    std::string message;                     ///< why the name is refused; empty if it is accepted
     std::optional<std::uint32_t> other = {}; ///< the entry of the object that the name clashes with
 
     bool IsRefusal() const noexcept { return Failed(code); }
 };
 
 /// Returns the verdict for the code of an operation and the error registered under that code. If none is registered,
-/// the message names the operation, the code and `requirement`. Must be called before the next operation, which may
-/// register further errors.
+/// the rule is kRequestFailed, and the message names the operation, the code and `requirement`. Must be called before
+/// the next operation, which may register further errors.
 /// @param requirement  a sentence: what the operation needs to succeed
 [[nodiscard]] Verdict VerdictOf(HRESULT code, const char* operation, const char* requirement);
 

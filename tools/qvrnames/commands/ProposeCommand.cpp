@@ -93,8 +93,7 @@ void Print(const LoadedDocument& loaded, const Proposal& proposal, Console conso
     table.rows.push_back({{"next free name"}, {proposal.name ? Printable(*proposal.name) : "-", Style::Proposal}});
     if (verdict.IsRefusal())
         table.rows.push_back({{proposal.name ? "refused" : "no proposal"},
-                              {(verdict.messageId.empty() ? "" : verdict.messageId + ": ") + ReasonOf(loaded, verdict),
-                               Style::Refusal}});
+                              {verdict.rule + ": " + ReasonOf(loaded, verdict), Style::Refusal}});
     PrintTable(console.out, table, console.screen);
 }
 

@@ -1,6 +1,7 @@
 #include "ExitCode.h"
 #include "commands/Commands.h"
 #include "commands/NameChecks.h"
+#include "commands/Rules.h"
 #include "document/FeaturePaths.h"
 #include "files/FileErrors.h"
 #include "files/WholeFile.h"
@@ -35,8 +36,8 @@ Outcome ApplyName(const LoadedDocument& loaded, std::uint32_t entry, const Renam
     Outcome outcome;
     if (alias == nullptr) {
         outcome.isRefused = true;
-        outcome.verdict = {
-            E_NOINTERFACE, {}, "The feature cannot have a name: it does not offer the interface ZFXIAlias."};
+        outcome.verdict = {E_NOINTERFACE, kRequestFailed,
+                           "The feature cannot have a name: it does not offer the interface ZFXIAlias."};
         return outcome;
     }
     outcome.oldName = outcome.newName = alias->GetAlias().ConvertToChar();
@@ -58,17 +59,17 @@ void Print(const LoadedDocument& loaded, const std::string& feature, const Renam
            const Outcome& outcome, Console console) {
     std::ostream& out = console.out;
     out << Printable(feature) << ": ";
-    const std::string id = Styled(outcome.verdict.messageId, Style::Refusal, console.screen);
+    const std::string rule = Styled(outcome.verdict.rule, Style::Refusal, console.screen);
     if (outcome.isRefused) {
-        out << "refused" << (id.empty() ? "" : " (" + id + ")") << "; the name is still " << Quoted(outcome.oldName)
-            << "\n  " << ReasonOf(loaded, outcome.verdict) << '\n';
+        out << "refused (" << rule << "); the name is still " << Quoted(outcome.oldName) << "\n  "
+            << ReasonOf(loaded, outcome.verdict) << '\n';
         return;
     }
     out << Quoted(outcome.oldName) << " -> " << Quoted(outcome.newName);
     out << (outcome.newName != request.name ? " (without spaces and underscores at its ends)\n" : "\n");
     if (outcome.verdict.IsRefusal())
-        out << "  stored because of --force; an audit refuses it" << (id.empty() ? "" : " (" + id + ")") << ": "
-            << ReasonOf(loaded, outcome.verdict) << '\n';
+        out << "  stored because of --force; an audit refuses it (" << rule
+            << "): " << ReasonOf(loaded, outcome.verdict) << '\n';
 }
 
 void PrintAsJson(const LoadedDocument& loaded, const std::string& feature, const RenameRequest& request,

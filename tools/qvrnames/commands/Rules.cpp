@@ -1,7 +1,5 @@
 #include "commands/Rules.h"
 
-#include "commands/AuditReport.h"
-
 #include "errors/MessageCatalog.h"
 
 namespace {
@@ -29,12 +27,13 @@ std::vector<Rule> AllRules() {
     std::vector<Rule> rules;
     for (const auto& [id, operations] : kMessages)
         rules.push_back({id, TextOf(id, ".Diagnostic"), TextOf(id, ".Example"), TextOf(id, ".Advice"), operations});
-    rules.push_back({kRequestFailed,
-                     "A name cannot be checked, because a part of the document cannot be read.",
-                     "The father of a job container is not the analysis model, so the names of its jobs cannot be "
-                     "compared with those of other cases.",
-                     "Change the document as the message of the finding describes.",
-                     {}});
+    rules.push_back(
+        {kRequestFailed,
+         "A name cannot be checked, proposed or set, because a part of the document is missing or cannot be read.",
+         "The father of a job container is not the analysis model, so the names of its jobs cannot be "
+         "compared with those of other cases.",
+         "Change the document as the message of the finding describes.",
+         {}});
     rules.push_back({kDuplicateDeckName,
                      "Two objects have the same name in the solver deck.",
                      "A document contains the materials \"Steel\" and \"STEEL\".",

@@ -44,7 +44,8 @@ _qvrnames() {
             case $command:$current in
                 *:-?*) words=$options ;;
                 :*) words="$words $options" ;;
-                check:* | explain:*) words=$options ;;
+                check:*) words=$options ;;
+                explain:*) words=$("${COMP_WORDS[0]}" explain 2>/dev/null | sed 's/ .*//') ;;
                 audit:*) words=FILE ;;
                 *) if [ "$place" = 0 ]; then words=FILE; else words=$options; fi ;;
             esac
