@@ -67,23 +67,6 @@ INSTANTIATE_TEST_SUITE_P(Each, TranscriptTest,
                                            "propose", "rename", "reports", "terminals", "usage"),
                          [](const auto& transcript) { return transcript.param; });
 
-/// Compares a value with a schema, which may contain only the keywords that report.schema.json contains.
-void ExpectConforms(const Json& value, Json schema, const Json& root, const std::string& place) {
-    if (schema.contains("$ref"))
-        schema = root.at(Json::json_pointer(schema["$ref"].get<std::string>().substr(1)));
-    if (schema.contains("const")) {
-        EXPECT_EQ(value, schema["const"]) << place;
-    } else {
-        EXPECT_EQ(schema["type"], value.is_number() ? "integer" : value.type_name()) << place;
-    }
-    for (const Json& required : schema["required"])
-        EXPECT_TRUE(value.contains(required.get<std::string>())) << place << " without " << required;
-    if (value.is_structured())
-        for (const auto& [key, member] : value.items())
-            ExpectConforms(member, value.is_array() ? schema["items"] : schema["properties"][key], root,
-                           place + "/" + key);
-}
-
 TEST(Commands, EstimateTheRemainingTime) {
     using std::chrono::seconds;
     EXPECT_EQ(ProgressText(0, 3, seconds(5)), "0 % of 3 documents");
@@ -113,13 +96,9 @@ TEST(Commands, IgnoreTheFindingsOfABaseline) {
     }
 }
 
-TEST(Commands, PrintReportsThatConformToTheirSchema) {
-    const Json schema = Json::parse(ReadFile(QVRNAMES_FOLDER "/report.schema.json"));
-    const std::string folder = TRANSCRIPTS_FOLDER "/reports";
-    const RunResult result = RunWith({"audit", folder, Example("pump-flange-bracket.json"), "--deck", "--json"});
-    ExpectConforms(Json::parse(result.out), schema, schema, "#");
+TEST(Commands, PrintAbsolutePathsAsUris) {
     const std::string sarif = RunWith({"audit", Example("pump-flange-bracket.json"), "--format", "sarif"}).out;
-    EXPECT_NE(sarif.find("\"uri\": \"file:///"), std::string::npos) << "an absolute path is a URI";
+    EXPECT_NE(sarif.find("\"uri\": \"file:///"), std::string::npos);
 }
 
 TEST(Commands, ReturnTwoForUnusableFiles) {

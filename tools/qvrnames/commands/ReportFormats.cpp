@@ -156,7 +156,7 @@ void PrintAsSarif(const Reports& reports, const AuditRequest& request, std::ostr
 
 // ---- JUnit ----
 
-/// Returns a text for XML, which cannot contain control characters, U+FFFE and U+FFFF.
+/// Returns a text for XML. Characters that XML cannot contain are escaped as on a terminal.
 std::string Xml(const std::string& text) {
     std::string escaped;
     for (const char byte : Printable(text))

@@ -29,10 +29,11 @@ std::size_t DisplayWidth(char32_t code) {
 
 std::size_t SequenceLength(unsigned char lead) { return lead < 0x80 ? 1 : lead < 0xE0 ? 2 : lead < 0xF0 ? 3 : 4; }
 
-/// Returns true for characters that break a line, control a terminal or change the direction of the following text.
-bool IsControl(char32_t code) {
+/// Returns true for characters that break a line, control a terminal or change the direction of the following text, and
+/// for U+FFFE and U+FFFF, which XML cannot contain.
+bool IsUnprintable(char32_t code) {
     return code < 0x20 || (code >= 0x7F && code <= 0x9F) || (code >= 0x2028 && code <= 0x202E) ||
-           (code >= 0x2066 && code <= 0x2069);
+           (code >= 0x2066 && code <= 0x2069) || code == 0xFFFE || code == 0xFFFF;
 }
 
 } // namespace
@@ -74,7 +75,7 @@ std::string Printable(std::string_view text) {
     std::string printable;
     while (!text.empty()) {
         const auto [code, bytes] = FirstCharacter(text);
-        if (!IsControl(code)) {
+        if (!IsUnprintable(code)) {
             printable += text.substr(0, bytes);
         } else {
             char escape[8];

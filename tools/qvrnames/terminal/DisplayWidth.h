@@ -20,6 +20,6 @@
 /// base character. At least one character is included, unless the text is empty.
 [[nodiscard]] std::size_t BytesThatFit(std::string_view text, std::size_t width);
 
-/// Returns the text with control characters replaced by \u0009 and so on, so that a name cannot break a line, control
-/// the terminal or reverse the direction of the text after it.
+/// Returns the text with control characters, U+FFFE and U+FFFF replaced by \u0009 and so on, so that a name cannot
+/// break a line, control the terminal, reverse the direction of the text after it or make a report invalid.
 [[nodiscard]] std::string Printable(std::string_view text);
