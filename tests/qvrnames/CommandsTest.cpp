@@ -92,7 +92,8 @@ TEST(Commands, IgnoreTheFindingsOfABaseline) {
     for (const char* text :
          {"", "[]", R"({"version": 2, "findings": []})", R"({"version": 1, "findings": [{"file": 1}]})"}) {
         folder.Write("baseline.json", text);
-        EXPECT_EQ(RunWith(audit).err, "qvrnames: " + baseline + ": no baseline; --write-baseline writes one\n") << text;
+        EXPECT_EQ(RunWith(audit).err, "qvrnames: " + baseline + ": not a baseline; --write-baseline writes one\n")
+            << text;
     }
 }
 
@@ -114,7 +115,7 @@ TEST(Commands, ReturnTwoForUnusableFiles) {
         {{"check", "\xFF"}, "an argument is not UTF-8: \uFFFD"},
         {{"deck", folderPath}, folderPath + ": cannot be read: Is a directory"},
         {{"audit", empty}, empty + ": the file is empty; a JSON object was expected"},
-        {{"audit", large}, large + ": larger than 256 MB, the maximum size of a document"},
+        {{"audit", large}, large + ": larger than 256 MB, the maximum size of a file"},
         {{"rename", step, "step", "x", "--output", "/no/such/folder/x"},
          "/no/such/folder/x: cannot be written: No such file or directory"},
         {{"rename", step, "step", "x", "--output", folderPath}, folderPath + ": cannot be written: not a regular file"},

@@ -125,7 +125,8 @@ TEST(Fix, LeavesLegalNamesAndOnlyTheListedFindings) {
         EXPECT_EQ(ReadFile(file), text);
         for (const json& name : fix["left"])
             EXPECT_TRUE(isHard ||
-                        name["reasonLeft"] == "Nothing legal remains of the name, and its type has no base name.")
+                        name["reasonLeft"] ==
+                            "Nothing legal remains of the name, and the type of the feature has no base name.")
                 << name;
     }
 }

@@ -38,11 +38,11 @@ TEST(Import, KeepsEveryByteOfAName) {
 TEST(Import, ReportsTheLineOfTheFirstError) {
     const std::string header = "case,step,set,type,name,kind\n";
     const std::pair<std::string, std::string> rows[] = {
-        {"", "the table is empty; a header was expected"},
+        {"", "the table is empty; its first row must contain the names of the columns"},
         {"\nname,typ\n", "line 2: unknown column \"typ\"; did you mean \"type\"?"},
         {"name;type\n", "line 1: unknown column \"name;type\"; known: case, step, set, type, name, kind"},
         {"name,type,name\n", "line 1: duplicate column \"name\""},
-        {"case,step\n", "line 1: the column \"name\" is missing"},
+        {"case,step\n", "line 1: the column \"name\" is missing in the header"},
         {"name,kind\nJob-1,jop\n", "line 2: unknown kind \"jop\"; did you mean \"job\"?"},
         {"name\nPressure-1\n", "line 2: a row of the kind \"feature\" needs a value in the column \"set\""},
         {header + "C,S,X,,n,\n", "line 2: a row of the kind \"feature\" needs a value in the column \"type\""},

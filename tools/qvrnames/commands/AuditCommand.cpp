@@ -133,7 +133,7 @@ int ExitCodeOf(const std::vector<DocumentReport>& reports, bool isStrict) {
 
 int AuditDocuments(const AuditRequest& request, Console console) {
     if (!request.format.empty() && console.isJson && request.format != "json")
-        throw BadInput("--json and --format " + request.format + " exclude each other");
+        throw BadInput("--json and --format " + request.format + " exclude each other; omit one of them");
     AuditRequest resolved = request;
     if (resolved.format.empty())
         resolved.format = console.isJson ? "json" : "text";

@@ -43,13 +43,13 @@ std::vector<std::string> NamesOf(const CheckRequest& request) {
         names.insert(names.end(), found.begin(), found.end());
     }
     if (names.empty())
-        throw BadInput("there is no name to check; see --help");
+        throw BadInput("there is no name to check (see --help)");
     return names;
 }
 
 constexpr const char* kWhereRulesApply =
-    "These rules apply to all features but two: names of jobs are only compared with each other, and names of shell "
-    "sections (QVRShellSectionEnhLT) may begin with a digit.";
+    "These rules apply to all features, with two exceptions: names of jobs are only compared with each other, and "
+    "names of shell sections (QVRShellSectionEnhLT) may begin with a digit.";
 
 } // namespace
 

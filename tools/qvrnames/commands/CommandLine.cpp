@@ -55,7 +55,7 @@ public:
         } catch (const CLI::ParseError& error) {
             if (error.get_exit_code() == 0) // --help and --version
                 return m_app.exit(error, m_console.out, m_console.err);
-            throw BadInput(DescribeUnknownWord().value_or(error.what()) + "; see --help");
+            throw BadInput(DescribeUnknownWord().value_or(error.what()) + " (see --help)");
         }
         if (m_colour != "auto")
             m_console.screen.hasColour = m_colour == "always";
@@ -120,18 +120,19 @@ private:
                             "audit pump.json\n         qvrnames audit models/ --format sarif > names.sarif",
                             [this] { return AuditDocuments(m_audit, m_console); });
         app->add_option("DOCUMENT", m_audit.documents,
-                        "Document files, folders that contain files *.json, or - for stdin")
+                        "Document files, folders with *.json files in or below them, or - for stdin")
             ->required()
             ->expected(1, -1);
         app->add_flag("--deck", m_audit.withDeck,
                       "Also check the names in the solver deck for broken rules and duplicates");
-        app->add_flag("--strict", m_audit.isStrict, "Count warnings as findings, for example of unknown late types");
-        app->add_flag("--summary", m_audit.isSummary, "Print the number of findings by rule instead of the findings");
+        app->add_flag("--strict", m_audit.isStrict, "Count warnings, for example of unknown late types, as findings");
+        app->add_flag("--summary", m_audit.isSummary, "Print only the number of findings by rule (format text)");
         app->add_option("--format", m_audit.format, "Format of the report: text (default), json, sarif or junit")
             ->check(CLI::IsMember({"text", "json", "sarif", "junit"}))
             ->type_name("FORMAT");
         app->add_option("--baseline", m_audit.baseline, "Ignore the findings in this file")->type_name("FILE");
-        app->add_option("--write-baseline", m_audit.newBaseline, "Write all findings to this file, and succeed")
+        app->add_option("--write-baseline", m_audit.newBaseline,
+                        "Write all findings and warnings to this file; they do not change the exit code")
             ->type_name("FILE")
             ->excludes("--baseline");
     }
@@ -158,25 +159,25 @@ private:
         app->add_option("FEATURE", m_rename.feature, "The feature to rename")->required();
         app->add_option("NAME", m_rename.name, "The new name")->required();
         app->add_flag("--force", m_rename.force,
-                      "Store a name that breaks a rule. Features of guarded types are still refused");
+                      "Store the name even if it breaks a rule. For features of guarded types, it is still refused");
         app->add_option("--output", m_rename.output,
                         "Write the changed document to this file and leave DOCUMENT unchanged.\n"
-                        "\"-\" is stdout (default for stdin); messages go to stderr");
+                        "- is stdout, the default if DOCUMENT is stdin; then messages go to stderr");
     }
     void AddFix() {
         CLI::App* app =
-            Add("fix", "Give every refused name in a document a legal and unique one.",
+            Add("fix", "Find a legal and unique name for every refused name in a document.",
                 "fix pump.json\n         qvrnames fix pump.json --write\n\n"
-                "Exit status: 0 no name is refused, or all are fixed; 1 a name is left, or changes are not\n"
-                "written because --write is missing; 2 as for all commands.",
+                "Exit status: 0 no name is refused, or all are fixed; 1 a name cannot be fixed, or changes are\n"
+                "not written because --write is missing; 2 as for all commands.",
                 [this] { return FixNames(m_fix, m_console); });
         AddDocument(app, m_fix.document);
         app->add_flag("--write", m_fix.write,
                       "Change the names in DOCUMENT (default: only print the changes).\n"
-                      "For stdin, write the document to stdout; messages go to stderr");
+                      "If DOCUMENT is stdin, write the document to stdout and messages to stderr");
     }
     void AddExplain() {
-        CLI::App* app = Add("explain", "Print the cause of a message, an example, and the fix.",
+        CLI::App* app = Add("explain", "Explain a message or rule: print its cause, an example, and the fix.",
                             "explain IllegalCharERR_01", [this] { return ExplainRule(m_explained, m_console); });
         app->add_option("ID", m_explained, "The message id or rule in a report; omit it to list all of them");
     }
@@ -187,7 +188,7 @@ private:
                 [this] { return ImportTable(m_import, m_console); });
         app->add_option("TABLE", m_import.table,
                         "A file with comma-separated values, or - for stdin. Columns: case, step, set, type,\n"
-                        "name; kind: feature (default), step, job, material, property or meshPart")
+                        "name, and kind: feature (default), step, job, material, property or meshPart")
             ->required();
         app->add_option("--output", m_import.output, "Write the document to this file (default: stdout)");
     }

@@ -70,8 +70,8 @@ void CheckColumn(const DeckSection& section, std::size_t column, const LoadedDoc
             add(std::move(textVerdict));
         if (name.find_first_of("\n\r,*") != std::string::npos)
             add({E_FAIL, kDeckCharacter,
-                 "The name contains a line break, a comma or an asterisk. The deck is made of lines, and commas "
-                 "and asterisks have a special meaning in it."});
+                 "The name contains a line break, a comma or an asterisk. These characters have a special meaning "
+                 "in the deck."});
         if (const auto other = usedNames.FindOwnerOrAdd(section, row.entry, name))
             add({E_FAIL, kDuplicateDeckName,
                  "The deck also uses this name for " + OtherPath(loaded, *other, row.entry) + ".", other});

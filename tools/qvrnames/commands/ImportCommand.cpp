@@ -74,7 +74,7 @@ public:
             m_columns.push_back(column);
         }
         if (std::find(m_columns.begin(), m_columns.end(), kName) == m_columns.end())
-            ThrowLineError(header.line, "the column \"name\" is missing");
+            ThrowLineError(header.line, "the column \"name\" is missing in the header");
     }
 
     void Add(const CsvRow& row) {
@@ -165,7 +165,7 @@ private:
 
 Json DocumentOf(const std::vector<CsvRow>& rows) {
     if (rows.empty())
-        throw BadInput("the table is empty; a header was expected");
+        throw BadInput("the table is empty; its first row must contain the names of the columns");
     Importer importer(rows.front());
     for (std::size_t i = 1; i < rows.size(); ++i)
         importer.Add(rows[i]);
@@ -175,7 +175,7 @@ Json DocumentOf(const std::vector<CsvRow>& rows) {
 void WriteDocument(const std::string& bytes, const ImportRequest& request) {
     std::error_code error; // a file that does not exist differs from all others
     if (std::filesystem::equivalent(Utf8::ToPath(request.table), Utf8::ToPath(request.output), error))
-        throw BadInput(request.output + ": cannot be written: it is the table");
+        throw BadInput(request.output + ": cannot be written: it is the table; specify another file");
     ReplaceWholeFile(request.output, bytes, kStandardStream);
 }
 

@@ -24,7 +24,7 @@ using Strings = QVRGenZFXUnicodeStringUtils;
 constexpr int kMaxChanges = 10;
 
 constexpr const char* kOtherCause = "Another name would not remove the cause.";
-constexpr const char* kNoText = "Nothing legal remains of the name, and its type has no base name.";
+constexpr const char* kNoText = "Nothing legal remains of the name, and the type of the feature has no base name.";
 constexpr const char* kNoName = "No legal and unique name was found.";
 
 constexpr const char* kLeadingDigit = "LeadingDigitERR_01";

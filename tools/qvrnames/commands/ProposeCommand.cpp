@@ -117,7 +117,7 @@ int ProposeName(const ProposeRequest& request, Console console) {
     if (request.isJob)
         return ProposeJobName(request, console);
     if (request.feature.empty())
-        throw BadInput("FEATURE is required; see --help");
+        throw BadInput("FEATURE is required (see --help)");
     const auto loaded = OpenDocument(request.document);
     const std::uint32_t entry = FindFeature(*loaded, request.document, request.feature);
     const ZFXISpecObject_var feature = loaded->entries[entry].feature;

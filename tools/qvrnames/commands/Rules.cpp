@@ -41,16 +41,17 @@ std::vector<Rule> AllRules() {
                      {}});
     rules.push_back(
         {kDeckCharacter,
-         "A name in the solver deck contains a line break, a comma or an asterisk. The deck is made of lines, "
-         "and commas and asterisks have a special meaning in it.",
+         "A name in the solver deck contains a line break, a comma or an asterisk. These characters have a special "
+         "meaning in the deck.",
          "A pressure load has the name \"Flange, top\".",
-         "Use another character. The name is a finding only with --strict.",
+         "Use other characters. The name is a finding only with --strict.",
          {}});
-    rules.push_back({kUnknownType,
-                     "A late type is not known; it may be misspelt.",
-                     "A set has the type \"QVRLoadsContainerLT\" instead of \"QVRLoadContainerLT\".",
-                     "Correct the key \"type\". A type that is correct needs no change; it is a finding only with "
-                     "--strict.",
-                     {}});
+    rules.push_back(
+        {kUnknownType,
+         "A late type is unknown; it may be misspelt.",
+         "A set has the type \"QVRLoadsContainerLT\" instead of \"QVRLoadContainerLT\".",
+         "If the type is misspelt, correct the key \"type\". Otherwise change nothing; an unknown type is a "
+         "finding only with --strict.",
+         {}});
     return rules;
 }

@@ -98,5 +98,5 @@ void DocumentLinks::ResolveLinks(LoadedDocument& loaded) const {
     }
     for (const Link& link : m_links)
         if (link.kind == LinkKind::Father && fathers.IsOnCycle(link.from))
-            link.to.ThrowError("the fathers form a cycle");
+            link.to.ThrowError("the fathers form a cycle; change a key \"father\"");
 }

@@ -161,7 +161,7 @@ private:
         if (!current || !ReadBool(current))
             return;
         if (std::exchange(m_hasCurrent, true))
-            current.ThrowError("another case is already current");
+            current.ThrowError("another case is already current; only one case can have \"current\": true");
         m_firstIsCurrent = false;
         m_loaded.document.MakeCurrent(created);
     }

@@ -24,5 +24,5 @@ inline std::string DisplayFileName(const std::string& path) {
 /// Throws BadInput for a file of more than kMaxDocumentBytes.
 [[noreturn]] inline void ThrowTooLarge(const std::string& path) {
     throw BadInput(DisplayFileName(path) + ": larger than " + std::to_string(kMaxDocumentBytes >> 20) +
-                   " MB, the maximum size of a document");
+                   " MB, the maximum size of a file");
 }
