@@ -59,10 +59,10 @@ endforeach()
 list(LENGTH ids count)
 set(text "# The messages
 
-The ${count} messages that explain to a user why a name is rejected or cannot be proposed, and the operations that raise them.
-An operation raises a message if it registers the error itself, or if an operation that it calls registers it. Most
-operations return the code of the error. [operations.md](operations.md) lists those that only register it. `/P1` is
-replaced by a text, such as the characters that are not allowed.
+This page lists the ${count} messages that explain to a user why a name is rejected or cannot be proposed, and the
+operations that raise them. An operation raises a message if it registers the error itself, or if an operation that it
+calls registers it. Most operations return the code of the error. [operations.md](operations.md) lists those that only
+register it. A text, such as the characters that are not allowed, replaces `/P1`.
 
 This page is written by `cmake -P docs/messages.cmake` from the message catalog and `MessageIds.def`.
 ")

@@ -32,15 +32,17 @@ endforeach()
 
 set(text "# The types of features
 
-The late types that the library treats specially. A late type is the type name that `GetLateType` returns for a feature.
-Every other late type is allowed too. It has no base name, and the library does not guard its names.
+This page lists the late types that the library treats specially. A late type is the type name that `GetLateType`
+returns for a feature. Every other late type is allowed too. It has no base name, and the library does not guard the
+names of its features.
 
 This page is written by `cmake -P docs/types.cmake` from `facts/LateTypes.def` and `facts/LateTypeKinds.def`.
 
-## How the scopes follow
+## How the scopes are determined
 
-The scope of a name follows from the interfaces that the feature offers, not from its late type. The table shows the
-scopes of features that offer the usual interfaces of their type.
+The scope of a name consists of the features with which the name is compared, or whose numbers are counted for a
+proposal. It depends on the interfaces that the feature offers, not on its late type. The table shows the scopes of
+features that offer the usual interfaces of their type.
 
 Checks (`IsNameUnique`, `CheckName`) compare the name with the first of these that applies:
 
@@ -65,10 +67,10 @@ The late type itself determines the following results:
   For `QVRJobLT`, `IsNameUniqueAcrossCases` must accept it instead. For `QVRShellSectionEnhLT`, a leading digit is
   allowed.
 - `GetMorvelObjectName` compares the name of a bolt tightening with the names of the other children of its father.
-- The simulation history, the property set and the job containers are found by their late types.
+- The library finds the simulation history, the property set and the job containers by their late types.
 
-For jobs and mesh parts, the table shows the scopes of `GetUniqueNameForJob`, which always uses the base name \"Job-\",
-and `GetUniqueNameForMeshPart`.
+For jobs, the table shows the scopes of `IsNameUniqueAcrossCases` and of `GetUniqueNameForJob`, which always uses the
+base name \"Job-\". For proposals for mesh parts, it shows the scope of `GetUniqueNameForMeshPart`.
 
 ## The types
 
