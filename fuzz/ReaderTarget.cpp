@@ -1,7 +1,7 @@
 // Parses any bytes as a document. Either the names of the document can be checked without a leaked reference, or the
 // reader reports one error of one line.
 
-#include "ExitCode.h"
+#include "BadInput.h"
 #include "Expectations.h"
 #include "QVRGenI18NUtils.h"
 #include "QVRNameUtil.h"

@@ -1,4 +1,4 @@
-#include "ExitCode.h"
+#include "BadInput.h"
 #include "TestSupport.h"
 #include "document/LoadedDocument.h"
 

@@ -1,4 +1,3 @@
-#include "ExitCode.h"
 #include "commands/AuditReport.h"
 #include "commands/Baseline.h"
 #include "commands/Commands.h"

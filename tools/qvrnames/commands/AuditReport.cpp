@@ -1,6 +1,6 @@
 #include "commands/AuditReport.h"
 
-#include "ExitCode.h"
+#include "BadInput.h"
 
 #include "commands/Deck.h"
 #include "commands/Rules.h"

@@ -1,6 +1,6 @@
 #include "commands/Baseline.h"
 
-#include "ExitCode.h"
+#include "BadInput.h"
 #include "commands/Rules.h"
 #include "files/FileErrors.h"
 #include "files/WholeFile.h"

@@ -1,4 +1,3 @@
-#include "ExitCode.h"
 #include "commands/Commands.h"
 #include "files/FileErrors.h"
 #include "files/WholeFile.h"

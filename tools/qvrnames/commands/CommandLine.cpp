@@ -1,6 +1,5 @@
 #include "commands/CommandLine.h"
 
-#include "ExitCode.h"
 #include "QVRNameUtilityVersion.h"
 #include "commands/Commands.h"
 #include "document/EditDistance.h"

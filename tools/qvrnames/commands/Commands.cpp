@@ -1,6 +1,5 @@
 #include "commands/Commands.h"
 
-#include "ExitCode.h"
 #include "document/FeaturePaths.h"
 #include "files/FileErrors.h"
 #include "files/WholeFile.h"

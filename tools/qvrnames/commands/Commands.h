@@ -1,5 +1,7 @@
 #pragma once
 
+#include "BadInput.h"
+#include "ExitCode.h"
 #include "commands/NameChecks.h"
 #include "document/LoadedDocument.h"
 #include "terminal/Terminal.h"

@@ -1,7 +1,6 @@
 // Makes a document file from a table: one object for each row, in the case, step and set of the row. The objects are a
 // tree of nodes while the rows are read, because a row can add to any of them; then they become one JSON value.
 
-#include "ExitCode.h"
 #include "commands/Commands.h"
 #include "document/CsvTable.h"
 #include "document/EditDistance.h"

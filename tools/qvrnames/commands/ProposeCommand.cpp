@@ -1,4 +1,3 @@
-#include "ExitCode.h"
 #include "commands/Commands.h"
 #include "document/FeaturePaths.h"
 #include "files/FileErrors.h"

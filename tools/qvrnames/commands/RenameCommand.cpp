@@ -1,4 +1,3 @@
-#include "ExitCode.h"
 #include "commands/Commands.h"
 #include "commands/NameChecks.h"
 #include "commands/Rules.h"

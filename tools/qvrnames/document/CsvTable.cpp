@@ -1,6 +1,6 @@
 #include "document/CsvTable.h"
 
-#include "ExitCode.h"
+#include "BadInput.h"
 
 #include "text/ZFXUnicodeString.h"
 

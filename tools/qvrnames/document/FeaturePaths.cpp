@@ -1,6 +1,6 @@
 #include "document/FeaturePaths.h"
 
-#include "ExitCode.h"
+#include "BadInput.h"
 #include "document/EditDistance.h"
 #include "terminal/DisplayWidth.h"
 

@@ -1,4 +1,4 @@
-#include "ExitCode.h"
+#include "BadInput.h"
 #include "document/JsonText.h"
 
 #include <nlohmann/json.hpp>

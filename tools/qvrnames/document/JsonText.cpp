@@ -1,6 +1,6 @@
 #include "document/JsonText.h"
 
-#include "ExitCode.h"
+#include "BadInput.h"
 
 #include <nlohmann/json.hpp>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ExitCode.h"
+#include "BadInput.h"
 
 #include <cstddef>
 #include <string>
