@@ -2,7 +2,6 @@
 #include "commands/NameChecks.h"
 #include "commands/Rules.h"
 #include "document/FeaturePaths.h"
-#include "files/FileErrors.h"
 #include "files/WholeFile.h"
 #include "terminal/DisplayWidth.h"
 

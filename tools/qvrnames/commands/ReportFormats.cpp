@@ -4,7 +4,7 @@
 #include "commands/Rules.h"
 
 #include "QVRNameUtilityVersion.h"
-#include "files/FileErrors.h"
+#include "files/WholeFile.h"
 #include "terminal/DisplayWidth.h"
 
 #include "text/Utf8Path.h"

@@ -1,15 +1,9 @@
 #pragma once
 
 #include "BadInput.h"
+#include "files/WholeFile.h"
 
-#include <cstddef>
 #include <string>
-
-/// The largest document that is read: 256 MB.
-inline constexpr std::size_t kMaxDocumentBytes = std::size_t{256} << 20;
-
-/// The path that means standard input or standard output.
-inline constexpr const char* kStandardStream = "-";
 
 /// Returns the path for messages: "standard input" for kStandardStream.
 inline std::string DisplayFileName(const std::string& path) {

@@ -1,13 +1,20 @@
 #pragma once
 
+#include <cstddef>
 #include <memory>
 #include <string>
 
 // Reads and replaces whole files. A document is read once, kept in memory and written once, so there is no stream
 // interface. Each system has its own source. Paths are UTF-8 on every system.
 
-/// Returns all bytes of a file, or of standard input if `path` is "-". Throws BadInput if the file does not exist,
-/// cannot be read or is larger than kMaxDocumentBytes.
+/// The path that means standard input or standard output.
+inline constexpr const char* kStandardStream = "-";
+
+/// The largest file that is read: 256 MB.
+inline constexpr std::size_t kMaxDocumentBytes = std::size_t{256} << 20;
+
+/// Returns all bytes of a file, or of standard input if `path` is kStandardStream. Throws BadInput if the file does not
+/// exist, cannot be read or is larger than kMaxDocumentBytes.
 [[nodiscard]] std::string ReadWholeFile(const std::string& path);
 
 /// Locks a file until the returned object is destroyed or the process ends. Other calls of LockFile for this file, in
@@ -19,8 +26,8 @@
 /// flushed to the disk and moved over the file in one step, so that the file always has either the former or the new
 /// content, even after a crash. Throws BadInput if any step fails, or if the file is write-protected; the file then has
 /// its former content.
-/// - An existing file keeps its permissions. A new file gets those of `model`, or the default permissions if `model` is
-///   "-". On Windows, a new file gets those of its folder.
+/// - An existing file keeps its permissions. A new file gets those of the file `model`, or the default permissions if
+///   `model` is kStandardStream. On Windows, a new file gets those of its folder.
 /// - If `path` is a symbolic link, its target is replaced.
-/// @pre `path` is not "-"
+/// @pre `path` is not kStandardStream
 void ReplaceWholeFile(const std::string& path, const std::string& bytes, const std::string& model);
