@@ -32,7 +32,7 @@ std::vector<std::string> FilesOf(const std::vector<std::string>& arguments) {
             if (entry.is_regular_file() && entry.path().extension() == ".json")
                 found.push_back(Utf8::FromPath(entry.path().generic_u16string())); // with "/" on every system
         if (found.empty())
-            throw BadInput(argument + ": the folder contains no *.json file");
+            ThrowBadInput(argument, "the folder contains no *.json file");
         std::sort(found.begin(), found.end());
         files.insert(files.end(), found.begin(), found.end());
     }

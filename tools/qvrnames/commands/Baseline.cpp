@@ -1,6 +1,5 @@
 #include "commands/Baseline.h"
 
-#include "BadInput.h"
 #include "commands/Rules.h"
 #include "files/FileErrors.h"
 #include "files/WholeFile.h"
@@ -38,7 +37,7 @@ Baseline::Baseline(const std::string& file) {
     const bool hasFindings = baseline.is_object() && baseline.value("version", Json()) == kVersion &&
                              baseline.value("findings", Json()).is_array();
     if (!hasFindings || !std::all_of(baseline["findings"].begin(), baseline["findings"].end(), IsEntry))
-        throw BadInput(DisplayFileName(file) + ": not a baseline; --write-baseline writes one");
+        ThrowBadInput(file, "not a baseline; --write-baseline writes one");
     for (const Json& entry : baseline["findings"])
         m_isFound.emplace(entry, false);
 }

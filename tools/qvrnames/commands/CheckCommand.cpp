@@ -23,8 +23,7 @@ std::vector<std::string> LinesOf(const std::string& file) {
         if (line.ends_with('\r'))
             line.pop_back();
         if (line != ZFXUnicodeString(line.c_str()).ConvertToChar())
-            throw BadInput(DisplayFileName(file) + ": line " + std::to_string(lines.size() + 1) +
-                           " is not text in UTF-8");
+            ThrowBadInput(file, "line " + std::to_string(lines.size() + 1) + " is not text in UTF-8");
         lines.push_back(std::move(line));
     }
     return lines;

@@ -14,7 +14,7 @@ std::unique_ptr<LoadedDocument> OpenDocument(const std::string& file) {
     try {
         return std::make_unique<LoadedDocument>(std::move(bytes));
     } catch (const BadInput& error) {
-        throw BadInput(DisplayFileName(file) + ": " + error.what());
+        ThrowBadInput(file, error.what());
     }
 }
 
@@ -25,7 +25,7 @@ std::uint32_t FindFeature(const LoadedDocument& loaded, const std::string& file,
             throw BadInput("\"" + reference + "\" is the analysis model, which cannot have a name");
         return entry;
     } catch (const BadInput& error) {
-        throw BadInput(DisplayFileName(file) + ": " + error.what());
+        ThrowBadInput(file, error.what());
     }
 }
 

@@ -174,7 +174,7 @@ Json DocumentOf(const std::vector<CsvRow>& rows) {
 void WriteDocument(const std::string& bytes, const ImportRequest& request) {
     std::error_code error; // a file that does not exist differs from all others
     if (std::filesystem::equivalent(Utf8::ToPath(request.table), Utf8::ToPath(request.output), error))
-        throw BadInput(request.output + ": cannot be written: it is the table; specify another file");
+        ThrowFileError(request.output, "written", "it is the table; specify another file");
     ReplaceWholeFile(request.output, bytes, kStandardStream);
 }
 
@@ -188,7 +188,7 @@ int ImportTable(const ImportRequest& request, Console console) {
         rows = ParseCsv(bytes);
         document = DocumentOf(rows);
     } catch (const BadInput& error) {
-        throw BadInput(DisplayFileName(request.table) + ": " + error.what());
+        ThrowBadInput(request.table, error.what());
     }
     if (request.output.empty() || request.output == kStandardStream) {
         PrintJson(console.out, document);

@@ -25,7 +25,7 @@ bool IsJob(const ZFXISpecObject_var& feature) {
 ZFXUnicodeString BaseOf(const ProposeRequest& request, ZFXISpecObject_var feature) {
     ZFXUnicodeString base = ToUnicode(request.base);
     if (IsJob(feature) && !base.IsNull() && base != kJobBase)
-        throw BadInput(DisplayFileName(request.document) + ": the base name of a job is always \"Job-\"; omit --base");
+        ThrowBadInput(request.document, "the base name of a job is always \"Job-\"; omit --base");
     if (!base.IsNull())
         return base;
     std::ignore = QVRNameUtil::CreateBaseName(feature, base); // empty on failure
@@ -34,8 +34,8 @@ ZFXUnicodeString BaseOf(const ProposeRequest& request, ZFXISpecObject_var featur
     if (IsJob(feature))
         return kJobBase;
     const std::string type = feature == nullptr ? "" : feature->GetLateType().ConvertToChar();
-    throw BadInput(DisplayFileName(request.document) + ": \"" + request.feature + "\" has the late type \"" + type +
-                   "\", which has no base name; specify one with --base");
+    ThrowBadInput(request.document, "\"" + request.feature + "\" has the late type \"" + type +
+                                        "\", which has no base name; specify one with --base");
 }
 
 /// Returns the case that contains the feature, or an empty handle, which means the current case.

@@ -10,13 +10,17 @@ inline std::string DisplayFileName(const std::string& path) {
     return path == kStandardStream ? "standard input" : path;
 }
 
+/// Throws BadInput: "PATH: MESSAGE".
+[[noreturn]] inline void ThrowBadInput(const std::string& path, const std::string& message) {
+    throw BadInput(DisplayFileName(path) + ": " + message);
+}
+
 /// Throws BadInput: "PATH: cannot be ACTION: REASON". `action` is "read", "written" or "locked".
 [[noreturn]] inline void ThrowFileError(const std::string& path, const std::string& action, const std::string& reason) {
-    throw BadInput(DisplayFileName(path) + ": cannot be " + action + ": " + reason);
+    ThrowBadInput(path, "cannot be " + action + ": " + reason);
 }
 
 /// Throws BadInput for a file of more than kMaxDocumentBytes.
 [[noreturn]] inline void ThrowTooLarge(const std::string& path) {
-    throw BadInput(DisplayFileName(path) + ": larger than " + std::to_string(kMaxDocumentBytes >> 20) +
-                   " MB, the maximum size of a file");
+    ThrowBadInput(path, "larger than " + std::to_string(kMaxDocumentBytes >> 20) + " MB, the maximum size of a file");
 }

@@ -149,7 +149,7 @@ void ReplaceWholeFile(const std::string& path, const std::string& bytes, const s
     struct stat status {};
     const bool exists = stat(target.c_str(), &status) == 0;
     if (exists && !S_ISREG(status.st_mode))
-        throw BadInput(path + ": cannot be written: not a regular file");
+        ::ThrowFileError(path, "written", "not a regular file");
     if (exists && IsWriteProtected(target, status))
         ThrowFileError(path, "written", EACCES);
     if (!exists && model == kStandardStream) {

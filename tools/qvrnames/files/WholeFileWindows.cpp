@@ -124,7 +124,7 @@ std::string ReadWholeFile(const std::string& path) {
     const std::filesystem::path name = Utf8::ToPath(path);
     const bool isStream = path == kStandardStream;
     if (!isStream && HasAttribute(GetFileAttributesW(name.c_str()), FILE_ATTRIBUTE_DIRECTORY))
-        ThrowFileError(path, "read", std::generic_category().message(EISDIR));
+        ::ThrowFileError(path, "read", std::generic_category().message(EISDIR));
     const FileHandle file(isStream ? StandardInput() : OpenExisting(name, GENERIC_READ));
     if (!file.IsOpen())
         ThrowFileError(path, "read");
@@ -165,7 +165,7 @@ void ReplaceWholeFile(const std::string& path, const std::string& bytes, const s
     const std::filesystem::path target = error ? std::filesystem::absolute(name) : real;
     const DWORD attributes = GetFileAttributesW(target.c_str());
     if (HasAttribute(attributes, FILE_ATTRIBUTE_DIRECTORY))
-        throw BadInput(path + ": cannot be written: not a regular file");
+        ::ThrowFileError(path, "written", "not a regular file");
     const bool exists = attributes != INVALID_FILE_ATTRIBUTES;
     // Reports a file that another program has locked before anything is written.
     if (exists && !FileHandle(OpenExisting(target, DELETE)).IsOpen())
