@@ -1,5 +1,6 @@
 #include "commands/Commands.h"
 #include "files/FileErrors.h"
+#include "files/Utf8Text.h"
 #include "files/WholeFile.h"
 #include "terminal/DisplayWidth.h"
 #include "terminal/Table.h"
@@ -7,13 +8,11 @@
 #include <nlohmann/json.hpp>
 
 #include <sstream>
-#include <string_view>
 
 namespace {
 
 /// Returns the lines of a file, or of standard input, without their ends and without a byte order mark.
 std::vector<std::string> LinesOf(const std::string& file) {
-    constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
     std::string bytes = ReadWholeFile(file);
     if (bytes.starts_with(kByteOrderMark))
         bytes.erase(0, kByteOrderMark.size());
@@ -22,7 +21,7 @@ std::vector<std::string> LinesOf(const std::string& file) {
     for (std::string line; std::getline(text, line);) {
         if (line.ends_with('\r'))
             line.pop_back();
-        if (line != ZFXUnicodeString(line.c_str()).ConvertToChar())
+        if (!IsUtf8(line))
             ThrowBadInput(file, "line " + std::to_string(lines.size() + 1) + " is not text in UTF-8");
         lines.push_back(std::move(line));
     }

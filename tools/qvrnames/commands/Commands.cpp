@@ -2,6 +2,7 @@
 
 #include "document/FeaturePaths.h"
 #include "files/FileErrors.h"
+#include "files/Utf8Text.h"
 #include "files/WholeFile.h"
 #include "terminal/DisplayWidth.h"
 
@@ -38,7 +39,7 @@ void WriteDocument(const std::string& bytes, const std::string& target, const st
 
 ZFXUnicodeString ToUnicode(const std::string& argument) {
     ZFXUnicodeString text(argument.c_str());
-    if (text.ConvertToChar() != argument) // an ill-formed byte became U+FFFD
+    if (!IsUtf8(argument)) // an ill-formed byte became U+FFFD
         throw BadInput("an argument is not UTF-8: " + std::string(text.ConvertToChar()));
     return text;
 }

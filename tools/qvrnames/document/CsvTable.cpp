@@ -1,8 +1,7 @@
 #include "document/CsvTable.h"
 
 #include "BadInput.h"
-
-#include "text/ZFXUnicodeString.h"
+#include "files/Utf8Text.h"
 
 #include <algorithm>
 
@@ -10,7 +9,7 @@ namespace {
 
 class CsvParser {
 public:
-    explicit CsvParser(std::string_view text) : m_rest(text) { Skip("\xEF\xBB\xBF"); } // byte order mark
+    explicit CsvParser(std::string_view text) : m_rest(text) { Skip(kByteOrderMark); }
 
     std::vector<CsvRow> Parse() {
         std::vector<CsvRow> rows;
@@ -45,7 +44,7 @@ private:
     std::string ReadField() {
         const std::size_t line = m_line;
         std::string value = Skip("\"") ? ReadQuoted() : ReadUnquoted();
-        if (ZFXUnicodeString(value.c_str()).ConvertToChar() != value)
+        if (!IsUtf8(value))
             ThrowLineError(line, "the text is not UTF-8, or contains the character U+0000");
         return value;
     }

@@ -1,6 +1,7 @@
 #include "document/JsonText.h"
 
 #include "BadInput.h"
+#include "files/Utf8Text.h"
 
 #include <nlohmann/json.hpp>
 
@@ -8,8 +9,6 @@
 #include <cassert>
 
 namespace {
-
-constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
 
 std::string Escaped(std::string token) {
     for (std::size_t at = 0; (at = token.find_first_of("~/", at)) != std::string::npos; at += 2)
@@ -26,7 +25,7 @@ std::string Unescaped(std::string token) {
 } // namespace
 
 JsonText::JsonText(std::string text) : m_bytes(std::move(text)) {
-    if (SkipSpace(m_bytes.starts_with(kByteOrderMark) ? kByteOrderMark.size() : 0) == m_bytes.size())
+    if (Root().Begin() == m_bytes.size())
         throw BadInput("the file is empty; a JSON object was expected");
     CheckSyntax();
 }
