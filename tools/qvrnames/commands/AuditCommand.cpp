@@ -1,6 +1,7 @@
 #include "commands/AuditReport.h"
 #include "commands/Baseline.h"
 #include "commands/Commands.h"
+#include "commands/ReportFormats.h"
 #include "commands/Rules.h"
 #include "files/FileErrors.h"
 #include "terminal/DisplayWidth.h"

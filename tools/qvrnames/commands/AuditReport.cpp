@@ -1,8 +1,7 @@
 #include "commands/AuditReport.h"
 
-#include "BadInput.h"
-
-#include "commands/Deck.h"
+#include "commands/Commands.h"
+#include "commands/DeckCheck.h"
 #include "commands/Rules.h"
 #include "document/EditDistance.h"
 #include "document/FeaturePaths.h"

@@ -1,7 +1,8 @@
 #pragma once
 
-#include "commands/Commands.h"
+#include "document/JsonText.h"
 
+#include <cstddef>
 #include <optional>
 #include <string>
 #include <vector>
@@ -40,6 +41,3 @@ struct DocumentReport {
 
 /// Returns the findings that make the audit of a document fail: refusals, deck faults and, if `isStrict`, warnings.
 [[nodiscard]] std::vector<const ReportedFinding*> FindingsOf(const DocumentReport& report, bool isStrict);
-
-/// Prints reports in the format of the request, which is not "text".
-void PrintReports(const std::vector<DocumentReport>& reports, const AuditRequest& request, std::ostream& out);

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "commands/NameChecks.h"
 #include "document/LoadedDocument.h"
 
 #include <optional>
@@ -32,15 +31,3 @@ struct DeckSection {
 /// Returns all names of the document. Empties the name caches of the naming module before and after, so that the result
 /// depends on the document only.
 [[nodiscard]] std::vector<DeckSection> BuildDeck(const LoadedDocument& loaded);
-
-/// A rule that the name of an object breaks.
-struct Finding {
-    std::uint32_t entry;
-    std::string name;
-    Verdict verdict;
-    std::string deckColumn = {}; ///< the column of a name in the deck; empty for the name of the feature
-};
-
-/// Returns the findings in the columns of deck names: names that break a rule of the solver or are used for two
-/// objects. The names of these objects may be legal nevertheless, because the deck contains another form of them.
-[[nodiscard]] std::vector<Finding> CheckDeck(const std::vector<DeckSection>& deck, const LoadedDocument& loaded);

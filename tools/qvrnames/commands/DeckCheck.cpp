@@ -1,6 +1,6 @@
-#include "commands/Deck.h"
-#include "commands/Rules.h"
+#include "commands/DeckCheck.h"
 
+#include "commands/Rules.h"
 #include "document/FeaturePaths.h"
 
 #include <string_view>

@@ -20,6 +20,14 @@ struct Verdict {
     bool IsRefusal() const noexcept { return Failed(code); }
 };
 
+/// A rule that the name of an object breaks.
+struct Finding {
+    std::uint32_t entry;
+    std::string name;
+    Verdict verdict;
+    std::string deckColumn = {}; ///< the column of a name in the deck; empty for the name of the feature
+};
+
 /// Returns the verdict for the code of an operation and the error registered under that code. If none is registered,
 /// the rule is kRequestFailed, and the message names the operation, the code and `requirement`. Must be called before
 /// the next operation, which may register further errors.

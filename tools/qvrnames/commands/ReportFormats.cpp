@@ -1,9 +1,9 @@
 // The formats of audit reports for other programs: JSON, SARIF 2.1.0 and JUnit XML.
 
-#include "commands/AuditReport.h"
-#include "commands/Rules.h"
+#include "commands/ReportFormats.h"
 
 #include "QVRNameUtilityVersion.h"
+#include "commands/Rules.h"
 #include "files/WholeFile.h"
 #include "terminal/DisplayWidth.h"
 
