@@ -57,10 +57,10 @@ int CheckNames(const CheckRequest& request, Console console) {
     for (const std::string& argument : NamesOf(request)) {
         const ZFXUnicodeString name = ToUnicode(argument);
         const Verdict verdict = request.areFileNames ? CheckFileName(name) : CheckText(name);
-        isRefused |= verdict.IsRefusal();
-        nlohmann::ordered_json json{{"name", argument}, {"legal", !verdict.IsRefusal()}};
-        table.rows.push_back({{Printable(argument)}, {verdict.IsRefusal() ? "refused" : "legal"}});
-        if (verdict.IsRefusal()) {
+        isRefused |= verdict.isRefused;
+        nlohmann::ordered_json json{{"name", argument}, {"legal", !verdict.isRefused}};
+        table.rows.push_back({{Printable(argument)}, {verdict.isRefused ? "refused" : "legal"}});
+        if (verdict.isRefused) {
             json["rule"] = verdict.rule;
             json["message"] = verdict.message;
             table.rows.back().push_back({verdict.rule, Style::Refusal});

@@ -50,7 +50,7 @@ std::string ReasonOf(const LoadedDocument& loaded, const Verdict& verdict) {
 }
 
 void AddVerdict(nlohmann::ordered_json& json, const LoadedDocument& loaded, const Verdict& verdict) {
-    if (!verdict.IsRefusal())
+    if (!verdict.isRefused)
         return;
     json["rule"] = verdict.rule;
     json["message"] = verdict.message;

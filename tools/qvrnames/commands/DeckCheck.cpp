@@ -66,14 +66,14 @@ void CheckColumn(const DeckSection& section, std::size_t column, const LoadedDoc
         const auto add = [&](Verdict verdict) {
             findings.push_back({row.entry, name, std::move(verdict), section.columns[column].title});
         };
-        if (Verdict textVerdict = CheckText(name.c_str()); textVerdict.IsRefusal())
+        if (Verdict textVerdict = CheckText(name.c_str()); textVerdict.isRefused)
             add(std::move(textVerdict));
         if (name.find_first_of("\n\r,*") != std::string::npos)
-            add({E_FAIL, kDeckCharacter,
+            add({true, kDeckCharacter,
                  "The name contains a line break, a comma or an asterisk. These characters have a special meaning "
                  "in the deck."});
         if (const auto other = usedNames.FindOwnerOrAdd(section, row.entry, name))
-            add({E_FAIL, kDuplicateDeckName,
+            add({true, kDuplicateDeckName,
                  "The deck also uses this name for " + OtherPath(loaded, *other, row.entry) + ".", other});
     }
 }

@@ -19,23 +19,23 @@ constexpr const char* kScopeRequirement = "The features that the name is compare
 Verdict FailedWithoutError(HRESULT code, const char* operation, const char* requirement) {
     char hexadecimal[16];
     std::snprintf(hexadecimal, sizeof hexadecimal, "0x%08X", static_cast<std::uint32_t>(code));
-    return {code, kRequestFailed, std::string(operation) + " failed with code " + hexadecimal + ". " + requirement};
+    return {true, kRequestFailed, std::string(operation) + " failed with code " + hexadecimal + ". " + requirement};
 }
 
 } // namespace
 
 Verdict VerdictOf(HRESULT code, const char* operation, const char* requirement) {
     if (!Failed(code))
-        return {code, {}, {}};
+        return {};
     if (ZFXError* error = ZFXError::ZFXGetLastError(code, nullptr))
-        return {code, error->GetMsgId(), error->GetNLSMessage().ConvertToChar()};
+        return {true, error->GetMsgId(), error->GetNLSMessage().ConvertToChar()};
     return FailedWithoutError(code, operation, requirement);
 }
 
 Verdict VerdictOf(const QVRNameFinding& finding, const EntriesByObject& entries) {
     if (finding.messageId.IsNull() == 0) {
         const auto other = entries.find(ZFXIdentityOf(finding.other));
-        return {E_FAIL, finding.messageId.ConvertToChar(), finding.Message().ConvertToChar(),
+        return {true, finding.messageId.ConvertToChar(), finding.Message().ConvertToChar(),
                 other == entries.end() ? std::nullopt : std::optional(other->second)};
     }
     const bool isJob = finding.feature != nullptr && finding.feature->GetLateType() == LateTypes::QVRJobLT;

@@ -10,14 +10,12 @@
 #include <optional>
 #include <string>
 
-/// The result of a check by the naming module.
+/// The result of a check of a name.
 struct Verdict {
-    HRESULT code = S_OK;
+    bool isRefused = false;
     std::string rule;                        ///< the broken rule, see Rule::id; empty if the name is accepted
     std::string message;                     ///< why the name is refused; empty if it is accepted
     std::optional<std::uint32_t> other = {}; ///< the entry of the object that the name clashes with
-
-    bool IsRefusal() const noexcept { return Failed(code); }
 };
 
 /// A rule that the name of an object breaks.

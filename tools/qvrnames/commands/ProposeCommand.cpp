@@ -90,7 +90,7 @@ void Print(const LoadedDocument& loaded, const Proposal& proposal, Console conso
     const Verdict& verdict = proposal.verdict;
     Table table{{}, {{{"base name"}, {Printable(proposal.base)}}}};
     table.rows.push_back({{"next free name"}, {proposal.name ? Printable(*proposal.name) : "-", Style::Proposal}});
-    if (verdict.IsRefusal())
+    if (verdict.isRefused)
         table.rows.push_back({{proposal.name ? "refused" : "no proposal"},
                               {verdict.rule + ": " + ReasonOf(loaded, verdict), Style::Refusal}});
     PrintTable(console.out, table, console.screen);
@@ -133,5 +133,5 @@ int ProposeName(const ProposeRequest& request, Console console) {
     } else {
         Print(*loaded, proposal, console);
     }
-    return proposal.verdict.IsRefusal() ? kRefused : kSuccess;
+    return proposal.verdict.isRefused ? kRefused : kSuccess;
 }

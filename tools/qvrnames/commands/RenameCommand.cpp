@@ -34,7 +34,7 @@ Outcome ApplyName(const LoadedDocument& loaded, std::uint32_t entry, const Renam
     Outcome outcome;
     if (alias == nullptr) {
         outcome.isRefused = true;
-        outcome.verdict = {E_NOINTERFACE, kRequestFailed,
+        outcome.verdict = {true, kRequestFailed,
                            "The feature cannot have a name: it does not offer the interface ZFXIAlias."};
         return outcome;
     }
@@ -65,7 +65,7 @@ void Print(const LoadedDocument& loaded, const std::string& feature, const Renam
     }
     out << Quoted(outcome.oldName) << " -> " << Quoted(outcome.newName);
     out << (outcome.newName != request.name ? " (without spaces and underscores at its ends)\n" : "\n");
-    if (outcome.verdict.IsRefusal())
+    if (outcome.verdict.isRefused)
         out << "  stored because of --force; an audit refuses it (" << rule
             << "): " << ReasonOf(loaded, outcome.verdict) << '\n';
 }
@@ -74,7 +74,7 @@ void PrintAsJson(const LoadedDocument& loaded, const std::string& feature, const
                  const Outcome& outcome, Console console) {
     nlohmann::ordered_json json{{"feature", feature},        {"renamed", !outcome.isRefused},
                                 {"former", outcome.oldName}, {"requested", request.name},
-                                {"name", outcome.newName},   {"legal", !outcome.verdict.IsRefusal()}};
+                                {"name", outcome.newName},   {"legal", !outcome.verdict.isRefused}};
     AddVerdict(json, loaded, outcome.verdict);
     PrintJson(console.out, json);
 }
