@@ -1,6 +1,7 @@
 #include "commands/Deck.h"
 
-#include "LateTypes.h"
+#include "commands/BaseNames.h"
+
 #include "QVRGenI18NUtils.h"
 #include "QVRGenInstanceName.h"
 #include "QVRNameUtil.h"
@@ -111,8 +112,6 @@ template <class Interface>
 bool Offers(const ZFXISpecObject_var& feature) {
     return Interface(feature) != nullptr;
 }
-
-bool IsJob(const ZFXISpecObject_var& feature) { return feature->GetLateType() == LateTypes::QVRJobLT; }
 
 /// A section of the deck: how its objects are recognised, and the names that they get.
 struct SectionType {

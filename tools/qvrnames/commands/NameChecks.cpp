@@ -1,8 +1,8 @@
 #include "commands/NameChecks.h"
 
+#include "commands/BaseNames.h"
 #include "commands/Rules.h"
 
-#include "LateTypes.h"
 #include "QVRNameUtil.h"
 #include "errors/ZFXError.h"
 
@@ -38,9 +38,8 @@ Verdict VerdictOf(const QVRNameFinding& finding, const EntriesByObject& entries)
         return {true, finding.messageId.ConvertToChar(), finding.Message().ConvertToChar(),
                 other == entries.end() ? std::nullopt : std::optional(other->second)};
     }
-    const bool isJob = finding.feature != nullptr && finding.feature->GetLateType() == LateTypes::QVRJobLT;
-    return isJob ? FailedWithoutError(finding.code, "IsNameUniqueAcrossCases", kJobRequirement)
-                 : FailedWithoutError(finding.code, "CheckName", kScopeRequirement);
+    return IsJob(finding.feature) ? FailedWithoutError(finding.code, "IsNameUniqueAcrossCases", kJobRequirement)
+                                  : FailedWithoutError(finding.code, "CheckName", kScopeRequirement);
 }
 
 Verdict CheckText(const ZFXUnicodeString& name) {

@@ -39,6 +39,3 @@ struct Finding {
 
 /// Returns the verdict for a finding of the naming module.
 [[nodiscard]] Verdict VerdictOf(const QVRNameFinding& finding, const EntriesByObject& entries);
-
-/// The base name of all jobs. GetUniqueNameForJob, which numbers jobs, uses it; CreateBaseName does not return it.
-inline constexpr const char* kJobBase = "Job-";

@@ -3,7 +3,8 @@
 
 #include "commands/NameFixes.h"
 
-#include "LateTypes.h"
+#include "commands/BaseNames.h"
+
 #include "QVRBaseFeatureAlias.h"
 #include "QVRGenI18NUtils.h"
 #include "QVRGenZFXUnicodeStringUtils.h"
@@ -44,12 +45,6 @@ bool BreaksTextRule(const QVRNameFinding& finding) {
 
 /// Returns true if two names clash. In a finding about a feature without a name, `other` has no alias.
 bool IsClash(const QVRNameFinding& finding) { return ZFXIAlias_var(finding.other) != nullptr; }
-
-ZFXUnicodeString BaseNameOf(ZFXISpecObject_var feature) {
-    ZFXUnicodeString base;
-    std::ignore = QVRNameUtil::CreateBaseName(feature, base); // empty if there is none
-    return base.IsNull() != 0 && feature->GetLateType() == LateTypes::QVRJobLT ? ZFXUnicodeString(kJobBase) : base;
-}
 
 /// Returns a name without the fault that a rule reports; empty if nothing remains. It may break another rule.
 ZFXUnicodeString Cleaned(const ZFXISpecObject_var& feature, ZFXUnicodeString name, const ZFXUnicodeString& rule) {

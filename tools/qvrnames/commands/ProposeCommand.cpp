@@ -1,10 +1,10 @@
+#include "commands/BaseNames.h"
 #include "commands/Commands.h"
 #include "document/FeaturePaths.h"
 #include "files/FileErrors.h"
 #include "terminal/DisplayWidth.h"
 #include "terminal/Table.h"
 
-#include "LateTypes.h"
 #include "QVRBaseFeatureAlias.h"
 #include "QVRNameUtil.h"
 #include "analysis/WorkbenchUtilities.h"
@@ -18,21 +18,14 @@
 
 namespace {
 
-bool IsJob(const ZFXISpecObject_var& feature) {
-    return feature != nullptr && feature->GetLateType() == LateTypes::QVRJobLT;
-}
-
-ZFXUnicodeString BaseOf(const ProposeRequest& request, ZFXISpecObject_var feature) {
-    ZFXUnicodeString base = ToUnicode(request.base);
-    if (IsJob(feature) && !base.IsNull() && base != kJobBase)
+/// Returns the base name of the request or, by default, that of the feature's late type.
+ZFXUnicodeString BaseOf(const ProposeRequest& request, const ZFXISpecObject_var& feature) {
+    const ZFXUnicodeString given = ToUnicode(request.base);
+    if (IsJob(feature) && !given.IsNull() && given != kJobBase)
         ThrowBadInput(request.document, "the base name of a job is always \"Job-\"; omit --base");
+    const ZFXUnicodeString base = given.IsNull() ? BaseNameOf(feature) : given;
     if (!base.IsNull())
         return base;
-    std::ignore = QVRNameUtil::CreateBaseName(feature, base); // empty on failure
-    if (!base.IsNull())
-        return base;
-    if (IsJob(feature))
-        return kJobBase;
     const std::string type = feature == nullptr ? "" : feature->GetLateType().ConvertToChar();
     ThrowBadInput(request.document, "\"" + request.feature + "\" has the late type \"" + type +
                                         "\", which has no base name; specify one with --base");
