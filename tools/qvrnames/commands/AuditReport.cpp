@@ -7,28 +7,20 @@
 #include "document/FeaturePaths.h"
 #include "document/KnownTypes.h"
 
-#include "QVRNameUtil.h"
-
 #include <algorithm>
 #include <map>
 #include <set>
-#include <tuple>
 #include <unordered_map>
 #include <unordered_set>
 #include <utility>
 
 namespace {
 
-/// Returns the findings about the stored names of the named entries, in document order.
-std::vector<Finding> CheckEntries(const LoadedDocument& loaded, const std::vector<std::uint32_t>& named) {
+/// Returns the findings about the names of features, in document order.
+std::vector<Finding> CheckFeatures(const LoadedDocument& loaded) {
     const EntriesByObject entryOf = IndexByObject(loaded);
-    ZFXListValZFXISpecObject_var features;
-    for (const std::uint32_t entry : named)
-        features.Append(loaded.entries[entry].feature);
-    ZFXListVal<QVRNameFinding> found;
-    std::ignore = QVRNameUtil::CheckNames(features, found); // always S_OK
     std::vector<Finding> findings;
-    for (const QVRNameFinding& finding : found)
+    for (const QVRNameFinding& finding : CheckStoredNames(loaded))
         findings.push_back(
             {entryOf.at(ZFXIdentityOf(finding.feature)), finding.name.ConvertToChar(), VerdictOf(finding, entryOf)});
     return findings;
@@ -104,8 +96,7 @@ std::vector<ReportedFinding> Reported(const LoadedDocument& loaded, const std::v
 }
 
 void FillReport(const LoadedDocument& loaded, bool withDeck, DocumentReport& report) {
-    const std::vector<std::uint32_t> named = NamedEntries(loaded);
-    const std::vector<Finding> refusals = CheckEntries(loaded, named);
+    const std::vector<Finding> refusals = CheckFeatures(loaded);
     const std::vector<Finding> deck = withDeck ? CheckDeck(BuildDeck(loaded), loaded) : std::vector<Finding>();
     const std::vector<UnknownType> unknownTypes = UnknownTypes(loaded);
     std::set<std::pair<std::uint32_t, DocumentKey>> keys;
@@ -118,7 +109,7 @@ void FillReport(const LoadedDocument& loaded, bool withDeck, DocumentReport& rep
     for (const UnknownType& unknown : unknownTypes)
         keys.emplace(unknown.first, DocumentKey::Type);
     const References references(loaded, keys);
-    report.checked = named.size();
+    report.checked = NamedEntries(loaded).size();
     report.refusals = Reported(loaded, refusals, references);
     for (ReportedFinding& finding : Reported(loaded, deck, references))
         (finding.rule == kDeckCharacter ? report.warnings : report.deckFaults).push_back(std::move(finding));

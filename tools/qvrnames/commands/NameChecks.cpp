@@ -8,6 +8,7 @@
 
 #include <cstdint>
 #include <cstdio>
+#include <tuple>
 
 namespace {
 
@@ -30,6 +31,15 @@ Verdict VerdictOf(HRESULT code, const char* operation, const char* requirement) 
     if (ZFXError* error = ZFXError::ZFXGetLastError(code, nullptr))
         return {true, error->GetMsgId(), error->GetNLSMessage().ConvertToChar()};
     return FailedWithoutError(code, operation, requirement);
+}
+
+ZFXListVal<QVRNameFinding> CheckStoredNames(const LoadedDocument& loaded) {
+    ZFXListValZFXISpecObject_var features;
+    for (const std::uint32_t entry : NamedEntries(loaded))
+        features.Append(loaded.entries[entry].feature);
+    ZFXListVal<QVRNameFinding> findings;
+    std::ignore = QVRNameUtil::CheckNames(features, findings); // always S_OK
+    return findings;
 }
 
 Verdict VerdictOf(const QVRNameFinding& finding, const EntriesByObject& entries) {

@@ -37,5 +37,7 @@ struct Finding {
 /// Checks the characters of a file name.
 [[nodiscard]] Verdict CheckFileName(const ZFXUnicodeString& name);
 
+/// Checks the stored names of the named entries. Returns the findings in document order.
+[[nodiscard]] ZFXListVal<QVRNameFinding> CheckStoredNames(const LoadedDocument& loaded);
 /// Returns the verdict for a finding of the naming module.
 [[nodiscard]] Verdict VerdictOf(const QVRNameFinding& finding, const EntriesByObject& entries);

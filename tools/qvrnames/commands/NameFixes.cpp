@@ -77,15 +77,12 @@ ZFXUnicodeString NumberingBase(const ZFXUnicodeString& name) {
 class NameFixer {
 public:
     explicit NameFixer(const LoadedDocument& loaded)
-        : m_loaded(loaded), m_named(NamedEntries(loaded)), m_entryOf(IndexByObject(loaded)) {
-        for (const Entry entry : m_named)
-            m_features.Append(loaded.entries[entry].feature);
-    }
+        : m_loaded(loaded), m_named(NamedEntries(loaded)), m_entryOf(IndexByObject(loaded)) {}
 
     std::map<Entry, NameFix> Run() {
-        NameFindings findings = Check();
+        NameFindings findings = CheckStoredNames(m_loaded);
         for (const QVRNameFinding& finding : findings) {
-            const Entry entry = m_entryOf.at(ZFXIdentityOf(finding.feature));
+            const Entry entry = EntryOf(finding);
             Fix& fix = m_fixes.try_emplace(entry, Fix{{VerdictOf(finding, m_entryOf), NameOf(entry)}}).first->second;
             const bool isText = BreaksTextRule(finding);
             fix.isTextBroken |= isText;
@@ -94,7 +91,7 @@ public:
         }
         QVRGenI18NUtils::Instance()->ResetAllLists();
         while (CleanTexts(findings) || NumberClashes(findings) || LeaveRest(findings))
-            findings = Check();
+            findings = CheckStoredNames(m_loaded);
         QVRGenI18NUtils::Instance()->ResetAllLists();
         std::map<Entry, NameFix> fixes;
         for (auto& [entry, fix] : m_fixes) {
@@ -111,12 +108,7 @@ private:
         ZFXUnicodeString base;
     };
 
-    NameFindings Check() const {
-        NameFindings findings;
-        std::ignore = QVRNameUtil::CheckNames(m_features, findings); // always S_OK
-        return findings;
-    }
-
+    Entry EntryOf(const QVRNameFinding& finding) const { return m_entryOf.at(ZFXIdentityOf(finding.feature)); }
     std::string NameOf(Entry entry) const { return m_loaded.entries[entry].feature.StoredAlias().ConvertToChar(); }
     void SetName(Entry entry, const std::string& name) const {
         MemoryFeature feature = m_loaded.entries[entry].feature;
@@ -146,7 +138,7 @@ private:
         bool hasFaults = false;
         std::vector<NumberRequest> requests;
         for (const QVRNameFinding& finding : findings) {
-            const Entry entry = m_entryOf.at(ZFXIdentityOf(finding.feature));
+            const Entry entry = EntryOf(finding);
             if (!CanChange(entry) || !BreaksTextRule(finding))
                 continue;
             hasFaults = true;
@@ -180,8 +172,7 @@ private:
             const auto other = m_entryOf.find(ZFXIdentityOf(finding.other));
             if (!IsClash(finding) || other == m_entryOf.end())
                 continue;
-            const auto [low, high] =
-                std::minmax({rank(first(m_entryOf.at(ZFXIdentityOf(finding.feature)))), rank(first(other->second))});
+            const auto [low, high] = std::minmax({rank(first(EntryOf(finding))), rank(first(other->second))});
             earlier[high.second] = low.second;
         }
         std::vector<NumberRequest> requests;
@@ -200,7 +191,7 @@ private:
     bool LeaveRest(const NameFindings& findings) {
         bool isLeft = false;
         for (const QVRNameFinding& finding : findings)
-            if (const Entry entry = m_entryOf.at(ZFXIdentityOf(finding.feature)); CanChange(entry)) {
+            if (const Entry entry = EntryOf(finding); CanChange(entry)) {
                 Leave(entry, kNoName);
                 isLeft = true;
             }
@@ -250,7 +241,6 @@ private:
     const LoadedDocument& m_loaded;
     const std::vector<Entry> m_named;
     const EntriesByObject m_entryOf;
-    ZFXListValZFXISpecObject_var m_features; // of m_named
     std::map<Entry, Fix> m_fixes;
 };
 
