@@ -155,31 +155,41 @@ private:
         return hasFaults;
     }
 
-    /// Appends numbers to the names that clash, except the first of each group. Names that must not change come first,
-    /// then those whose text is legal, then the others, each in document order. Returns false if no such name clashes.
-    bool NumberClashes(const NameFindings& findings) {
-        std::vector<Entry> earlier(m_loaded.entries.size()); // of a group; the first refers to itself
+    /// Returns the rank of a name: the lowest of several that clash is kept. Names that must not change come first,
+    /// then those whose former text is legal, then the others, each in document order.
+    std::pair<int, Entry> RankOf(Entry entry) const {
+        return {!CanChange(entry) ? 0 : m_fixes.at(entry).isTextBroken ? 2 : 1, entry};
+    }
+
+    /// Returns by entry the first of the names that clash with each other, or the entry itself if its name is unique.
+    std::vector<Entry> FirstOfClashes(const NameFindings& findings) const {
+        std::vector<Entry> earlier(m_loaded.entries.size()); // of the same group; the first refers to itself
         std::iota(earlier.begin(), earlier.end(), Entry{0});
-        const auto first = [&](Entry entry) {
+        const auto first = [&](Entry entry) { // shortens the path to the first one
             while (earlier[entry] != entry)
                 entry = earlier[entry] = earlier[earlier[entry]];
             return entry;
-        };
-        const auto rank = [&](Entry entry) {
-            return std::pair(!CanChange(entry) ? 0 : m_fixes.at(entry).isTextBroken ? 2 : 1, entry);
         };
         for (const QVRNameFinding& finding : findings) {
             const auto other = m_entryOf.find(ZFXIdentityOf(finding.other));
             if (!IsClash(finding) || other == m_entryOf.end())
                 continue;
-            const auto [low, high] = std::minmax({rank(first(EntryOf(finding))), rank(first(other->second))});
+            const auto [low, high] = std::minmax({RankOf(first(EntryOf(finding))), RankOf(first(other->second))});
             earlier[high.second] = low.second;
         }
+        for (Entry& entry : earlier)
+            entry = first(entry);
+        return earlier;
+    }
+
+    /// Appends numbers to the names that clash, except the first of each group. Returns false if no name can change.
+    bool NumberClashes(const NameFindings& findings) {
+        const std::vector<Entry> first = FirstOfClashes(findings);
         std::vector<NumberRequest> requests;
         for (const Entry entry : m_named) {
-            if (first(entry) == entry || !CanChange(entry))
+            if (first[entry] == entry || !CanChange(entry))
                 continue;
-            const MemoryFeature kept = m_loaded.entries[first(entry)].feature;
+            const MemoryFeature kept = m_loaded.entries[first[entry]].feature;
             const ZFXUnicodeString name = kept.StoredAlias();
             requests.push_back({entry, name.IsNull() != 0 ? BaseNameOf(kept) : NumberingBase(name)});
         }
