@@ -117,6 +117,7 @@ bool Offers(const ZFXISpecObject_var& feature) {
 struct SectionType {
     const char* title;
     const char* key;
+    bool isPerCase;
     bool (*matches)(const ZFXISpecObject_var& feature); ///< null: every object that matches no other section
     std::vector<Names> (*namesOf)(const Features& features);
     std::vector<DeckColumn> columns;
@@ -129,30 +130,35 @@ const std::vector<SectionType>& SectionTypes() {
     static const std::vector<SectionType> types{
         {"FEATURE",
          "features",
+         true,
          nullptr,
          Each<FeatureNames>,
          {kDisplay, {"SOLVER NAME", "solverName", true}, {"GENERIC NAME", "genericName", false}}},
         {"MESH PART",
          "meshParts",
+         false,
          Offers<ZFXIMSHMeshPart_var>,
          MeshPartNames,
          {kDisplay, {"INSTANCE", "instanceName", true}, {"PART", "partName", true}, {"TAG", "tag", false}}},
         {"MATERIAL",
          "materials",
+         false,
          Offers<ZFXIMaterialFeature_var>,
          MaterialNames,
          {kDisplay, {"NAME", "materialName", true}, {"GENERIC NAME", "genericName", false}}},
         {"SUPPORT",
          "supports",
+         false,
          Offers<ZFXISamAnalysisSupport_var>,
          Each<SupportNames>,
          {kDisplay, {"GROUP", "group", false}}},
         {"CONNECTION DESIGN",
          "connectionDesigns",
+         false,
          Offers<QVRISamAnalysisConnectionDesign_var>,
          Each<DesignNames>,
          {kDisplay, {"MASTER GROUP", "masterGroup", false}, {"SLAVE GROUP", "slaveGroup", false}}},
-        {"JOB", "jobs", IsJob, Each<JobNames>, {{"NAME", "name", true}}},
+        {"JOB", "jobs", false, IsJob, Each<JobNames>, {{"NAME", "name", true}}},
     };
     return types;
 }
@@ -183,7 +189,7 @@ bool IsInDeck(const DocumentEntry& entry, const ZFXISpecObject_var& feature) {
 std::vector<DeckSection> BuildDeck(const LoadedDocument& loaded) {
     std::vector<DeckSection> deck;
     for (const SectionType& type : SectionTypes())
-        deck.push_back({type.title, type.key, type.columns, {}});
+        deck.push_back({type.title, type.key, type.isPerCase, type.columns, {}});
     std::vector<Features> featuresOf(deck.size());
     for (std::uint32_t entry = 0; entry < loaded.entries.size(); ++entry) {
         const ZFXISpecObject_var feature = loaded.entries[entry].feature;

@@ -24,6 +24,7 @@ struct DeckColumn {
 struct DeckSection {
     const char* title; ///< heading of the first column, the object
     const char* key;   ///< in JSON
+    bool isPerCase;    ///< each case has its own deck, so objects of different cases may have one name
     std::vector<DeckColumn> columns;
     std::vector<DeckRow> rows;
 };

@@ -3,7 +3,6 @@
 #include "commands/Rules.h"
 #include "document/FeaturePaths.h"
 
-#include <string_view>
 #include <unordered_map>
 #include <utility>
 
@@ -22,43 +21,26 @@ std::string OtherPath(const LoadedDocument& loaded, std::uint32_t other, std::ui
     return path == DisplayPath(loaded, entry) ? PointerOf(loaded, other) : path;
 }
 
-/// The names in one column and the objects that have them. Features of different cases do not clash, because each case
-/// has its own deck.
-class UsedNames {
-public:
-    explicit UsedNames(const LoadedDocument& loaded) : m_loaded(loaded) {}
+/// A name in a column, and the case with the deck or 0. Two names that clash are equal.
+struct DeckName {
+    std::uint32_t analysisCase;
+    ZFXUnicodeString name;
 
-    /// Returns the object that already has the name. Records `entry` and returns nothing if the name is new.
-    std::optional<std::uint32_t> FindOwnerOrAdd(const DeckSection& section, std::uint32_t entry,
-                                                const std::string& name) {
-        const std::uint32_t analysisCase = std::string_view(section.key) == "features" ? CaseOf(m_loaded, entry) : 0;
-        const auto [owner, isNew] = m_owners.try_emplace({analysisCase, name.c_str()}, entry);
-        return isNew ? std::nullopt : std::optional(owner->second);
+    friend bool operator==(const DeckName& a, const DeckName& b) {
+        return a.analysisCase == b.analysisCase && a.name.Compare(b.name) != 0;
     }
+};
 
-private:
-    struct Key {
-        std::uint32_t analysisCase;
-        ZFXUnicodeString name;
-
-        friend bool operator==(const Key& a, const Key& b) {
-            return a.analysisCase == b.analysisCase && a.name.Compare(b.name) != 0;
-        }
-    };
-    struct HashOfKey {
-        std::size_t operator()(const Key& key) const {
-            return key.name.HashIgnoringCase() + std::size_t{31} * key.analysisCase;
-        }
-    };
-
-    const LoadedDocument& m_loaded;
-    std::unordered_map<Key, std::uint32_t, HashOfKey> m_owners;
+struct HashOfDeckName {
+    std::size_t operator()(const DeckName& name) const {
+        return name.name.HashIgnoringCase() + std::size_t{31} * name.analysisCase;
+    }
 };
 
 /// Appends the findings in one column.
 void CheckColumn(const DeckSection& section, std::size_t column, const LoadedDocument& loaded,
                  std::vector<Finding>& findings) {
-    UsedNames usedNames(loaded);
+    std::unordered_map<DeckName, std::uint32_t, HashOfDeckName> owners; // the first object with each name
     for (const DeckRow& row : section.rows) {
         if (!row.names[column])
             continue;
@@ -72,9 +54,12 @@ void CheckColumn(const DeckSection& section, std::size_t column, const LoadedDoc
             add({true, kDeckCharacter,
                  "The name contains a line break, a comma or an asterisk. These characters have a special meaning "
                  "in the deck."});
-        if (const auto other = usedNames.FindOwnerOrAdd(section, row.entry, name))
+        const std::uint32_t analysisCase = section.isPerCase ? CaseOf(loaded, row.entry) : 0;
+        const auto [owner, isNew] = owners.try_emplace({analysisCase, name.c_str()}, row.entry);
+        if (!isNew)
             add({true, kDuplicateDeckName,
-                 "The deck also uses this name for " + OtherPath(loaded, *other, row.entry) + ".", other});
+                 "The deck also uses this name for " + OtherPath(loaded, owner->second, row.entry) + ".",
+                 owner->second});
     }
 }
 
