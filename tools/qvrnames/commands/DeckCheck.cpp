@@ -8,13 +8,6 @@
 
 namespace {
 
-/// Returns the case above an object, or the model if there is none.
-std::uint32_t CaseOf(const LoadedDocument& loaded, std::uint32_t entry) {
-    while (entry != 0 && ZFXISamAnalysisCase_var(loaded.entries[entry].feature) == nullptr)
-        entry = loaded.entries[entry].parent;
-    return entry;
-}
-
 /// Returns the path of `other`, or its JSON pointer if `entry` has the same path.
 std::string OtherPath(const LoadedDocument& loaded, std::uint32_t other, std::uint32_t entry) {
     const std::string path = DisplayPath(loaded, other);

@@ -213,39 +213,33 @@ private:
     void AppendNumbers(const std::vector<NumberRequest>& requests) {
         struct Group {
             std::vector<Entry> entries;
-            ZFXListValZFXBaseUnknown_var scope; ///< only the features with this base, so that the time is linear
+            ZFXListValZFXBaseUnknown_var features; ///< only those with this base, so that the time is linear
         };
         if (requests.empty())
             return;
-        std::map<std::pair<Entry, std::string>, Group> groups; // by case and base
+        constexpr Entry kWholeDocument = DocumentEntry::kNone;
+        std::map<std::pair<Entry, std::string>, Group> groups; // by case or kWholeDocument, and base
         for (const auto& [entry, base] : requests) {
             Fix& fix = m_fixes.at(entry);
-            groups[{fix.isNumbered ? DocumentEntry::kNone : CaseOf(entry), base.ConvertToChar()}].entries.push_back(
-                entry);
+            const Entry scope = fix.isNumbered ? kWholeDocument : CaseOf(m_loaded, entry);
+            groups[{scope, base.ConvertToChar()}].entries.push_back(entry);
             fix.isNumbered = true;
         }
         for (const Entry entry : m_named) {
             const MemoryFeature feature = m_loaded.entries[entry].feature;
             const std::string base = NumberingBase(feature.StoredAlias()).ConvertToChar();
-            for (const Entry scope : {CaseOf(entry), DocumentEntry::kNone})
+            for (const Entry scope : {CaseOf(m_loaded, entry), kWholeDocument})
                 if (const auto group = groups.find({scope, base}); group != groups.end())
-                    group->second.scope.Append(feature);
+                    group->second.features.Append(feature);
         }
         for (const auto& [key, group] : groups) {
             ZFXUnicodeString base(key.second.c_str());
             ZFXListValZFXUnicodeString names;
-            std::ignore = QVRNameUtil::GetNextUniqueNames(base, group.scope, static_cast<int>(group.entries.size()),
+            std::ignore = QVRNameUtil::GetNextUniqueNames(base, group.features, static_cast<int>(group.entries.size()),
                                                           names); // S_OK, because there is an entry
             for (std::size_t i = 0; i < group.entries.size(); ++i)
                 Change(group.entries[i], names[static_cast<int>(i) + 1]);
         }
-    }
-
-    /// Returns the case that contains the entry in the file, or the model.
-    Entry CaseOf(Entry entry) const {
-        while (entry != 0 && m_loaded.entries[entry].key != DocumentKey::Cases)
-            entry = m_loaded.entries[entry].parent;
-        return entry;
     }
 
     const LoadedDocument& m_loaded;

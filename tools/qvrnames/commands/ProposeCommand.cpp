@@ -32,7 +32,7 @@ ZFXUnicodeString BaseOf(const ProposeRequest& request, const ZFXISpecObject_var&
 }
 
 /// Returns the case that contains the feature, or an empty handle, which means the current case.
-ZFXISamAnalysisCase_var CaseOf(const ZFXISpecObject_var& feature) {
+ZFXISamAnalysisCase_var ParentCaseOf(const ZFXISpecObject_var& feature) {
     ZFXISpecObject_var parentCase;
     if (Failed(QVRAnalysisEntityUtils::GetParentCaseFromObject(feature, parentCase)))
         return {};
@@ -48,7 +48,7 @@ HRESULT SetNextName(ZFXISpecObject_var feature, const ZFXUnicodeString& base, ZF
         name = base;
         return QVRNameUtil::GetUniqueNameForMeshPart(feature, name);
     }
-    ZFXISamAnalysisCase_var analysisCase = CaseOf(feature);
+    ZFXISamAnalysisCase_var analysisCase = ParentCaseOf(feature);
     ZFXListValZFXUnicodeString names;
     const HRESULT code = QVRNameUtil::GetUniqueNames(base, feature, analysisCase, 1, names);
     if (!Failed(code))

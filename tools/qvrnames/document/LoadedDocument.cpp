@@ -12,6 +12,12 @@ std::vector<std::uint32_t> NamedEntries(const LoadedDocument& loaded) {
     return named;
 }
 
+std::uint32_t CaseOf(const LoadedDocument& loaded, std::uint32_t entry) {
+    while (entry != 0 && loaded.entries[entry].key != DocumentKey::Cases)
+        entry = loaded.entries[entry].parent;
+    return entry;
+}
+
 EntriesByObject IndexByObject(const LoadedDocument& loaded) {
     EntriesByObject entries;
     for (std::uint32_t entry = 0; entry < loaded.entries.size(); ++entry)

@@ -36,8 +36,11 @@ struct LoadedDocument {
 /// Returns the entries that have a name in the file, in document order.
 [[nodiscard]] std::vector<std::uint32_t> NamedEntries(const LoadedDocument& loaded);
 
-/// Returns the entries by the identity of their objects.
+/// Returns the case around an entry in the file, or the model if there is none.
+[[nodiscard]] std::uint32_t CaseOf(const LoadedDocument& loaded, std::uint32_t entry);
+
 using EntriesByObject = std::unordered_map<const ZFXBaseUnknown*, std::uint32_t>;
+/// Returns the entries by the identity of their objects.
 [[nodiscard]] EntriesByObject IndexByObject(const LoadedDocument& loaded);
 
 /// Returns the offset of the value of the entry's key in the file, or of its JSON object if it lacks the key.
