@@ -40,26 +40,31 @@ std::vector<std::string> FilesOf(const std::vector<std::string>& arguments) {
     return files;
 }
 
-std::string Position(const ReportedFinding& finding) {
+/// Returns "LINE:COLUMN".
+std::string PositionOf(const ReportedFinding& finding) {
     return std::to_string(finding.object.position.line) + ":" + std::to_string(finding.object.position.column);
 }
 
 /// Returns the name that breaks the rule, and the column of a name in the deck.
-std::string NameIn(const ReportedFinding& finding) {
+std::string NameCell(const ReportedFinding& finding) {
     if (finding.rule == kUnknownType)
         return "";
     return (finding.name.empty() ? "\"\"" : Printable(finding.name)) +
            (finding.deckColumn.empty() ? "" : "  (deck, " + finding.deckColumn + ")");
 }
 
-void PrintFindings(const std::vector<const ReportedFinding*>& findings, Console console) {
+/// Prints the findings of one document.
+void PrintFindings(const DocumentReport& report, const AuditRequest& request, bool withHeading, Console console) {
+    const std::vector<const ReportedFinding*> findings = FindingsOf(report, request.isStrict);
     if (findings.empty())
         return;
+    if (withHeading)
+        console.out << Styled(Printable(report.file), Style::Heading, console.screen) << '\n';
     Table table{{"LINE", "FEATURE", "NAME", "RULE", "OTHER FEATURE", "TEXT"}, {}};
     for (const ReportedFinding* finding : findings)
-        table.rows.push_back({{Position(*finding)},
+        table.rows.push_back({{PositionOf(*finding)},
                               {Printable(finding->object.path)},
-                              {NameIn(*finding)},
+                              {NameCell(*finding)},
                               {finding->rule, Style::Refusal},
                               {finding->other ? Printable(finding->other->path) : ""},
                               {Printable(finding->message)}});
@@ -67,37 +72,32 @@ void PrintFindings(const std::vector<const ReportedFinding*>& findings, Console 
     console.out << '\n';
 }
 
-/// Prints the findings of one document.
-void PrintDocument(const DocumentReport& report, const AuditRequest& request, bool withHeading, Console console) {
-    if (request.isSummary || !report.error.empty())
+/// Prints the number of findings by rule.
+void PrintRules(const std::vector<DocumentReport>& reports, const AuditRequest& request, Console console) {
+    std::map<std::string, std::size_t> byRule;
+    for (const DocumentReport& report : reports)
+        for (const ReportedFinding* finding : FindingsOf(report, request.isStrict))
+            ++byRule[finding->rule];
+    if (byRule.empty())
         return;
-    const std::vector<const ReportedFinding*> findings = FindingsOf(report, request.isStrict);
-    if (withHeading && !findings.empty())
-        console.out << Styled(Printable(report.file), Style::Heading, console.screen) << '\n';
-    PrintFindings(findings, console);
+    Table table{{"RULE", "FINDINGS"}, {}};
+    for (const auto& [rule, count] : byRule)
+        table.rows.push_back({{rule, Style::Refusal}, {std::to_string(count)}});
+    PrintTable(console.out, table, console.screen);
+    console.out << '\n';
 }
 
-/// Prints the sums over all documents and, on request, the number of findings by rule.
-void PrintSummary(const std::vector<DocumentReport>& reports, const AuditRequest& request, Console console) {
+/// Prints the sums over all documents.
+void PrintTotals(const std::vector<DocumentReport>& reports, const AuditRequest& request, Console console) {
     std::size_t checked = 0;
     std::size_t refusals = 0;
     std::size_t deckFaults = 0;
     std::size_t warnings = 0;
-    std::map<std::string, std::size_t> byRule;
     for (const DocumentReport& report : reports) {
         checked += report.checked;
         refusals += report.refusals.size();
         deckFaults += report.deckFaults.size();
         warnings += report.warnings.size();
-        for (const ReportedFinding* finding : FindingsOf(report, request.isStrict))
-            ++byRule[finding->rule];
-    }
-    if (request.isSummary && !byRule.empty()) {
-        Table table{{"RULE", "FINDINGS"}, {}};
-        for (const auto& [rule, count] : byRule)
-            table.rows.push_back({{rule, Style::Refusal}, {std::to_string(count)}});
-        PrintTable(console.out, table, console.screen);
-        console.out << '\n';
     }
     if (reports.size() > 1)
         console.out << Counted(reports.size(), "document") << ", ";
@@ -115,34 +115,32 @@ void PrintNotices(const DocumentReport& report, const AuditRequest& request, Con
         console.err << "qvrnames: " << Printable(report.error) << '\n';
     if (!request.isStrict)
         for (const ReportedFinding& finding : report.warnings)
-            console.err << "qvrnames: " << Printable(DisplayFileName(report.file)) << ":" << Position(finding)
+            console.err << "qvrnames: " << Printable(DisplayFileName(report.file)) << ":" << PositionOf(finding)
                         << ": warning: " << (finding.name.empty() ? "" : "\"" + Printable(finding.name) + "\": ")
                         << Printable(finding.message) << '\n';
 }
 
-int ExitCodeOf(const std::vector<DocumentReport>& reports, bool isStrict) {
-    ExitCode code = kSuccess;
-    for (const DocumentReport& report : reports)
-        code = std::max(code, !report.error.empty()                  ? kBadInput
-                              : FindingsOf(report, isStrict).empty() ? kSuccess
-                                                                     : kRefused);
-    return code;
+ExitCode ExitCodeOf(const DocumentReport& report, const AuditRequest& request) {
+    if (!report.error.empty())
+        return kBadInput;
+    const bool isAccepted = !request.newBaseline.empty() || FindingsOf(report, request.isStrict).empty();
+    return isAccepted ? kSuccess : kRefused;
 }
 
 } // namespace
 
-int AuditDocuments(const AuditRequest& request, Console console) {
-    if (!request.format.empty() && console.isJson && request.format != "json")
+int AuditDocuments(AuditRequest request, Console console) {
+    if (request.format.empty())
+        request.format = console.isJson ? "json" : "text";
+    if (console.isJson && request.format != "json")
         throw BadInput("--json and --format " + request.format + " exclude each other; omit one of them");
-    AuditRequest resolved = request;
-    if (resolved.format.empty())
-        resolved.format = console.isJson ? "json" : "text";
-    const bool isText = resolved.format == "text";
+    const bool isText = request.format == "text";
     std::optional<Baseline> baseline;
     if (!request.baseline.empty())
         baseline.emplace(request.baseline);
     const std::vector<std::string> files = FilesOf(request.documents);
     std::vector<DocumentReport> reports;
+    ExitCode code = kSuccess;
     Progress progress(console.err, console.screen.showsErrors, files.size());
     for (const std::string& file : files) {
         progress.Show(reports.size());
@@ -150,20 +148,22 @@ int AuditDocuments(const AuditRequest& request, Console console) {
         progress.Clear();
         if (baseline)
             baseline->RemoveKnown(reports.back());
+        code = std::max(code, ExitCodeOf(reports.back(), request));
         PrintNotices(reports.back(), request, console);
-        if (isText)
-            PrintDocument(reports.back(), request, files.size() > 1, console);
+        if (isText && !request.isSummary)
+            PrintFindings(reports.back(), request, files.size() > 1, console);
     }
-    if (!isText)
-        PrintReports(reports, resolved, console.out);
-    else if (files.size() > 1 || reports.front().error.empty())
-        PrintSummary(reports, request, console);
+    if (!isText) {
+        PrintReports(reports, request, console.out);
+    } else if (files.size() > 1 || reports.front().error.empty()) {
+        if (request.isSummary)
+            PrintRules(reports, request, console);
+        PrintTotals(reports, request, console);
+    }
     if (baseline)
         for (const std::string& entry : baseline->Outdated(reports))
             console.err << "qvrnames: " << Printable(request.baseline + ": no longer found: " + entry) << '\n';
-    const int code = ExitCodeOf(reports, request.isStrict);
-    if (request.newBaseline.empty())
-        return code;
-    Baseline::Write(request.newBaseline, reports);
-    return code == kBadInput ? kBadInput : kSuccess;
+    if (!request.newBaseline.empty())
+        Baseline::Write(request.newBaseline, reports);
+    return code;
 }

@@ -38,9 +38,11 @@ struct AuditRequest {
     std::string newBaseline;            ///< the file to write all findings to; empty: none
     std::string format;                 ///< "text", "json", "sarif" or "junit"; empty: that of the console
 };
-/// Audits the documents in the order of the arguments. Returns kBadInput if a document is unusable; otherwise kRefused
-/// if there are findings, else kSuccess.
-int AuditDocuments(const AuditRequest& request, Console console);
+/// Audits the documents in the order of the arguments. Returns
+/// - kBadInput if a document is unusable;
+/// - kRefused if there are findings that are neither ignored nor written to `newBaseline`;
+/// - kSuccess otherwise.
+int AuditDocuments(AuditRequest request, Console console);
 
 int ShowDeck(const std::string& document, Console console);
 
