@@ -37,7 +37,7 @@ void Connect(LinkKind kind, MemoryFeature from, MemoryFeature to) {
 class Fathers {
 public:
     explicit Fathers(const LoadedDocument& loaded) {
-        std::uint32_t history = 0;
+        std::uint32_t history = 0; // the last one; it comes after the case of a step if it belongs to this case
         for (const DocumentEntry& entry : loaded.entries) {
             const bool isJobs = entry.key == DocumentKey::JobContainers || entry.key == DocumentKey::Jobs;
             const bool underHistory = entry.key == DocumentKey::Steps && history > entry.parent;
@@ -71,9 +71,9 @@ private:
 } // namespace
 
 std::uint32_t DocumentLinks::TargetOf(const LoadedDocument& loaded, const Link& link) {
-    if (!link.to || link.to.Kind() == JsonKind::Null)
+    if (!link.id)
         return link.target;
-    const std::string id = link.to.Text();
+    const std::string id = link.id.Text();
     const auto found = loaded.ids.find(id);
     if (found != loaded.ids.end())
         return found->second;
@@ -81,7 +81,7 @@ std::uint32_t DocumentLinks::TargetOf(const LoadedDocument& loaded, const Link& 
     for (const auto& [name, entry] : loaded.ids)
         known.push_back(name);
     std::sort(known.begin(), known.end());
-    link.to.ThrowError("no object has the id \"" + id + "\"; " +
+    link.id.ThrowError("no object has the id \"" + id + "\"; " +
                        (known.empty() ? "the file contains no ids" : Suggestion(id, known)));
 }
 
@@ -90,7 +90,7 @@ void DocumentLinks::ResolveLinks(LoadedDocument& loaded) const {
     for (const Link& link : m_links) {
         const std::uint32_t target = TargetOf(loaded, link);
         if (link.kind == LinkKind::Member && target == link.from)
-            link.to.ThrowError("a set cannot contain itself");
+            link.id.ThrowError("a set cannot contain itself");
         if (link.kind == LinkKind::Father)
             fathers.Set(link.from, target);
         Connect(link.kind, loaded.entries[link.from].feature,
@@ -98,5 +98,5 @@ void DocumentLinks::ResolveLinks(LoadedDocument& loaded) const {
     }
     for (const Link& link : m_links)
         if (link.kind == LinkKind::Father && fathers.IsOnCycle(link.from))
-            link.to.ThrowError("the fathers form a cycle; change a key \"father\"");
+            link.id.ThrowError("the fathers form a cycle; change a key \"father\"");
 }

@@ -9,9 +9,9 @@ enum class LinkKind { Father, PointedAtBy, Member, Group, Connector, MasterConne
 /// collected while the objects are created and resolved, in the order of the file, when all objects exist.
 class DocumentLinks {
 public:
-    /// Adds a reference by id: `to` is a string, or null for no father.
-    void Add(LinkKind kind, std::uint32_t from, JsonValue to) { m_links.push_back({kind, from, to}); }
-    /// Adds a reference to an entry.
+    /// Adds a reference by id, which is a string.
+    void Add(LinkKind kind, std::uint32_t from, JsonValue id) { m_links.push_back({kind, from, id}); }
+    /// Adds a reference to an entry, or to no object if `target` is kNone.
     void Add(LinkKind kind, std::uint32_t from, std::uint32_t target) { m_links.push_back({kind, from, {}, target}); }
     /// Connects the objects of the document. Throws BadInput for an unknown id, for a set that contains itself, and for
     /// fathers that form a cycle.
@@ -21,8 +21,8 @@ private:
     struct Link {
         LinkKind kind;
         std::uint32_t from;
-        JsonValue to;
-        std::uint32_t target = DocumentEntry::kNone;
+        JsonValue id;                                ///< no value: the reference has a target
+        std::uint32_t target = DocumentEntry::kNone; ///< if there is no id; kNone: no object
     };
     static std::uint32_t TargetOf(const LoadedDocument& loaded, const Link& link);
 

@@ -20,11 +20,10 @@ public:
         const JsonValue root = m_loaded.text.Root();
         const ObjectFields fields(root, MemoryKind::Model);
         m_loaded.entries.push_back({.feature = m_loaded.document.Model(), .offset = Offset(root)});
-        Describe(0, fields);
+        ApplyFields(0, fields);
         ReadChildren(0, MemoryKind::Model, fields);
         m_links.ResolveLinks(m_loaded);
-        if (m_firstIsCurrent)
-            m_loaded.document.MakeCurrent(m_firstCase);
+        m_loaded.document.MakeCurrent(m_currentCase);
     }
 
 private:
@@ -42,9 +41,11 @@ private:
             CreateObject(child, parent, lateType.c_str(), name ? ReadText(name) : ZFXUnicodeString());
         const auto entry = static_cast<std::uint32_t>(m_loaded.entries.size());
         m_loaded.entries.push_back({created, Offset(object), parent, index, child.key, static_cast<bool>(name)});
-        Describe(entry, fields);
-        if (child.kind == MemoryKind::Case)
-            DescribeCase(created, fields);
+        ApplyFields(entry, fields);
+        if (child.kind == MemoryKind::Case) {
+            ReadCurrent(created, fields[DocumentKey::Current]);
+            AddHistoryAndJobs(created, fields);
+        }
         ReadChildren(entry, child.kind, fields);
     }
 
@@ -104,12 +105,16 @@ private:
         return std::nullopt;
     }
 
-    void Describe(std::uint32_t entry, const ObjectFields& fields) {
+    /// Applies the keys that do not lead to objects below this one. Keeps the references until all objects exist.
+    void ApplyFields(std::uint32_t entry, const ObjectFields& fields) {
         fields.ApplyTo(m_loaded.entries[entry].feature);
         if (const JsonValue id = fields[DocumentKey::Id])
             RegisterId(id, entry);
-        if (const JsonValue father = fields[DocumentKey::Father])
-            AddLink(LinkKind::Father, entry, father, father.Kind() == JsonKind::Null);
+        const JsonValue father = fields[DocumentKey::Father];
+        if (father && father.Kind() == JsonKind::Null)
+            m_links.Add(LinkKind::Father, entry, DocumentEntry::kNone);
+        else if (father)
+            AddLink(LinkKind::Father, entry, father);
         if (const JsonValue group = fields[DocumentKey::Group])
             AddLink(LinkKind::Group, entry, group);
         AddLinks(LinkKind::PointedAtBy, entry, fields[DocumentKey::PointedAtBy]);
@@ -133,37 +138,32 @@ private:
         list.ForEachElement([&](std::size_t, JsonValue reference) { AddLink(kind, entry, reference); });
     }
 
-    void AddLink(LinkKind kind, std::uint32_t entry, JsonValue reference, bool isNone = false) {
-        if (!isNone)
-            ExpectKind(reference, JsonKind::String);
+    void AddLink(LinkKind kind, std::uint32_t entry, JsonValue reference) {
+        ExpectKind(reference, JsonKind::String);
         m_links.Add(kind, entry, reference);
     }
 
-    void DescribeCase(MemoryFeature created, const ObjectFields& fields) {
-        ReadCurrent(created, fields[DocumentKey::Current]);
+    /// Adds the history that a case has by default, and the job container for its key "jobs".
+    void AddHistoryAndJobs(MemoryFeature analysisCase, const ObjectFields& fields) {
         const JsonValue history = fields[DocumentKey::History];
         const JsonValue steps = fields[DocumentKey::Steps];
         if (steps && IsNullHistory(DocumentKey::History, history))
             steps.ThrowError("a case with \"history\": null cannot have steps");
         if (!history)
-            created.Add(MemoryKind::History, LateTypes::QVROruSimHistLT, {});
+            analysisCase.Add(MemoryKind::History, LateTypes::QVROruSimHistLT, {});
         m_jobs = {};
         if (fields[DocumentKey::Jobs])
-            m_jobs = created.Add(MemoryKind::JobContainer, LateTypes::QVRJobContainerLT, {});
+            m_jobs = analysisCase.Add(MemoryKind::JobContainer, LateTypes::QVRJobContainerLT, {});
     }
 
     /// Applies the key "current". By default the first case is current.
-    void ReadCurrent(MemoryFeature created, JsonValue current) {
-        if (!std::exchange(m_hasCase, true)) {
-            m_firstCase = created;
-            m_firstIsCurrent = !current;
-        }
-        if (!current || !ReadBool(current))
-            return;
-        if (std::exchange(m_hasCurrent, true))
+    void ReadCurrent(MemoryFeature analysisCase, JsonValue current) {
+        const bool isFirst = !std::exchange(m_hasCase, true);
+        const bool isCurrent = current && ReadBool(current);
+        if (isCurrent && std::exchange(m_hasCurrent, true))
             current.ThrowError("another case is already current; only one case can have \"current\": true");
-        m_firstIsCurrent = false;
-        m_loaded.document.MakeCurrent(created);
+        if (isCurrent || (isFirst && !current))
+            m_currentCase = analysisCase;
     }
 
     static bool IsNullHistory(DocumentKey key, JsonValue value) {
@@ -172,11 +172,10 @@ private:
 
     LoadedDocument& m_loaded;
     DocumentLinks m_links;
-    MemoryFeature m_firstCase;
-    MemoryFeature m_jobs; // the container for the key "jobs" of the case that is being read
+    MemoryFeature m_jobs;        // the container for the key "jobs" of the case that is being read
+    MemoryFeature m_currentCase; // empty: none
     bool m_hasCase = false;
-    bool m_firstIsCurrent = false;
-    bool m_hasCurrent = false;
+    bool m_hasCurrent = false; // a case has the key "current" with the value true
 };
 
 } // namespace
