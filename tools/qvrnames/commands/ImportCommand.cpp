@@ -3,6 +3,7 @@
 
 #include "commands/Commands.h"
 #include "document/CsvTable.h"
+#include "document/DocumentKeys.h"
 #include "document/EditDistance.h"
 #include "files/FileErrors.h"
 #include "files/WholeFile.h"
@@ -16,6 +17,7 @@
 #include <array>
 #include <filesystem>
 #include <map>
+#include <optional>
 #include <ostream>
 #include <system_error>
 #include <tuple>
@@ -32,25 +34,24 @@ enum class Use { Empty, Optional, Required };
 /// What a row becomes.
 struct RowKind {
     const char* name;
-    const char* owner; ///< the key of the object that contains all objects of the kind, or null
-    const char* key;
+    std::optional<DocumentKey> owner; ///< the object that contains all objects of the kind; nothing: that of the row
+    DocumentKey key;
     std::array<Use, kName> uses; ///< of the columns before the name
 };
 
 using enum Use;
 constexpr RowKind kRowKinds[] = {
-    {"feature", nullptr, "features", {Optional, Optional, Required, Required}},
-    {"step", nullptr, "steps", {Required, Empty, Empty, Required}},
-    {"job", nullptr, "jobs", {Required, Empty, Empty, Optional}},
-    {"material", nullptr, "materials", {Empty, Empty, Empty, Optional}},
-    {"property", "propertySet", "features", {Empty, Empty, Empty, Required}},
-    {"meshPart", "meshManager", "meshParts", {Empty, Empty, Empty, Optional}},
+    {"feature", {}, DocumentKey::Features, {Optional, Optional, Required, Required}},
+    {"step", {}, DocumentKey::Steps, {Required, Empty, Empty, Required}},
+    {"job", {}, DocumentKey::Jobs, {Required, Empty, Empty, Optional}},
+    {"material", {}, DocumentKey::Materials, {Empty, Empty, Empty, Optional}},
+    {"property", DocumentKey::PropertySet, DocumentKey::Features, {Empty, Empty, Empty, Required}},
+    {"meshPart", DocumentKey::MeshManager, DocumentKey::MeshParts, {Empty, Empty, Empty, Optional}},
 };
-constexpr const RowKind& kStepKind = kRowKinds[1];
 
 const RowKind& FindKind(const std::string& name, std::size_t line) {
     if (name.empty())
-        return kRowKinds[0];
+        return kRowKinds[0]; // the default, a feature
     std::vector<std::string> known;
     for (const RowKind& kind : kRowKinds) {
         if (name == kind.name)
@@ -84,19 +85,20 @@ public:
         CheckUses(cells, kind, row.line);
         std::size_t owner = 0;
         if (!cells[kCase].empty())
-            owner = FindOrAdd(owner, "cases", {{"name", cells[kCase]}});
+            owner = FindOrAdd(owner, DocumentKey::Cases, cells[kCase], {{"name", cells[kCase]}});
         if (!cells[kStep].empty())
-            owner = FindOrAdd(owner, "steps", {{"type", LateTypes::QVRGeneralStaticStepLT}, {"name", cells[kStep]}});
+            owner = FindOrAdd(owner, DocumentKey::Steps, cells[kStep],
+                              {{"type", LateTypes::QVRGeneralStaticStepLT}, {"name", cells[kStep]}});
         if (!cells[kSet].empty())
-            owner = FindOrAdd(owner, "sets", {{"type", cells[kSet]}});
-        if (kind.owner != nullptr)
-            owner = FindOrAdd(owner, kind.owner, Json::object());
+            owner = FindOrAdd(owner, DocumentKey::Sets, cells[kSet], {{"type", cells[kSet]}});
+        if (kind.owner)
+            owner = FindOrAdd(owner, *kind.owner, "", Json::object());
         Json object;
         if (!cells[kType].empty())
             object["type"] = cells[kType];
         object["name"] = cells[kName];
-        if (&kind == &kStepKind)
-            AddStep(owner, std::move(object));
+        if (kind.key == DocumentKey::Steps)
+            AddStep(owner, cells[kName], std::move(object));
         else
             AddBelow(owner, kind.key, std::move(object));
     }
@@ -105,17 +107,17 @@ public:
     Json Build(std::size_t node = 0) {
         Json json = std::move(m_nodes[node].json);
         for (const auto& [key, child] : m_nodes[node].children)
-            if (key.ends_with('s'))
-                json[key].push_back(Build(child));
+            if (IsList(key))
+                json[SpellingOf(key)].push_back(Build(child));
             else
-                json[key] = Build(child);
+                json[SpellingOf(key)] = Build(child);
         return json;
     }
 
 private:
     struct Node {
         Json json = Json::object();
-        std::vector<std::pair<std::string, std::size_t>> children = {}; ///< keys and nodes
+        std::vector<std::pair<DocumentKey, std::size_t>> children = {}; ///< and the keys that lead to them
         bool isDeclared = false; ///< a step that a row of the kind "step" describes
     };
 
@@ -131,15 +133,15 @@ private:
         }
     }
 
-    std::size_t AddBelow(std::size_t owner, const std::string& key, Json json) {
+    std::size_t AddBelow(std::size_t owner, DocumentKey key, Json json) {
         m_nodes.push_back({std::move(json)});
         m_nodes[owner].children.emplace_back(key, m_nodes.size() - 1);
         return m_nodes.size() - 1;
     }
 
-    /// Returns the container with this key and this name or type; adds it at its first use.
-    std::size_t FindOrAdd(std::size_t owner, const std::string& key, Json json) {
-        const std::string label = json.empty() ? "" : json.back().get<std::string>();
+    /// Returns the object to which the key leads and which has this label; adds it as `json` at its first use.
+    /// @param label  distinguishes objects with one key: the name of a case or step, the type of a set
+    std::size_t FindOrAdd(std::size_t owner, DocumentKey key, const std::string& label, Json json) {
         const auto [found, isNew] = m_containers.try_emplace({owner, key, label}, 0);
         if (isNew)
             found->second = AddBelow(owner, key, std::move(json));
@@ -148,18 +150,17 @@ private:
 
     /// Adds a step, or completes one that other rows have already used. A second row for a step is a second step with
     /// this name, so that an audit finds the duplicate.
-    void AddStep(std::size_t owner, Json json) {
-        const std::string name = json["name"].get<std::string>();
-        std::size_t step = FindOrAdd(owner, "steps", json);
+    void AddStep(std::size_t owner, const std::string& name, Json json) {
+        std::size_t step = FindOrAdd(owner, DocumentKey::Steps, name, json);
         if (m_nodes[step].isDeclared)
-            step = m_containers[{owner, "steps", name}] = AddBelow(owner, "steps", json);
+            step = m_containers[{owner, DocumentKey::Steps, name}] = AddBelow(owner, DocumentKey::Steps, json);
         m_nodes[step].json = std::move(json);
         m_nodes[step].isDeclared = true;
     }
 
     std::vector<std::size_t> m_columns; // of the fields of a row
     std::vector<Node> m_nodes{1};       // the first one is the document
-    std::map<std::tuple<std::size_t, std::string, std::string>, std::size_t> m_containers;
+    std::map<std::tuple<std::size_t, DocumentKey, std::string>, std::size_t> m_containers; // by owner, key and label
 };
 
 Json DocumentOf(const std::vector<CsvRow>& rows) {
@@ -171,7 +172,8 @@ Json DocumentOf(const std::vector<CsvRow>& rows) {
     return importer.Build();
 }
 
-void WriteDocument(const std::string& bytes, const ImportRequest& request) {
+/// Writes the document to the output file, which must not be the table.
+void WriteToFile(const std::string& bytes, const ImportRequest& request) {
     std::error_code error; // a file that does not exist differs from all others
     if (std::filesystem::equivalent(Utf8::ToPath(request.table), Utf8::ToPath(request.output), error))
         ThrowFileError(request.output, "written", "it is the table; specify another file");
@@ -194,7 +196,7 @@ int ImportTable(const ImportRequest& request, Console console) {
         PrintJson(console.out, document);
         return kSuccess;
     }
-    WriteDocument(document.dump(2) + "\n", request);
+    WriteToFile(document.dump(2) + "\n", request);
     if (console.isJson)
         PrintJson(console.out, {{"output", request.output}, {"rows", rows.size() - 1}});
     else

@@ -1,5 +1,6 @@
 #include "document/DocumentKeys.h"
 
+#include <algorithm>
 #include <cassert>
 #include <unordered_map>
 
@@ -57,6 +58,10 @@ std::optional<DocumentKey> FindDocumentKey(std::string_view spelling, MemoryKind
 const char* SpellingOf(DocumentKey key) {
     assert(key != DocumentKey::Count);
     return kRows[static_cast<std::size_t>(key)].spelling;
+}
+
+bool IsList(DocumentKey key) {
+    return std::ranges::any_of(kChildKeys, [&](const ChildKey& child) { return child.key == key && child.isList; });
 }
 
 std::vector<std::string> KeysFor(MemoryKind kind) {

@@ -33,6 +33,9 @@ const char* SpellingOf(DocumentKey key);
 /// Returns the spellings of all keys that objects of the kind take.
 std::vector<std::string> KeysFor(MemoryKind kind);
 
+/// Returns true if the key leads to a list of objects.
+bool IsList(DocumentKey key);
+
 /// A key that leads to objects below its owner.
 struct ChildKey {
     DocumentKey key;
