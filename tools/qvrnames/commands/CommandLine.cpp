@@ -27,9 +27,7 @@ constexpr const char* kFooter =
     "document are unusable, or the result cannot be written.\n\n"
     "Example: qvrnames audit pump.json\n";
 
-std::string Joined(const std::vector<std::string>& words) { return CLI::detail::join(words, ", "); }
-
-/// Parses the command line and runs the command.
+/// The commands and options of the program.
 class CommandLine {
 public:
     CommandLine(std::ostream& out, std::ostream& err, const Screen& screen) : m_console{out, err, screen} {
@@ -48,7 +46,8 @@ public:
         AddImport();
     }
 
-    int Parse(int argc, const char* const* argv) {
+    /// Parses the arguments, then runs their command and returns its exit code.
+    int Run(int argc, const char* const* argv) {
         try {
             m_app.parse(argc, argv);
         } catch (const CLI::ParseError& error) {
@@ -60,7 +59,7 @@ public:
             m_console.screen.hasColour = m_colour == "always";
         if (!MessageCatalog::SetLanguage(m_language))
             throw BadInput("--language: no messages in \"" + m_language +
-                           "\"; available languages: " + Joined(MessageCatalog::Languages()));
+                           "\"; available languages: " + CLI::detail::join(MessageCatalog::Languages(), ", "));
         return m_command();
     }
 
@@ -97,26 +96,27 @@ private:
         app->add_option("--language", m_language, "Language of messages: en (default), de, fr or ja")
             ->type_name("LANG");
     }
-    /// Adds a command with its help text, an example of its arguments, and the common options. Parse calls `command` if
-    /// the command line contains the name.
-    CLI::App* Add(const char* name, const char* description, const char* example, const std::function<int()>& command) {
+    /// Adds a command with its help text, examples of its arguments, and the common options. Run calls `command` if the
+    /// command line contains the name.
+    CLI::App* Add(const char* name, const char* description, const std::vector<std::string>& examples,
+                  const std::function<int()>& command) {
         CLI::App* added = m_app.add_subcommand(name, description);
         AddCommon(added);
-        added->footer(std::string("Example: qvrnames ") + example + "\n");
+        added->footer("Example: qvrnames " + CLI::detail::join(examples, "\n         qvrnames ") + "\n");
         added->callback([this, command] { m_command = command; });
         return added;
     }
 
     void AddCheck() {
         CLI::App* app = Add("check", "Check whether texts are legal as names of features or files.",
-                            "check Step-1 \"Static Step.2\"", [this] { return CheckNames(m_check, m_console); });
+                            {"check Step-1 \"Static Step.2\""}, [this] { return CheckNames(m_check, m_console); });
         app->add_option("NAME", m_check.names, "The names to check; - for names on stdin, one per line");
         app->add_option("--from", m_check.from, "Also check the names in this file, one per line");
         app->add_flag("--file-name", m_check.areFileNames, "Check them as file names");
     }
     void AddAudit() {
         CLI::App* app = Add("audit", "Check the name of every feature in documents.",
-                            "audit pump.json\n         qvrnames audit models/ --format sarif > names.sarif",
+                            {"audit pump.json", "audit models/ --format sarif > names.sarif"},
                             [this] { return AuditDocuments(m_audit, m_console); });
         app->add_option("DOCUMENT", m_audit.documents,
                         "Document files, folders with *.json files in or below them, or - for stdin")
@@ -136,14 +136,14 @@ private:
             ->excludes("--baseline");
     }
     void AddDeck() {
-        CLI::App* app = Add("deck", "Show the names that the solver deck would contain.", "deck pump.json",
+        CLI::App* app = Add("deck", "Show the names that the solver deck would contain.", {"deck pump.json"},
                             [this] { return ShowDeck(m_deckDocument, m_console); });
         AddDocument(app, m_deckDocument);
     }
     void AddPropose() {
         CLI::App* app = Add("propose", "Propose the next free name for a feature.",
-                            "propose pump.json new-load\n         qvrnames propose pump.json Static/Step-1 "
-                            "--base \"Static Step-\"\n         qvrnames propose pump.json --job",
+                            {"propose pump.json new-load", "propose pump.json Static/Step-1 --base \"Static Step-\"",
+                             "propose pump.json --job"},
                             [this] { return ProposeName(m_propose, m_console); });
         AddDocument(app, m_propose.document);
         app->add_option("FEATURE", m_propose.feature, "The feature to propose a name for");
@@ -152,7 +152,7 @@ private:
     }
     void AddRename() {
         CLI::App* app = Add("rename", "Rename a feature if the new name is allowed.",
-                            "rename pump.json Static/Step-1 \"Bolt Load\" --output new.json",
+                            {"rename pump.json Static/Step-1 \"Bolt Load\" --output new.json"},
                             [this] { return RenameFeature(m_rename, m_console); });
         AddDocument(app, m_rename.document);
         app->add_option("FEATURE", m_rename.feature, "The feature to rename")->required();
@@ -164,12 +164,11 @@ private:
                         "- is stdout, the default if DOCUMENT is stdin; then messages go to stderr");
     }
     void AddFix() {
-        CLI::App* app =
-            Add("fix", "Find a legal and unique name for every refused name in a document.",
-                "fix pump.json\n         qvrnames fix pump.json --write\n\n"
-                "Exit status: 0 no name is refused, or all are fixed; 1 a name cannot be fixed, or changes are\n"
-                "not written because --write is missing; 2 as for all commands.",
-                [this] { return FixNames(m_fix, m_console); });
+        CLI::App* app = Add("fix", "Find a legal and unique name for every refused name in a document.",
+                            {"fix pump.json", "fix pump.json --write"}, [this] { return FixNames(m_fix, m_console); });
+        app->footer(app->get_footer() +
+                    "\nExit status: 0 no name is refused, or all are fixed; 1 a name cannot be fixed, or changes are\n"
+                    "not written because --write is missing; 2 as for all commands.\n");
         AddDocument(app, m_fix.document);
         app->add_flag("--write", m_fix.write,
                       "Change the names in DOCUMENT (default: only print the changes).\n"
@@ -177,14 +176,13 @@ private:
     }
     void AddExplain() {
         CLI::App* app = Add("explain", "Explain a message or rule: print its cause, an example, and the fix.",
-                            "explain IllegalCharERR_01", [this] { return ExplainRule(m_explained, m_console); });
+                            {"explain IllegalCharERR_01"}, [this] { return ExplainRule(m_explained, m_console); });
         app->add_option("ID", m_explained, "The message id or rule in a report; omit it to list all of them");
     }
     void AddImport() {
-        CLI::App* app =
-            Add("import", "Make a document from a table of names.",
-                "import names.csv --output names.json\n         qvrnames import names.csv | qvrnames audit -",
-                [this] { return ImportTable(m_import, m_console); });
+        CLI::App* app = Add("import", "Make a document from a table of names.",
+                            {"import names.csv --output names.json", "import names.csv | qvrnames audit -"},
+                            [this] { return ImportTable(m_import, m_console); });
         app->add_option("TABLE", m_import.table,
                         "A file with comma-separated values, or - for stdin. Columns: case, step, set, type,\n"
                         "name, and kind: feature (default), step, job, material, property or meshPart")
@@ -215,7 +213,7 @@ private:
 int Run(int argc, const char* const* argv, std::ostream& out, std::ostream& err, const Screen& screen) {
     std::string message;
     try {
-        const int code = CommandLine(out, err, screen).Parse(argc, argv);
+        const int code = CommandLine(out, err, screen).Run(argc, argv);
         if (out.flush())
             return code;
         message = "the result cannot be written";
