@@ -27,6 +27,20 @@ constexpr const char* kFooter =
     "document are unusable, or the result cannot be written.\n\n"
     "Example: qvrnames audit pump.json\n";
 
+// CLI11 splits an argument such as "[a,b]" into "a" and "b". A mark in front of the bracket prevents that.
+constexpr char kMark = '\x1F';
+
+/// Returns the arguments in the order that CLI::App::parse expects, with marks.
+std::vector<std::string> MarkedArguments(int argc, const char* const* argv) {
+    std::vector<std::string> arguments(std::reverse_iterator(argv + argc), std::reverse_iterator(argv + 1));
+    for (std::string& argument : arguments)
+        if (argument.starts_with('[') || argument.starts_with(kMark))
+            argument.insert(0, 1, kMark);
+    return arguments;
+}
+
+std::string WithoutMark(std::string argument) { return argument.starts_with(kMark) ? argument.substr(1) : argument; }
+
 /// The commands and options of the program.
 class CommandLine {
 public:
@@ -44,16 +58,21 @@ public:
         AddFix();
         AddExplain();
         AddImport();
+        for (CLI::App* command : m_app.get_subcommands({}))
+            for (CLI::Option* option : command->get_options(nullptr))
+                option->transform(WithoutMark);
     }
 
     /// Parses the arguments, then runs their command and returns its exit code.
     int Run(int argc, const char* const* argv) {
         try {
-            m_app.parse(argc, argv);
+            m_app.parse(MarkedArguments(argc, argv));
         } catch (const CLI::ParseError& error) {
             if (error.get_exit_code() == 0) // --help and --version
                 return m_app.exit(error, m_console.out, m_console.err);
-            throw BadInput(DescribeUnknownWord().value_or(error.what()) + " (see --help)");
+            std::string message = DescribeUnknownWord().value_or(error.what());
+            std::erase(message, kMark);
+            throw BadInput(message + " (see --help)");
         }
         if (m_colour != "auto")
             m_console.screen.hasColour = m_colour == "always";
