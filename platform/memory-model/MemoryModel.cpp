@@ -123,7 +123,8 @@ MemoryFeature& MemoryFeature::AddMember(MemoryFeature member) {
         if (added == nullptr)
             return;
         added->parentSets.push_back(&set);
-        added->Offer(IID_ZFXISamAnalysisEntity);
+        if (!added->withheld.test(static_cast<std::size_t>(ZFXNumberOf(IID_ZFXISamAnalysisEntity))))
+            added->Offer(IID_ZFXISamAnalysisEntity);
         set.Extras().members.push_back(added);
     });
 }

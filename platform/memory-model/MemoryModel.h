@@ -115,8 +115,8 @@ public:
     MemoryFeature& Tag(int tag);
     /// Sets the result of GetMaterialFeatureName.
     MemoryFeature& MaterialName(const ZFXUnicodeString& name);
-    /// Makes `member` also a member of this set. It then offers ZFXISamAnalysisEntity. This set becomes the last of the
-    /// sets that GetParentSets returns for it.
+    /// Makes `member` also a member of this set. It then offers ZFXISamAnalysisEntity, unless Without removed
+    /// it. This set becomes the last of the sets that GetParentSets returns for it.
     MemoryFeature& AddMember(MemoryFeature member);
     /// Adds an attribute of `owner` that points at this object.
     MemoryFeature& PointedAtBy(MemoryFeature owner);

@@ -67,6 +67,8 @@ TEST_F(MemoryModelTest, KindsOfferTheirInterfacesUnlessWithheld) {
     EXPECT_FALSE(name##_var(load.Without(IID_##name))) << #name;
 #include "object-model/ZFXInterfaces.def"
 #undef ZFX_INTERFACE
+    document.PropertySet().AddMember(load);
+    EXPECT_FALSE(ZFXISamAnalysisEntity_var(load)) << "a withheld interface is not offered again";
 }
 
 TEST_F(MemoryModelTest, FaultsCountTheRequestsThatTheyMatch) {

@@ -22,7 +22,7 @@ std::vector<std::string> LinesOf(const std::string& file) {
         if (line.ends_with('\r'))
             line.pop_back();
         if (!IsUtf8(line))
-            ThrowBadInput(file, "line " + std::to_string(lines.size() + 1) + " is not text in UTF-8");
+            ThrowBadInput(file, "line " + std::to_string(lines.size() + 1) + ": " + kNotUtf8);
         lines.push_back(std::move(line));
     }
     return lines;
@@ -39,7 +39,7 @@ std::vector<std::string> NamesOf(const CheckRequest& request) {
         const std::vector<std::string> found = LinesOf(request.from);
         names.insert(names.end(), found.begin(), found.end());
     }
-    if (names.empty())
+    if (request.names.empty() && request.from.empty())
         throw BadInput("there is no name to check (see --help)");
     return names;
 }

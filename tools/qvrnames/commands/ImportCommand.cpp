@@ -65,6 +65,8 @@ class Importer {
 public:
     explicit Importer(const CsvRow& header) {
         for (const std::string& name : header.fields) {
+            if (name.find_first_of(";\t") != std::string::npos)
+                ThrowLineError(header.line, "the columns must be separated by commas");
             const auto found = std::find(kColumnNames.begin(), kColumnNames.end(), name);
             if (found == kColumnNames.end())
                 ThrowLineError(header.line, "unknown column \"" + name + "\"; " + Suggestion(name, kColumnNames));
@@ -174,8 +176,9 @@ Json DocumentOf(const std::vector<CsvRow>& rows) {
 
 /// Writes the document to the output file, which must not be the table.
 void WriteToFile(const std::string& bytes, const ImportRequest& request) {
+    const std::string table = request.table == kStandardStream ? "/dev/stdin" : request.table;
     std::error_code error; // a file that does not exist differs from all others
-    if (std::filesystem::equivalent(Utf8::ToPath(request.table), Utf8::ToPath(request.output), error))
+    if (std::filesystem::equivalent(Utf8::ToPath(table), Utf8::ToPath(request.output), error))
         ThrowFileError(request.output, "written", "it is the table; specify another file");
     ReplaceWholeFile(request.output, bytes, kStandardStream);
 }

@@ -22,6 +22,8 @@ public:
             while (Skip(","));
             if (!m_rest.empty() && !SkipLineEnd())
                 ThrowLineError(m_line, "text follows the closing quote of a field; write a quote in a field twice");
+            if (std::ranges::all_of(row.fields, &std::string::empty))
+                continue;
             if (!rows.empty() && row.fields.size() != rows.front().fields.size())
                 ThrowLineError(row.line, "the header has " + std::to_string(rows.front().fields.size()) +
                                              " fields, this row has " + std::to_string(row.fields.size()));
@@ -45,7 +47,7 @@ private:
         const std::size_t line = m_line;
         std::string value = Skip("\"") ? ReadQuoted() : ReadUnquoted();
         if (!IsUtf8(value))
-            ThrowLineError(line, "the text is not UTF-8, or contains the character U+0000");
+            ThrowLineError(line, kNotUtf8);
         return value;
     }
     std::string ReadQuoted() {
@@ -68,6 +70,8 @@ private:
             value.remove_suffix(1);
         if (value.find('"') != std::string_view::npos)
             ThrowLineError(m_line, "a field that contains a quote must be quoted, and the quote written twice");
+        if (value.find('\r') != std::string_view::npos)
+            ThrowLineError(m_line, "a field that contains a carriage return must be quoted");
         m_rest.remove_prefix(value.size());
         return std::string(value);
     }

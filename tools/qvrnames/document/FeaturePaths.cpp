@@ -131,7 +131,8 @@ std::string PointerOf(const LoadedDocument& loaded, std::uint32_t entry) {
 
 std::string DisplayPath(const LoadedDocument& loaded, std::uint32_t entry) {
     assert(entry < loaded.entries.size());
-    return loaded.entries[entry].isNamed ? PathOf(loaded, entry) : PointerOf(loaded, entry);
+    const std::string path = loaded.entries[entry].isNamed ? PathOf(loaded, entry) : "";
+    return path.empty() || path.starts_with('/') ? PointerOf(loaded, entry) : path;
 }
 
 std::uint32_t FindEntry(const LoadedDocument& loaded, const std::string& reference) {

@@ -11,7 +11,8 @@
 [[nodiscard]] std::string PathOf(const LoadedDocument& loaded, std::uint32_t entry);
 /// Returns the JSON pointer of the object in the file.
 [[nodiscard]] std::string PointerOf(const LoadedDocument& loaded, std::uint32_t entry);
-/// Returns the path of a named object, or the JSON pointer of an unnamed one.
+/// Returns the path of a named object. If it is unnamed, or if its path looks like a JSON pointer because a name begins
+/// with "/", returns its JSON pointer. FindEntry finds the object by either, unless several have the same path.
 [[nodiscard]] std::string DisplayPath(const LoadedDocument& loaded, std::uint32_t entry);
 
 /// Returns the object, named or not, to which a reference leads. The reference is, in this order: an id; a JSON
