@@ -22,8 +22,12 @@ const std::vector<ProbedInterface> kProbedInterfaces = {
 #undef ZFX_INTERFACE
 };
 
+void HostProbe::SetLateType(const char* lateType) {
+    m_checked = std::string(" (late type of the checked object: \"") + lateType + "\")";
+}
+
 void HostProbe::Report(const std::string& operation, const std::string& fault, const char* section) {
-    std::string sentence = operation + " " + fault + ". See \"" + section + "\" in docs/bind-a-host.md.";
+    std::string sentence = operation + " " + fault + m_checked + ". See \"" + section + "\" in docs/bind-a-host.md.";
     if (m_report.size() == m_before || m_report.back() != sentence)
         m_report.push_back(std::move(sentence));
 }

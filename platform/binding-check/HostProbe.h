@@ -32,6 +32,8 @@ class HostProbe {
 public:
     explicit HostProbe(std::vector<std::string>& report) : m_report(report), m_before(report.size()) {}
 
+    /// Adds the late type of the checked object to all further sentences.
+    void SetLateType(const char* lateType);
     /// Appends a sentence to the report, unless this probe appended it last.
     void Report(const std::string& operation, const std::string& fault, const char* section);
     /// Returns the number of sentences that this probe appended.
@@ -93,4 +95,5 @@ private:
 
     std::vector<std::string>& m_report;
     std::size_t m_before;
+    std::string m_checked; // " (...)", or empty
 };

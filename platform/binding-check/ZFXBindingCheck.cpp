@@ -57,6 +57,7 @@ void CheckLateType(Subject& subject) {
     subject.lateType = subject.As<ZFXISpecObject>()->GetLateType();
     if (subject.lateType.IsNull() != 0)
         subject.Report("ZFXISpecObject::GetLateType", "returns an empty late type", Section::kFeatures);
+    subject.probe.SetLateType(subject.lateType.ConvertToChar());
 }
 
 void CheckThatTheLateTypeIsConstant(Subject& subject) {
@@ -83,6 +84,18 @@ void CheckFathers(Subject& subject) {
     }
 }
 
+/// Reports a feature that lacks the interface that selects the scope of its names.
+void CheckScopeInterface(Subject& subject) {
+    for (const LateTypes::Row& row : LateTypes::kRows) {
+        if (row.kind == LateTypes::Kind::Container || subject.lateType != row.lateType)
+            continue;
+        const bool isStep = row.kind == LateTypes::Kind::Step;
+        if (CastTo(subject.object, isStep ? IID_QVRIStep : IID_ZFXISamAnalysisEntity) == nullptr)
+            subject.Report(isStep ? "QueryInterface to QVRIStep" : "QueryInterface to ZFXISamAnalysisEntity",
+                           "fails: a name that another feature has is accepted", Section::kScopes);
+    }
+}
+
 void CheckExtensions(Subject& subject) {
     for (const ProbedInterface& probed : kProbedInterfaces) {
         const ZFXAdaptorFactory factory = subject.MetaClass().FindAdaptorFactory(probed.iid);
@@ -95,8 +108,9 @@ void CheckExtensions(Subject& subject) {
         if (expected != nullptr && (found == nullptr || typeid(*found) != typeid(*expected)))
             subject.probe.Report(
                 std::string("QueryInterface to ") + probed.name,
-                "does not return the adaptor of the extension that FindAdaptorFactory of the late type "
-                "finds: names are stored without a check",
+                "does not return the adaptor of the extension that FindAdaptorFactory of the late type finds: names "
+                "are stored without a check, because ZFXObject was constructed with another late type, or "
+                "QueryInterface does not search for extensions",
                 Section::kCasts);
     }
 }
@@ -110,8 +124,11 @@ void CheckAliasAttribute(Subject& subject) {
                        Section::kFeatures);
         return;
     }
+    const int faults = subject.probe.Faults();
     const auto key = subject.probe.NewReference<ZFXISpecAttrKey>("ZFXISpecAttrAccess::GetAttrKey",
                                                                  [&] { return access->GetAttrKey("Alias"); });
+    if (subject.probe.Faults() > faults)
+        return; // the guarded alias would release a key without a reference
     const auto alias = subject.As<ZFXIAlias>();
     if (key == nullptr)
         subject.Report("ZFXISpecAttrAccess::GetAttrKey",
@@ -133,7 +150,8 @@ void CheckFirstSet(Subject& subject, const ZFXBaseUnknown_var& first) {
                        Section::kScopes);
     else if (!Contains(members, subject.object))
         subject.Report("ZFXISamAnalysisSet::ListMembers",
-                       "does not list the feature, although this set is the first of its parent sets",
+                       "does not list the feature, although this set is the first of its parent sets: no entry has the "
+                       "GetImpl of the feature",
                        Section::kScopes);
     else if (subject.lateType == LateTypes::QVRJobLT &&
              ZFXISamAnalysisModel_var(FatherOf(feature, subject.probe)) == nullptr)
@@ -190,7 +208,8 @@ void CheckHistoryOfStep(Subject& subject) {
         if (history != nullptr)
             history->ListChildren(steps, ZFXISamAnalysisScan::kScanMode);
         if (!Contains(steps, subject.object))
-            subject.Report("ZFXISamAnalysisScan::ListChildren", "does not list the step below its history",
+            subject.Report("ZFXISamAnalysisScan::ListChildren",
+                           "does not list the step below its history: no entry has the GetImpl of the step",
                            Section::kScopes);
         return;
     }
@@ -245,11 +264,12 @@ void CheckGroup(Subject& subject) {
     }));
 }
 
-/// Makes a request that appends to a list, and checks its entries.
+/// Makes a request that appends to a list, and checks its code and entries.
 template <class Interface, class List = ZFXListValZFXBaseUnknown_var, class Request>
 void CheckList(Subject& subject, const char* operation, Request request) {
     List list;
-    request(*subject.As<Interface>(), list);
+    if (Failed(request(*subject.As<Interface>(), list)))
+        subject.Report(operation, "fails: it must succeed even if it appends nothing", Section::kScopes);
     CheckEntries(subject, operation, list);
 }
 
@@ -262,6 +282,7 @@ struct Row {
 constexpr Row kRows[] = {
     {IID_ZFXISpecObject, "ZFXISpecObject::GetLateType", CheckLateType},
     {IID_ZFXISpecObject, "ZFXISpecObject::GetFather", CheckFathers},
+    {IID_ZFXISpecObject, "QueryInterface", CheckScopeInterface},
     {IID_ZFXISpecObject, "The factory of an adaptor", CheckExtensions},
     {IID_ZFXISpecObject, "ZFXISpecAttrAccess::GetString", CheckAliasAttribute},
     {IID_ZFXISamAnalysisEntity, kGetParentSets, CheckParentSets},
@@ -272,31 +293,31 @@ constexpr Row kRows[] = {
     {IID_ZFXISamAnalysisScan, "ZFXISamAnalysisScan::ListChildren",
      [](Subject& subject) {
          CheckList<ZFXISamAnalysisScan>(subject, "ZFXISamAnalysisScan::ListChildren", [](auto& scan, auto& list) {
-             scan.ListChildren(list, ZFXISamAnalysisScan::kScanMode);
+             return scan.ListChildren(list, ZFXISamAnalysisScan::kScanMode);
          });
      }},
     {IID_ZFXISamAnalysisSet, "ZFXISamAnalysisSet::ListMembers",
      [](Subject& subject) {
          CheckList<ZFXISamAnalysisSet, ZFXListValZFXISpecObject_var>(
              subject, "ZFXISamAnalysisSet::ListMembers", [](auto& set, auto& list) {
-                 set.ListMembers(list, CLSID_ZFXBaseUnknown, ZFXISamAnalysisSet::kMemberFlag);
+                 return set.ListMembers(list, CLSID_ZFXBaseUnknown, ZFXISamAnalysisSet::kMemberFlag);
              });
      }},
     {IID_ZFXISamAnalysisModel, "ZFXISamAnalysisModel::ListAnalysisCases",
      [](Subject& subject) {
          CheckList<ZFXISamAnalysisModel>(subject, "ZFXISamAnalysisModel::ListAnalysisCases",
-                                         [](auto& model, auto& list) { model.ListAnalysisCases(list); });
+                                         [](auto& model, auto& list) { return model.ListAnalysisCases(list); });
      }},
     {IID_ZFXISamAnalysisSupport, "ZFXISamAnalysisSupport::ListConnectors",
      [](Subject& subject) {
          CheckList<ZFXISamAnalysisSupport>(subject, "ZFXISamAnalysisSupport::ListConnectors",
-                                           [](auto& support, auto& list) { support.ListConnectors(list); });
+                                           [](auto& support, auto& list) { return support.ListConnectors(list); });
      }},
     {IID_QVRISamAnalysisConnectionDesign, "QVRISamAnalysisConnectionDesign::GetMasterAndSlaveConnectors",
      [](Subject& subject) {
          CheckList<QVRISamAnalysisConnectionDesign>(
              subject, "QVRISamAnalysisConnectionDesign::GetMasterAndSlaveConnectors",
-             [](auto& design, auto& list) { design.GetMasterAndSlaveConnectors(list, list); });
+             [](auto& design, auto& list) { return design.GetMasterAndSlaveConnectors(list, list); });
      }},
     {IID_ZFXISpecObject, "ZFXISpecObject::GetLateType", CheckThatTheLateTypeIsConstant},
 };
@@ -381,10 +402,11 @@ int ZFXCheckModule(std::vector<std::string>& report) {
 int ZFXCheckReleased(ZFXBaseUnknown* object, unsigned references, std::vector<std::string>& report) {
     assert(object != nullptr && "ZFXCheckReleased: the object is null");
     HostProbe probe(report);
-    if (HostProbe::References(object) > references)
+    const unsigned found = HostProbe::References(object);
+    if (found > references)
         probe.Report("QVRGenI18NUtils::ResetAllLists",
-                     "was not called before the document closes, or a handle was not released: others have references "
-                     "on the object",
+                     "was not called before the document closes, or a handle was not released: the object has " +
+                         std::to_string(found) + " references, the host " + std::to_string(references),
                      Section::kErrors);
     return probe.Faults();
 }

@@ -35,7 +35,7 @@ void ExpectFault(const std::string& sentence, const std::string& text, const std
         << sentence << "\nexpected: " << text << end;
 }
 
-/// Offers ZFXIAlias on an object, through which it makes all other casts.
+/// Offers ZFXIAlias on an object, through which it makes all other casts. Releases the key of the attribute.
 struct Adaptor final : ZFXIAlias {
     static ZFXBaseUnknown* Make(ZFXBaseUnknown* object, void*) {
         auto* adaptor = new Adaptor;
@@ -43,7 +43,10 @@ struct Adaptor final : ZFXIAlias {
         return adaptor;
     }
     void SetAlias(const ZFXUnicodeString&) override {}
-    ZFXUnicodeString GetAlias() override { return "name"; }
+    ZFXUnicodeString GetAlias() override {
+        const ZFXISpecAttrAccess_var access(GetImpl());
+        return access->GetString(ZFXISpecAttrKey_var::Attach(access->GetAttrKey("Alias")), 0);
+    }
 };
 
 struct Document final : ZFXDocument {
@@ -70,6 +73,7 @@ public:
 
     using ZFXImplements::Root;
     ULONG References() { return Count(); }
+    ULONG KeyReferences() { return HostProbe::References(m_key); }
     using ZFXImplements::QueryInterface;
     HRESULT QueryInterface(const IID& iid, void** result) override {
         ZFXBaseUnknown* own = OwnInterface(iid);
@@ -77,6 +81,8 @@ public:
             own = &m_step;
         if (iid == IID_ZFXIAlias && Makes("wrong base"))
             own = Root();
+        if ((iid == IID_QVRIStep && Makes("no step")) || (iid == IID_ZFXISamAnalysisEntity && Makes("no entity")))
+            own = nullptr;
         const HRESULT code = Cast(iid, own, result);
         if (Failed(code)) {
             *result = Makes("pointer after a failure") ? Root() : nullptr;
@@ -121,7 +127,7 @@ public:
     HRESULT FindObjectsOfType(const ZFXUnicodeString&, ZFXListValZFXBaseUnknown_var&, int) override { return S_OK; }
     HRESULT ListChildren(ZFXListValZFXBaseUnknown_var& children, int) override {
         children.Append(step);
-        return S_OK;
+        return Makes("failing list") ? E_FAIL : S_OK;
     }
     HRESULT ListMembers(ZFXListValZFXISpecObject_var& members, const IID&, int) override {
         members.Append(Makes("not a member") ? this : step);
@@ -151,6 +157,7 @@ private:
     ZFXListValZFXBaseUnknown_var m_sets;
     Document m_document;
     const ZFXISpecAttrKey_var m_key = ZFXISpecAttrKey_var::Attach(new ZFXISpecAttrKey);
+    const ZFXISpecAttrKey_var m_sameKey = m_key; // exists even if a mistake releases a reference of m_key
 };
 
 TEST(BindingCheck, ReportsEachMistakeOfAHost) {
@@ -174,7 +181,13 @@ TEST(BindingCheck, ReportsEachMistakeOfAHost) {
         {"exception", "ZFXISpecObject::GetFather throws an exception", kOwnership},
         {"null list", "ZFXISamAnalysisEntity::GetParentSets returns a null list", kScopes},
         {"null entry", "ZFXISamAnalysisEntity::GetParentSets returns a list whose first", kScopes},
-        {"empty list", "ZFXISamAnalysisEntity::GetParentSets returns an empty list", kScopes},
+        {"empty list",
+         "ZFXISamAnalysisEntity::GetParentSets returns an empty list: a name that the set already has is accepted "
+         "(late type of the checked object: \"ExtendedLT\")",
+         kScopes},
+        {"failing list", "ZFXISamAnalysisScan::ListChildren fails", kScopes},
+        {"no step", "QueryInterface to QVRIStep fails", kScopes},
+        {"no entity", "QueryInterface to ZFXISamAnalysisEntity fails", kScopes},
         {"not a member", "ZFXISamAnalysisSet::ListMembers does not list the feature", kScopes},
         {"wrong attribute", "ZFXISpecAttrAccess::GetAttrKey returns no key of the attribute \"Alias\"", kFeatures},
         {"father of itself", "ZFXISpecObject::GetFather leads from an object back to it", kFeatures},
@@ -189,11 +202,17 @@ TEST(BindingCheck, ReportsEachMistakeOfAHost) {
         const char* const lateType = mistake == "no history" ? "OtherLT" : "QVROruSimHistLT";
         Host history(mistake == "owner without reference" || mistake == "not a member" ? mistake : "none", lateType,
                      nullptr);
-        Host step(mistake, mistake == "wrong base" ? "OtherLT" : "ExtendedLT", &history);
+        Host step(mistake,
+                  mistake == "wrong base"  ? "OtherLT"
+                  : mistake == "no step"   ? "QVRGeneralStaticStepLT"
+                  : mistake == "no entity" ? "QVRPressure"
+                                           : "ExtendedLT",
+                  &history);
         history.step = &step;
         ExpectFault(FirstFault(step.Root()), sentence, section);
         EXPECT_TRUE(step.References() == 1 || mistake == "uneven offers" || mistake == "lost reference") << mistake;
         EXPECT_EQ(history.References(), mistake == "borrowed list" ? 4U : 2U) << mistake;
+        EXPECT_EQ(step.KeyReferences(), 2U) << mistake;
     }
 }
 
@@ -215,7 +234,10 @@ TEST_F(BindingCheckOfADocument, FindsNoFaultInTheInMemoryModelExceptACachedRefer
         EXPECT_EQ(FirstFault(feature.Object()), "") << Narrow(feature.LateType());
         EXPECT_EQ(FirstFaultOf(leak), "");
         const ZFXBaseUnknown_var cached(feature);
-        ExpectFault(FirstFaultOf(leak), "QVRGenI18NUtils::ResetAllLists was not called before the document", kErrors);
+        ExpectFault(FirstFaultOf(leak),
+                    "QVRGenI18NUtils::ResetAllLists was not called before the document closes, or a handle was "
+                    "not released: the object has 2 references, the host 1",
+                    kErrors);
     }
     EXPECT_EQ(FirstFaultOf(ZFXCheckServices), "");
 }
