@@ -38,11 +38,14 @@ qvr_install_library(QVRNameUtility QVRNameUtility "${PROJECT_DESCRIPTION}" "ZFXP
 qvr_install_library(ZFXMemoryModel MemoryModel "In-memory analysis documents for tests and tools"
   "ZFXPlatform = ${PROJECT_VERSION}")
 
+# Programs cannot link functions of these headers, because the libraries do not export them.
+set(internal_headers "(CaseMapping|HostProbe|Memory(Attributes|Faults|Object|Session)|Utf8|ZFXLibraryFile)[.]h$")
 install(DIRECTORY
   ${PROJECT_SOURCE_DIR}/QVRGeneralUtilities/public-headers/
   ${PROJECT_BINARY_DIR}/include/
   ${PROJECT_SOURCE_DIR}/platform/
-  DESTINATION ${headers} FILES_MATCHING PATTERN "*.h" PATTERN "*.def" PATTERN "unicode" EXCLUDE)
+  DESTINATION ${headers} FILES_MATCHING PATTERN "*.h" PATTERN "*.def" PATTERN "unicode" EXCLUDE
+  REGEX "/${internal_headers}" EXCLUDE)
 install(DIRECTORY ${PROJECT_SOURCE_DIR}/QVRGeneralUtilities/resources/msgcatalog/ DESTINATION ${QVR_CATALOGS})
 
 install(EXPORT ${package}Targets NAMESPACE ${package}:: DESTINATION ${package_files})

@@ -53,8 +53,11 @@ if [ -z "$emulator" ]; then
     export PKG_CONFIG_PATH
     same "version for pkg-config" "$version" "$(pkg-config --modversion QVRNameUtility)"
     libraries=$(pkg-config --variable=libdir QVRNameUtility)
+    headers=$(find "$copy/include/QVRGeneralUtilities" -name '*.h' -printf '#include "%P"\n')
+    same "installed headers whose functions no library exports" "" "$(grep -E '/(HostProbe|MemoryObject|Utf8)\.h' <<<"$headers")"
     # pkg-config quotes special characters in paths.
     eval "set -- $(pkg-config --cflags --libs QVRNameUtility ZFXMemoryModel)"
+    check "the installed headers compile" g++ -std=c++17 -fsyntax-only "$@" -x c++ - <<<"$headers"
     for program in program alias-only; do
         g++ -std=c++17 $program.cpp -o "$copy/bin/$program" "$@" -Wl,-rpath,"${libraries//\\/}"
     done
