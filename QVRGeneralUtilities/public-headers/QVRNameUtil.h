@@ -222,7 +222,8 @@ public:
 
     /// Appends the next number to the base in `name`, as GetNextUniqueName does. An empty `analysisCase` means the
     /// current case; the handle is unchanged. `name` is unchanged if the feature is empty, if there is no case, or if
-    /// the scope is not available. Only a failure in this list registers an error:
+    /// the scope is not available; GetUniqueNames returns a code for this. Only a failure in this list registers an
+    /// error:
     /// - Step (QVRIStep): the scope is the steps of the case except the first.
     ///   - "AnalysisCaseERR_02": the case does not belong to the solver (IsTarnisAnalysisCase returns 0).
     ///   - "AnalysisCaseERR_03": the case has no simulation history that can be searched.

@@ -11,6 +11,7 @@
 ///
 /// Rules for all operations:
 /// - A negative code is a failure. On failure the outputs stay unchanged, unless stated otherwise.
+/// - A request for objects that the documents of the host do not have fails, or returns 0.
 /// - Lists are filled by appending and have indexes from 1 to Size(). The caller passes an empty list or handle.
 /// - A null `document` is the document that is current in the application.
 /// - No operation throws.

@@ -3,7 +3,8 @@
 #include "analysis/ZFXISpecObject.h"
 #include "object-model/ZFXInterfaces.h"
 
-/// An analysis set: a container of features of one kind, such as the loads of a step.
+/// An analysis set: a container of features of one kind, such as the loads of a step. Its late type identifies the
+/// kind. A host chooses it, except for a job container and the property set, and uses it for the sets of all steps.
 class ZFX_PLATFORM_EXPORT ZFXISamAnalysisSet : public ZFXBaseUnknown {
     ZFX_DECLARE_INTERFACE(ZFXISamAnalysisSet)
 

@@ -16,7 +16,7 @@ class ZFX_PLATFORM_EXPORT ZFXISpecAttrAccess : public ZFXBaseUnknown {
     /// @param value  the string; may be empty
     /// @param index  always 0
     virtual void SetString(ZFXISpecAttrKey* key, const ZFXUnicodeString& value, int index) = 0;
-    /// Returns the value of an attribute, or an empty string if it was never stored.
+    /// Returns the value of an attribute exactly as it was stored, or an empty string if it was never stored.
     /// @param key    a key that this feature returned
     /// @param index  always 0
     virtual ZFXUnicodeString GetString(ZFXISpecAttrKey* key, int index) = 0;

@@ -20,7 +20,8 @@ class ZFX_PLATFORM_EXPORT ZFXISpecObject : public ZFXBaseUnknown {
     /// Returns a list of the attributes of other features that point at this one, or null. [read only]
     ///
     /// The list belongs to this object and is valid until the next call. The attributes of a simulation history point
-    /// at each of its steps.
+    /// at each of its steps. An entry of the list keeps a reference to its attribute, so a host that destroys the
+    /// attribute or its history before the step empties the list first.
     /// @param interfaceName  always "ZFXISpecObject"
     /// @param type           always empty
     /// @param name           always empty

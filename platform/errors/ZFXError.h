@@ -49,11 +49,13 @@ public:
     /// @param sourceLine  the line in it, from 1
     [[nodiscard]] static HRESULT GetReturn(int type, ZFXError* error, ZFXBaseUnknown* object, const char* sourceFile,
                                            int sourceLine);
-    /// Returns the error that this thread registered under the code, or null if there is none. The error is valid until
-    /// the next GetReturn or ReleaseRegistered of this thread. `object` is ignored. [borrowed]
+    /// Returns the error that this thread registered under the code. Returns null if there is none, as for S_OK and
+    /// E_FAIL. The error is valid until the next GetReturn or ReleaseRegistered of this thread. `object` is ignored.
+    /// [borrowed]
     [[nodiscard]] static ZFXError* ZFXGetLastError(HRESULT code, ZFXBaseUnknown* object);
-    /// Returns the error that this thread registered last, or null if there is none. The error is valid until the next
-    /// GetReturn or ReleaseRegistered of this thread. [borrowed]
+    /// Returns the error that this thread registered last, or null if there is none. After an operation that registers
+    /// no error, this is the error of an earlier one. The error is valid until the next GetReturn or ReleaseRegistered
+    /// of this thread. [borrowed]
     [[nodiscard]] static ZFXError* Latest();
     /// Releases all errors that this thread registered. Afterwards ZFXGetLastError returns null for their codes.
     static void ReleaseRegistered();

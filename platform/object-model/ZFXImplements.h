@@ -17,9 +17,11 @@ template <class Object>
 /// derives the class of its document nodes from ZFXObject and passes that class to ZFXImplements.
 class ZFXObject : public ZFXBaseUnknown {
 public:
-    /// Creates an object with one reference.
-    /// @param lateType  the meta class of the late type, from `fct_FindMetaObject`; its extensions add interfaces. Null
-    ///                  for an object that is no feature, such as an attribute.
+    /// Creates an object with one reference. Its owner can be a handle (`ZFXHandle::Attach(new Load)`), the stack or a
+    /// smart pointer. The latter two require that all other references are released before they destroy the object.
+    /// @param lateType  the meta class of the late type, from `fct_FindMetaObject`; its extensions add interfaces. The
+    ///                  name is that which `ZFXISpecObject::GetLateType` returns. Null for an object that is no
+    ///                  feature, such as an attribute.
     explicit ZFXObject(const ZFXMetaClass* lateType)
         : m_lateType(lateType != nullptr ? lateType : ZFXnull::MetaObject()) {}
 
@@ -64,7 +66,8 @@ private:
 ///     };
 ///
 /// A pointer to the object converts to handles: `ZFXIAlias_var(load)` is an interface cast. Do not call an operation of
-/// an interface on the object itself: the call does not reach an extension.
+/// an interface on the object itself: the call does not reach an extension. A pointer to the object does not convert to
+/// `ZFXBaseUnknown*`, because each interface has this base: pass a `ZFXBaseUnknown_var` or a pointer to ZFXObject.
 /// @tparam Object      ZFXObject or a class derived from it: the class with the data of all nodes, or another
 ///                     ZFXImplements. Its constructors are inherited.
 /// @tparam Interfaces  the interfaces that the object offers in addition to those of `Object`
