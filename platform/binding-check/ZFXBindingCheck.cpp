@@ -47,6 +47,18 @@ void CheckEntries(const Subject& subject, const char* operation, const List& lis
         subject.Report(operation, "returns a list with a null entry", Section::kOwnership);
 }
 
+/// Reports an object without a name in a scope.
+template <class List>
+void CheckNamesOf(const Subject& subject, const char* operation, const List& scope) {
+    for (const auto& object : scope)
+        if (object != nullptr && ZFXIAlias_var(object) == nullptr)
+            subject.Report(
+                operation,
+                "lists an object that does not offer ZFXIAlias: every new name of another object in the list "
+                "is rejected, for example with \"ZFXIAliasERR_01\"",
+                Section::kFeatures);
+}
+
 ZFXBaseUnknown_var CastTo(const ZFXBaseUnknown_var& object, const IID& iid) {
     void* result = nullptr;
     object->QueryInterface(iid, &result);
@@ -145,6 +157,7 @@ void CheckFirstSet(Subject& subject, const ZFXBaseUnknown_var& first) {
     ZFXListValZFXISpecObject_var members;
     if (set != nullptr)
         set->ListMembers(members, CLSID_ZFXBaseUnknown, ZFXISamAnalysisSet::kMemberFlag);
+    CheckNamesOf(subject, "ZFXISamAnalysisSet::ListMembers", members);
     if (set == nullptr || feature == nullptr)
         subject.Report(kGetParentSets, "returns a first set that does not offer ZFXISamAnalysisSet and ZFXISpecObject",
                        Section::kScopes);
@@ -207,6 +220,7 @@ void CheckHistoryOfStep(Subject& subject) {
         ZFXListValZFXBaseUnknown_var steps;
         if (history != nullptr)
             history->ListChildren(steps, ZFXISamAnalysisScan::kScanMode);
+        CheckNamesOf(subject, "ZFXISamAnalysisScan::ListChildren", steps);
         if (!Contains(steps, subject.object))
             subject.Report("ZFXISamAnalysisScan::ListChildren",
                            "does not list the step below its history: no entry has the GetImpl of the step",

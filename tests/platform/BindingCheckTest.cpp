@@ -81,7 +81,8 @@ public:
             own = &m_step;
         if (iid == IID_ZFXIAlias && Makes("wrong base"))
             own = Root();
-        if ((iid == IID_QVRIStep && Makes("no step")) || (iid == IID_ZFXISamAnalysisEntity && Makes("no entity")))
+        if ((iid == IID_QVRIStep && Makes("no step")) || (iid == IID_ZFXIAlias && m_mistake.starts_with("no alias")) ||
+            (iid == IID_ZFXISamAnalysisEntity && (Makes("no entity") || Makes("no alias in the history"))))
             own = nullptr;
         const HRESULT code = Cast(iid, own, result);
         if (Failed(code)) {
@@ -187,6 +188,8 @@ TEST(BindingCheck, ReportsEachMistakeOfAHost) {
          kScopes},
         {"failing list", "ZFXISamAnalysisScan::ListChildren fails", kScopes},
         {"no step", "QueryInterface to QVRIStep fails", kScopes},
+        {"no alias in the set", "ZFXISamAnalysisSet::ListMembers lists an object that does not", kFeatures},
+        {"no alias in the history", "ZFXISamAnalysisScan::ListChildren lists an object that", kFeatures},
         {"no entity", "QueryInterface to ZFXISamAnalysisEntity fails", kScopes},
         {"not a member", "ZFXISamAnalysisSet::ListMembers does not list the feature", kScopes},
         {"wrong attribute", "ZFXISpecAttrAccess::GetAttrKey returns no key of the attribute \"Alias\"", kFeatures},
@@ -203,10 +206,10 @@ TEST(BindingCheck, ReportsEachMistakeOfAHost) {
         Host history(mistake == "owner without reference" || mistake == "not a member" ? mistake : "none", lateType,
                      nullptr);
         Host step(mistake,
-                  mistake == "wrong base"  ? "OtherLT"
-                  : mistake == "no step"   ? "QVRGeneralStaticStepLT"
-                  : mistake == "no entity" ? "QVRPressure"
-                                           : "ExtendedLT",
+                  mistake == "no step"                                         ? "QVRGeneralStaticStepLT"
+                  : mistake == "no entity"                                     ? "QVRPressure"
+                  : mistake == "wrong base" || mistake.starts_with("no alias") ? "OtherLT"
+                                                                               : "ExtendedLT",
                   &history);
         history.step = &step;
         ExpectFault(FirstFault(step.Root()), sentence, section);
