@@ -30,15 +30,18 @@ std::string LateTypeOf(const LoadedDocument& loaded, std::uint32_t entry) {
     return MemoryFeature(loaded.entries[entry].feature).LateType().ConvertToChar();
 }
 
+/// An entry, and the key of it to which a report refers.
+using KeyOfEntry = std::pair<std::uint32_t, DocumentKey>;
+
 /// The objects of a document as a report shows them. The positions are found in one pass over the file.
 class References {
 public:
-    References(const LoadedDocument& loaded, const std::set<std::pair<std::uint32_t, DocumentKey>>& keys)
-        : m_loaded(loaded) {
-        std::vector<std::pair<std::size_t, std::pair<std::uint32_t, DocumentKey>>> offsets;
+    /// @param keys  all keys to which the report refers
+    References(const LoadedDocument& loaded, const std::set<KeyOfEntry>& keys) : m_loaded(loaded) {
+        std::vector<std::pair<std::size_t, KeyOfEntry>> offsets;
         offsets.reserve(keys.size());
-        for (const auto& [entry, key] : keys)
-            offsets.push_back({OffsetOf(loaded, entry, key), {entry, key}});
+        for (const KeyOfEntry& key : keys)
+            offsets.emplace_back(OffsetOf(loaded, key.first, key.second), key);
         std::sort(offsets.begin(), offsets.end()); // ascending, as PositionFinder needs them for linear time
         PositionFinder finder(loaded.text.Bytes());
         for (const auto& [offset, key] : offsets)
@@ -51,7 +54,7 @@ public:
 
 private:
     const LoadedDocument& m_loaded;
-    std::map<std::pair<std::uint32_t, DocumentKey>, TextPosition> m_positions;
+    std::map<KeyOfEntry, TextPosition> m_positions;
 };
 
 /// The objects of one unknown late type.
@@ -99,7 +102,7 @@ void FillReport(const LoadedDocument& loaded, bool withDeck, DocumentReport& rep
     const std::vector<Finding> refusals = CheckFeatures(loaded);
     const std::vector<Finding> deck = withDeck ? CheckDeck(BuildDeck(loaded), loaded) : std::vector<Finding>();
     const std::vector<UnknownType> unknownTypes = UnknownTypes(loaded);
-    std::set<std::pair<std::uint32_t, DocumentKey>> keys;
+    std::set<KeyOfEntry> keys;
     for (const std::vector<Finding>* findings : {&refusals, &deck})
         for (const Finding& finding : *findings) {
             keys.emplace(finding.entry, DocumentKey::Name);
@@ -121,7 +124,7 @@ void FillReport(const LoadedDocument& loaded, bool withDeck, DocumentReport& rep
 } // namespace
 
 DocumentReport AuditFile(const std::string& file, bool withDeck) {
-    DocumentReport report{file, {}, 0, {}, {}, {}};
+    DocumentReport report{file};
     try {
         FillReport(*OpenDocument(file), withDeck, report);
     } catch (const BadInput& error) {

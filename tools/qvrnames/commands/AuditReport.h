@@ -28,12 +28,12 @@ struct ReportedFinding {
 
 /// The result for one document.
 struct DocumentReport {
-    std::string file;                        ///< as in the command line, or found in a folder
-    std::string error;                       ///< why the document is unusable; empty if it was audited
-    std::size_t checked = 0;                 ///< number of features
-    std::vector<ReportedFinding> refusals;   ///< names of features that break a rule
-    std::vector<ReportedFinding> deckFaults; ///< names in the deck that break a rule or clash
-    std::vector<ReportedFinding> warnings;   ///< unknown late types, and characters with a meaning in the deck
+    std::string file;                             ///< as in the command line, or found in a folder
+    std::string error = {};                       ///< why the document is unusable; empty if it was audited
+    std::size_t checked = 0;                      ///< number of features
+    std::vector<ReportedFinding> refusals = {};   ///< names of features that break a rule
+    std::vector<ReportedFinding> deckFaults = {}; ///< names in the deck that break a rule or clash
+    std::vector<ReportedFinding> warnings = {};   ///< unknown late types, and characters with a meaning in the deck
 };
 
 /// Audits a document. If it is unusable, the report contains only the file and the error.
