@@ -24,7 +24,7 @@ Words Keys(MemoryKind kind) {
 
 Words AllKeys() {
     Words keys;
-    for (std::size_t key = 0; key < kDocumentKeys; ++key)
+    for (std::size_t key = 0; key < kDocumentKeyCount; ++key)
         keys.insert(SpellingOf(static_cast<DocumentKey>(key)));
     return keys;
 }

@@ -141,7 +141,7 @@ int AuditDocuments(AuditRequest request, Console console) {
     const std::vector<std::string> files = FilesOf(request.documents);
     std::vector<DocumentReport> reports;
     ExitCode code = kSuccess;
-    Progress progress(console.err, console.screen.showsErrors, files.size());
+    Progress progress(console.err, console.screen.canShowProgress, files.size());
     for (const std::string& file : files) {
         progress.Show(reports.size());
         reports.push_back(AuditFile(file, request.withDeck));

@@ -27,7 +27,7 @@ std::vector<Finding> CheckFeatures(const LoadedDocument& loaded) {
 }
 
 std::string LateTypeOf(const LoadedDocument& loaded, std::uint32_t entry) {
-    return MemoryFeature(loaded.entries[entry].feature).LateType().ConvertToChar();
+    return loaded.entries[entry].feature.LateType().ConvertToChar();
 }
 
 /// An entry, and the key of it to which a report refers.

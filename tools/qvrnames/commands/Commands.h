@@ -18,7 +18,7 @@
 struct Console {
     std::ostream& out;
     std::ostream& err;
-    Screen screen = {};  ///< the terminal, if any, of `out`
+    Screen screen = {};  ///< the terminals, if any, of `out` and `err`
     bool isJson = false; ///< print the result as one JSON value
 };
 

@@ -23,7 +23,7 @@ enum class DocumentKey : unsigned char {
     Count,
 };
 
-inline constexpr std::size_t kDocumentKeys = static_cast<std::size_t>(DocumentKey::Count);
+inline constexpr std::size_t kDocumentKeyCount = static_cast<std::size_t>(DocumentKey::Count);
 
 /// Returns the key with this spelling, or nothing if objects of the kind do not take it.
 std::optional<DocumentKey> FindDocumentKey(std::string_view spelling, MemoryKind kind);

@@ -24,7 +24,7 @@ private:
     template <class Visit>
     void ForEachInterface(DocumentKey key, Visit visit) const;
 
-    std::array<JsonValue, kDocumentKeys> m_values;
+    std::array<JsonValue, kDocumentKeyCount> m_values;
 };
 
 // Typed values. Each function throws BadInput with the position of a value that has another type or is out of range.

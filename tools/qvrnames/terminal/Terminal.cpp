@@ -57,10 +57,10 @@ bool SupportsColour() { return !Environment("TERM").empty() && Environment("TERM
 } // namespace
 
 Screen ScreenOfProcess() {
-    const bool showsErrors = IsTerminal(stderr) && Environment("TERM") != "dumb";
+    const bool canShowProgress = IsTerminal(stderr) && Environment("TERM") != "dumb";
     if (!IsTerminal(stdout))
-        return {.showsErrors = showsErrors};
-    return {Columns(), Environment("NO_COLOR").empty() && SupportsColour(), showsErrors};
+        return {.canShowProgress = canShowProgress};
+    return {Columns(), Environment("NO_COLOR").empty() && SupportsColour(), canShowProgress};
 }
 
 std::string Styled(std::string_view text, Style style, const Screen& screen) {

@@ -6,9 +6,9 @@
 
 /// The properties of the terminals, if any, to which standard output and standard error are connected.
 struct Screen {
-    std::size_t columns = 0; ///< of the terminal; 0 if there is no terminal or its width is unknown
-    bool hasColour = false;
-    bool showsErrors = false; ///< standard error is a terminal that can show progress
+    std::size_t columns = 0;      ///< of standard output; 0 if it is no terminal or its width is unknown
+    bool hasColour = false;       ///< standard output shows the escape sequences of a Style
+    bool canShowProgress = false; ///< standard error is a terminal that can show progress
 };
 
 /// Returns the screen of the process. Colour is used on a terminal that supports it (TERM is set and not "dumb"),
