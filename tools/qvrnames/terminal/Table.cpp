@@ -148,13 +148,15 @@ void PrintStacked(std::ostream& out, const Table& table, const Screen& screen) {
 
 void PrintTable(std::ostream& out, const Table& table, const Screen& screen) {
     Widths widths = ColumnWidths(table, false);
-    const bool isTooWide = screen.columns > 0 && !widths.empty() && TotalWidth(widths) > screen.columns;
+    if (widths.empty())
+        return;
+    const bool isTooWide = screen.columns > 0 && TotalWidth(widths) > screen.columns;
     if (isTooWide)
         widths = FitWidths(table, screen.columns);
     else if (screen.columns == 0)
         for (std::size_t& width : widths)
             width = std::min(width, kMaxColumnWidth);
-    if (widths.empty()) {
+    if (widths.empty()) { // they do not fit next to each other
         PrintStacked(out, table, screen);
         return;
     }
