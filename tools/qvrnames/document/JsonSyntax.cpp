@@ -1,10 +1,10 @@
+// Checks that a text is JSON. The check builds no tree and does not recurse, so that a hostile text can exhaust neither
+// memory nor stack.
+
 #include "BadInput.h"
 #include "document/JsonText.h"
 
 #include <nlohmann/json.hpp>
-
-// Checks that a text is JSON. The check builds no tree and does not recurse, so that a hostile text can exhaust neither
-// memory nor stack.
 
 namespace {
 

@@ -90,6 +90,7 @@ public:
 
 private:
     friend class JsonValue;
+    /// Throws BadInput as the constructor does. Defined in JsonSyntax.cpp.
     void CheckSyntax() const;
     std::size_t OffsetBeyondMaxDepth() const;
     /// Returns the offset of the first character that is not white space, or the length of the text.
