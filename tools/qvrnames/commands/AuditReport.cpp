@@ -26,12 +26,12 @@ std::vector<Finding> CheckFeatures(const LoadedDocument& loaded) {
     return findings;
 }
 
-std::string LateTypeOf(const LoadedDocument& loaded, std::uint32_t entry) {
+std::string LateTypeOf(const LoadedDocument& loaded, EntryIndex entry) {
     return loaded.entries[entry].feature.LateType().ConvertToChar();
 }
 
 /// An entry, and the key of it to which a report refers.
-using KeyOfEntry = std::pair<std::uint32_t, DocumentKey>;
+using KeyOfEntry = std::pair<EntryIndex, DocumentKey>;
 
 /// The objects of a document as a report shows them. The positions are found in one pass over the file.
 class References {
@@ -48,7 +48,7 @@ public:
             m_positions[key] = finder.Find(offset);
     }
 
-    ObjectReference operator()(std::uint32_t entry, DocumentKey key = DocumentKey::Name) const {
+    ObjectReference operator()(EntryIndex entry, DocumentKey key = DocumentKey::Name) const {
         return {DisplayPath(m_loaded, entry), PointerOf(m_loaded, entry), m_positions.at({entry, key})};
     }
 
@@ -60,7 +60,7 @@ private:
 /// The objects of one unknown late type.
 struct UnknownType {
     std::string type;
-    std::uint32_t first;
+    EntryIndex first;
     std::size_t count;
 };
 
@@ -68,7 +68,7 @@ std::vector<UnknownType> UnknownTypes(const LoadedDocument& loaded) {
     const std::unordered_set<std::string> known(KnownLateTypes().begin(), KnownLateTypes().end());
     std::vector<UnknownType> unknown;
     std::unordered_map<std::string, std::size_t> positions;
-    for (std::uint32_t entry = 1; entry < loaded.entries.size(); ++entry) { // entry 0 is the model
+    for (EntryIndex entry = 1; entry < loaded.entries.size(); ++entry) { // entry 0 is the model
         const std::string type = LateTypeOf(loaded, entry);
         if (known.contains(type))
             continue;

@@ -19,9 +19,9 @@ std::unique_ptr<LoadedDocument> OpenDocument(const std::string& file) {
     }
 }
 
-std::uint32_t FindFeature(const LoadedDocument& loaded, const std::string& file, const std::string& reference) {
+EntryIndex FindFeature(const LoadedDocument& loaded, const std::string& file, const std::string& reference) {
     try {
-        const std::uint32_t entry = FindEntry(loaded, reference);
+        const EntryIndex entry = FindEntry(loaded, reference);
         if (entry == 0)
             throw BadInput("\"" + reference + "\" is the analysis model, which cannot have a name");
         return entry;

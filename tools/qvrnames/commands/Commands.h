@@ -85,8 +85,8 @@ int ImportTable(const ImportRequest& request, Console console);
 [[nodiscard]] std::unique_ptr<LoadedDocument> OpenDocument(const std::string& file);
 /// Returns the object to which a FEATURE argument leads; it may have no name. Throws BadInput if there is none, if
 /// there are several, or if it is the analysis model, which cannot have a name.
-[[nodiscard]] std::uint32_t FindFeature(const LoadedDocument& loaded, const std::string& file,
-                                        const std::string& reference);
+[[nodiscard]] EntryIndex FindFeature(const LoadedDocument& loaded, const std::string& file,
+                                     const std::string& reference);
 /// Writes a changed document to a file, or to standard output if `target` is "-". Throws BadInput on failure.
 /// @param model  the file whose permissions a new file gets
 void WriteDocument(const std::string& bytes, const std::string& target, const std::string& model, Console console);

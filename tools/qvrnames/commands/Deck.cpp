@@ -191,7 +191,7 @@ std::vector<DeckSection> BuildDeck(const LoadedDocument& loaded) {
     for (const SectionType& type : SectionTypes())
         deck.push_back({type.title, type.key, type.isPerCase, type.columns, {}});
     std::vector<Features> featuresOf(deck.size());
-    for (std::uint32_t entry = 0; entry < loaded.entries.size(); ++entry) {
+    for (EntryIndex entry = 0; entry < loaded.entries.size(); ++entry) {
         const ZFXISpecObject_var feature = loaded.entries[entry].feature;
         if (!IsInDeck(loaded.entries[entry], feature))
             continue;

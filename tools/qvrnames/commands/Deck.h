@@ -10,7 +10,7 @@
 
 /// An object and its names, one for each column of its section; nothing for a name that it does not have.
 struct DeckRow {
-    std::uint32_t entry;
+    EntryIndex entry;
     std::vector<std::optional<std::string>> names;
 };
 

@@ -9,14 +9,14 @@
 namespace {
 
 /// Returns the path of `other`, or its JSON pointer if `entry` has the same path.
-std::string OtherPath(const LoadedDocument& loaded, std::uint32_t other, std::uint32_t entry) {
+std::string OtherPath(const LoadedDocument& loaded, EntryIndex other, EntryIndex entry) {
     const std::string path = DisplayPath(loaded, other);
     return path == DisplayPath(loaded, entry) ? PointerOf(loaded, other) : path;
 }
 
 /// A name in a column, and the case with the deck or 0. Two names that clash are equal.
 struct DeckName {
-    std::uint32_t analysisCase;
+    EntryIndex analysisCase;
     ZFXUnicodeString name;
 
     friend bool operator==(const DeckName& a, const DeckName& b) {
@@ -33,7 +33,7 @@ struct HashOfDeckName {
 /// Appends the findings in one column.
 void CheckColumn(const DeckSection& section, std::size_t column, const LoadedDocument& loaded,
                  std::vector<Finding>& findings) {
-    std::unordered_map<DeckName, std::uint32_t, HashOfDeckName> owners; // the first object with each name
+    std::unordered_map<DeckName, EntryIndex, HashOfDeckName> owners; // the first object with each name
     for (const DeckRow& row : section.rows) {
         if (!row.names[column])
             continue;
@@ -47,7 +47,7 @@ void CheckColumn(const DeckSection& section, std::size_t column, const LoadedDoc
             add({true, kDeckCharacter,
                  "The name contains a line break, a comma or an asterisk. These characters have a special meaning "
                  "in the deck."});
-        const std::uint32_t analysisCase = section.isPerCase ? CaseOf(loaded, row.entry) : 0;
+        const EntryIndex analysisCase = section.isPerCase ? CaseOf(loaded, row.entry) : 0;
         const auto [owner, isNew] = owners.try_emplace({analysisCase, name.c_str()}, row.entry);
         if (!isNew)
             add({true, kDuplicateDeckName,

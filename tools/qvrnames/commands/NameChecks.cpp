@@ -35,7 +35,7 @@ Verdict VerdictOf(HRESULT code, const char* operation, const char* requirement) 
 
 ZFXListVal<QVRNameFinding> CheckStoredNames(const LoadedDocument& loaded) {
     ZFXListValZFXISpecObject_var features;
-    for (const std::uint32_t entry : NamedEntries(loaded))
+    for (const EntryIndex entry : NamedEntries(loaded))
         features.Append(loaded.entries[entry].feature);
     ZFXListVal<QVRNameFinding> findings;
     std::ignore = QVRNameUtil::CheckNames(features, findings); // always S_OK

@@ -6,21 +6,20 @@
 #include "base/ZFXResult.h"
 #include "text/ZFXUnicodeString.h"
 
-#include <cstdint>
 #include <optional>
 #include <string>
 
 /// The result of a check of a name.
 struct Verdict {
     bool isRefused = false;
-    std::string rule;                        ///< the broken rule, see Rule::id; empty if the name is accepted
-    std::string message;                     ///< why the name is refused; empty if it is accepted
-    std::optional<std::uint32_t> other = {}; ///< the entry of the object that the name clashes with
+    std::string rule;                     ///< the broken rule, see Rule::id; empty if the name is accepted
+    std::string message;                  ///< why the name is refused; empty if it is accepted
+    std::optional<EntryIndex> other = {}; ///< the entry of the object that the name clashes with
 };
 
 /// A rule that the name of an object breaks.
 struct Finding {
-    std::uint32_t entry;
+    EntryIndex entry;
     std::string name;
     Verdict verdict;
     std::string deckColumn = {}; ///< the column of a name in the deck; empty for the name of the feature

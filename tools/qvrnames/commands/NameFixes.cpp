@@ -17,7 +17,6 @@
 
 namespace {
 
-using Entry = std::uint32_t;
 using NameFindings = ZFXListVal<QVRNameFinding>;
 using Strings = QVRGenZFXUnicodeStringUtils;
 
@@ -79,10 +78,10 @@ public:
     explicit NameFixer(const LoadedDocument& loaded)
         : m_loaded(loaded), m_named(NamedEntries(loaded)), m_entryOf(IndexByObject(loaded)) {}
 
-    std::map<Entry, NameFix> Run() {
+    std::map<EntryIndex, NameFix> Run() {
         NameFindings findings = CheckStoredNames(m_loaded);
         for (const QVRNameFinding& finding : findings) {
-            const Entry entry = EntryOf(finding);
+            const EntryIndex entry = EntryOf(finding);
             Fix& fix = m_fixes.try_emplace(entry, Fix{{VerdictOf(finding, m_entryOf), NameOf(entry)}}).first->second;
             const bool isText = BreaksTextRule(finding);
             fix.isTextBroken |= isText;
@@ -93,7 +92,7 @@ public:
         while (CleanTexts(findings) || NumberClashes(findings) || LeaveRest(findings))
             findings = CheckStoredNames(m_loaded);
         QVRGenI18NUtils::Instance()->ResetAllLists();
-        std::map<Entry, NameFix> fixes;
+        std::map<EntryIndex, NameFix> fixes;
         for (auto& [entry, fix] : m_fixes) {
             fix.newName = NameOf(entry);
             SetName(entry, fix.oldName);
@@ -104,30 +103,30 @@ public:
 
 private:
     struct NumberRequest {
-        Entry entry;
+        EntryIndex entry;
         ZFXUnicodeString base;
     };
 
-    Entry EntryOf(const QVRNameFinding& finding) const { return m_entryOf.at(ZFXIdentityOf(finding.feature)); }
-    std::string NameOf(Entry entry) const { return m_loaded.entries[entry].feature.StoredAlias().ConvertToChar(); }
-    void SetName(Entry entry, const std::string& name) const {
+    EntryIndex EntryOf(const QVRNameFinding& finding) const { return m_entryOf.at(ZFXIdentityOf(finding.feature)); }
+    std::string NameOf(EntryIndex entry) const { return m_loaded.entries[entry].feature.StoredAlias().ConvertToChar(); }
+    void SetName(EntryIndex entry, const std::string& name) const {
         MemoryFeature feature = m_loaded.entries[entry].feature;
         feature.Alias(name.c_str());
     }
     /// Returns true if the name was refused and is not left.
-    bool CanChange(Entry entry) const {
+    bool CanChange(EntryIndex entry) const {
         const auto fix = m_fixes.find(entry);
         return fix != m_fixes.end() && fix->second.obstacle == nullptr;
     }
 
     /// Changes a name in memory. After too many changes, leaves it.
-    void Change(Entry entry, const ZFXUnicodeString& name) {
+    void Change(EntryIndex entry, const ZFXUnicodeString& name) {
         if (++m_fixes.at(entry).changes > kMaxChanges)
             Leave(entry, kNoName);
         else
             SetName(entry, name.ConvertToChar());
     }
-    void Leave(Entry entry, const char* obstacle) {
+    void Leave(EntryIndex entry, const char* obstacle) {
         Fix& fix = m_fixes.at(entry);
         fix.obstacle = obstacle;
         SetName(entry, fix.oldName);
@@ -138,7 +137,7 @@ private:
         bool hasFaults = false;
         std::vector<NumberRequest> requests;
         for (const QVRNameFinding& finding : findings) {
-            const Entry entry = EntryOf(finding);
+            const EntryIndex entry = EntryOf(finding);
             if (!CanChange(entry) || !BreaksTextRule(finding))
                 continue;
             hasFaults = true;
@@ -157,15 +156,15 @@ private:
 
     /// Returns the rank of a name: the lowest of several that clash is kept. Names that must not change come first,
     /// then those whose former text is legal, then the others, each in document order.
-    std::pair<int, Entry> RankOf(Entry entry) const {
+    std::pair<int, EntryIndex> RankOf(EntryIndex entry) const {
         return {!CanChange(entry) ? 0 : m_fixes.at(entry).isTextBroken ? 2 : 1, entry};
     }
 
     /// Returns by entry the first of the names that clash with each other, or the entry itself if its name is unique.
-    std::vector<Entry> FirstOfClashes(const NameFindings& findings) const {
-        std::vector<Entry> earlier(m_loaded.entries.size()); // of the same group; the first refers to itself
-        std::iota(earlier.begin(), earlier.end(), Entry{0});
-        const auto first = [&](Entry entry) { // shortens the path to the first one
+    std::vector<EntryIndex> FirstOfClashes(const NameFindings& findings) const {
+        std::vector<EntryIndex> earlier(m_loaded.entries.size()); // of the same group; the first refers to itself
+        std::iota(earlier.begin(), earlier.end(), EntryIndex{0});
+        const auto first = [&](EntryIndex entry) { // shortens the path to the first one
             while (earlier[entry] != entry)
                 entry = earlier[entry] = earlier[earlier[entry]];
             return entry;
@@ -177,16 +176,16 @@ private:
             const auto [low, high] = std::minmax({RankOf(first(EntryOf(finding))), RankOf(first(other->second))});
             earlier[high.second] = low.second;
         }
-        for (Entry& entry : earlier)
+        for (EntryIndex& entry : earlier)
             entry = first(entry);
         return earlier;
     }
 
     /// Appends numbers to the names that clash, except the first of each group. Returns false if no name can change.
     bool NumberClashes(const NameFindings& findings) {
-        const std::vector<Entry> first = FirstOfClashes(findings);
+        const std::vector<EntryIndex> first = FirstOfClashes(findings);
         std::vector<NumberRequest> requests;
-        for (const Entry entry : m_named) {
+        for (const EntryIndex entry : m_named) {
             if (first[entry] == entry || !CanChange(entry))
                 continue;
             const MemoryFeature kept = m_loaded.entries[first[entry]].feature;
@@ -201,7 +200,7 @@ private:
     bool LeaveRest(const NameFindings& findings) {
         bool isLeft = false;
         for (const QVRNameFinding& finding : findings)
-            if (const Entry entry = EntryOf(finding); CanChange(entry)) {
+            if (const EntryIndex entry = EntryOf(finding); CanChange(entry)) {
                 Leave(entry, kNoName);
                 isLeft = true;
             }
@@ -212,23 +211,23 @@ private:
     /// case, as with jobs, sets it to the next number in the document.
     void AppendNumbers(const std::vector<NumberRequest>& requests) {
         struct Group {
-            std::vector<Entry> entries;
+            std::vector<EntryIndex> entries;
             ZFXListValZFXBaseUnknown_var features; ///< only those with this base, so that the time is linear
         };
         if (requests.empty())
             return;
-        constexpr Entry kWholeDocument = DocumentEntry::kNone;
-        std::map<std::pair<Entry, std::string>, Group> groups; // by case or kWholeDocument, and base
+        constexpr EntryIndex kWholeDocument = DocumentEntry::kNone;
+        std::map<std::pair<EntryIndex, std::string>, Group> groups; // by case or kWholeDocument, and base
         for (const auto& [entry, base] : requests) {
             Fix& fix = m_fixes.at(entry);
-            const Entry scope = fix.isNumbered ? kWholeDocument : CaseOf(m_loaded, entry);
+            const EntryIndex scope = fix.isNumbered ? kWholeDocument : CaseOf(m_loaded, entry);
             groups[{scope, base.ConvertToChar()}].entries.push_back(entry);
             fix.isNumbered = true;
         }
-        for (const Entry entry : m_named) {
+        for (const EntryIndex entry : m_named) {
             const MemoryFeature feature = m_loaded.entries[entry].feature;
             const std::string base = NumberingBase(feature.StoredAlias()).ConvertToChar();
-            for (const Entry scope : {CaseOf(m_loaded, entry), kWholeDocument})
+            for (const EntryIndex scope : {CaseOf(m_loaded, entry), kWholeDocument})
                 if (const auto group = groups.find({scope, base}); group != groups.end())
                     group->second.features.Append(feature);
         }
@@ -243,11 +242,11 @@ private:
     }
 
     const LoadedDocument& m_loaded;
-    const std::vector<Entry> m_named;
+    const std::vector<EntryIndex> m_named;
     const EntriesByObject m_entryOf;
-    std::map<Entry, Fix> m_fixes;
+    std::map<EntryIndex, Fix> m_fixes;
 };
 
 } // namespace
 
-std::map<std::uint32_t, NameFix> FindFixes(const LoadedDocument& loaded) { return NameFixer(loaded).Run(); }
+std::map<EntryIndex, NameFix> FindFixes(const LoadedDocument& loaded) { return NameFixer(loaded).Run(); }

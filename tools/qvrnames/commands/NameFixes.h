@@ -3,7 +3,6 @@
 #include "commands/NameChecks.h"
 #include "document/LoadedDocument.h"
 
-#include <cstdint>
 #include <map>
 #include <string>
 
@@ -24,4 +23,4 @@ struct NameFix {
 /// - no legal and unique name is found, for example because its late type breaks the rules too.
 ///
 /// Each round of changes takes linear time. There are usually two to five rounds.
-[[nodiscard]] std::map<std::uint32_t, NameFix> FindFixes(const LoadedDocument& loaded);
+[[nodiscard]] std::map<EntryIndex, NameFix> FindFixes(const LoadedDocument& loaded);

@@ -111,7 +111,7 @@ int ProposeName(const ProposeRequest& request, Console console) {
     if (request.feature.empty())
         throw BadInput("FEATURE is required (see --help)");
     const auto loaded = OpenDocument(request.document);
-    const std::uint32_t entry = FindFeature(*loaded, request.document, request.feature);
+    const EntryIndex entry = FindFeature(*loaded, request.document, request.feature);
     const ZFXISpecObject_var feature = loaded->entries[entry].feature;
     const Proposal proposal = Propose(*loaded, feature, BaseOf(request, feature));
     if (console.isJson) {

@@ -27,7 +27,7 @@ struct Outcome {
 
 /// Renames the feature through its interface ZFXIAlias, as a workbench does, if the name passes the check. With
 /// `force`, also renames a feature of a type that accepts any name.
-Outcome ApplyName(const LoadedDocument& loaded, std::uint32_t entry, const RenameRequest& request) {
+Outcome ApplyName(const LoadedDocument& loaded, EntryIndex entry, const RenameRequest& request) {
     const ZFXISpecObject_var feature = loaded.entries[entry].feature;
     const ZFXUnicodeString name = ToUnicode(request.name);
     const ZFXIAlias_var alias(feature);
@@ -94,7 +94,7 @@ int RenameFeature(const RenameRequest& request, Console console) {
     // From reading to writing, so that no change by another process is lost.
     const std::shared_ptr<void> lock = isInPlace ? LockFile(request.document) : nullptr;
     const auto loaded = OpenDocument(request.document);
-    const std::uint32_t entry = FindFeature(*loaded, request.document, request.feature);
+    const EntryIndex entry = FindFeature(*loaded, request.document, request.feature);
     const std::string feature = DisplayPath(*loaded, entry);
     const Outcome outcome = ApplyName(*loaded, entry, request);
     // The file is written before the result is printed, so that a renaming that cannot be written is not reported.

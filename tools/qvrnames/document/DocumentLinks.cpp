@@ -37,24 +37,24 @@ void Connect(LinkKind kind, MemoryFeature from, MemoryFeature to) {
 class Fathers {
 public:
     explicit Fathers(const LoadedDocument& loaded) {
-        std::uint32_t history = 0; // the last one; it comes after the case of a step if it belongs to this case
+        EntryIndex history = 0; // the last one; it comes after the case of a step if it belongs to this case
         for (const DocumentEntry& entry : loaded.entries) {
             const bool isJobs = entry.key == DocumentKey::JobContainers || entry.key == DocumentKey::Jobs;
             const bool underHistory = entry.key == DocumentKey::Steps && history > entry.parent;
             const bool underModel = isJobs && loaded.entries[entry.parent].key == DocumentKey::Cases;
             m_father.push_back(underHistory ? history : underModel ? 0 : entry.parent);
             if (entry.key == DocumentKey::History)
-                history = static_cast<std::uint32_t>(m_father.size() - 1);
+                history = static_cast<EntryIndex>(m_father.size() - 1);
         }
         m_visited.resize(m_father.size());
     }
-    void Set(std::uint32_t child, std::uint32_t father) { m_father[child] = father; }
+    void Set(EntryIndex child, EntryIndex father) { m_father[child] = father; }
 
     /// Returns true if the chain of fathers that begins at `from` contains an object twice. All calls together visit
     /// each object once.
-    bool IsOnCycle(std::uint32_t from) {
+    bool IsOnCycle(EntryIndex from) {
         ++m_walk;
-        for (std::uint32_t at = from; at != DocumentEntry::kNone; at = m_father[at]) {
+        for (EntryIndex at = from; at != DocumentEntry::kNone; at = m_father[at]) {
             if (m_visited[at] != 0)
                 return m_visited[at] == m_walk;
             m_visited[at] = m_walk;
@@ -63,14 +63,14 @@ public:
     }
 
 private:
-    std::vector<std::uint32_t> m_father;
+    std::vector<EntryIndex> m_father;
     std::vector<std::uint32_t> m_visited; // the number of the walk that visited the object; 0 if none
     std::uint32_t m_walk = 0;
 };
 
 } // namespace
 
-std::uint32_t DocumentLinks::TargetOf(const LoadedDocument& loaded, const Link& link) {
+EntryIndex DocumentLinks::TargetOf(const LoadedDocument& loaded, const Link& link) {
     if (!link.id)
         return link.target;
     const std::string id = link.id.Text();
@@ -88,7 +88,7 @@ std::uint32_t DocumentLinks::TargetOf(const LoadedDocument& loaded, const Link& 
 void DocumentLinks::ResolveLinks(LoadedDocument& loaded) const {
     Fathers fathers(loaded);
     for (const Link& link : m_links) {
-        const std::uint32_t target = TargetOf(loaded, link);
+        const EntryIndex target = TargetOf(loaded, link);
         if (link.kind == LinkKind::Member && target == link.from)
             link.id.ThrowError("a set cannot contain itself");
         if (link.kind == LinkKind::Father)

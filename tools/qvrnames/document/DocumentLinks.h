@@ -10,9 +10,9 @@ enum class LinkKind { Father, PointedAtBy, Member, Group, Connector, MasterConne
 class DocumentLinks {
 public:
     /// Adds a reference by id, which is a string.
-    void Add(LinkKind kind, std::uint32_t from, JsonValue id) { m_links.push_back({kind, from, id}); }
+    void Add(LinkKind kind, EntryIndex from, JsonValue id) { m_links.push_back({kind, from, id}); }
     /// Adds a reference to an entry, or to no object if `target` is kNone.
-    void Add(LinkKind kind, std::uint32_t from, std::uint32_t target) { m_links.push_back({kind, from, {}, target}); }
+    void Add(LinkKind kind, EntryIndex from, EntryIndex target) { m_links.push_back({kind, from, {}, target}); }
     /// Connects the objects of the document. Throws BadInput for an unknown id, for a set that contains itself, and for
     /// fathers that form a cycle.
     void ResolveLinks(LoadedDocument& loaded) const;
@@ -20,11 +20,11 @@ public:
 private:
     struct Link {
         LinkKind kind;
-        std::uint32_t from;
-        JsonValue id;                                ///< no value: the reference has a target
-        std::uint32_t target = DocumentEntry::kNone; ///< if there is no id; kNone: no object
+        EntryIndex from;
+        JsonValue id;                             ///< no value: the reference has a target
+        EntryIndex target = DocumentEntry::kNone; ///< if there is no id; kNone: no object
     };
-    static std::uint32_t TargetOf(const LoadedDocument& loaded, const Link& link);
+    static EntryIndex TargetOf(const LoadedDocument& loaded, const Link& link);
 
     std::vector<Link> m_links;
 };

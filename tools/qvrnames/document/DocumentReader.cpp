@@ -1,3 +1,6 @@
+// Builds the analysis document from a document file: one pass over the objects, then one over their references. The
+// order of the keys in a JSON object is not significant.
+
 #include "document/DocumentLinks.h"
 #include "document/LoadedDocument.h"
 #include "document/ObjectFields.h"
@@ -6,9 +9,6 @@
 
 #include <optional>
 #include <utility>
-
-// Builds the analysis document from a document file: one pass over the objects, then one over their references. The
-// order of the keys in a JSON object is not significant.
 
 namespace {
 
@@ -30,7 +30,7 @@ private:
     static std::uint32_t Offset(JsonValue value) { return static_cast<std::uint32_t>(value.Begin()); }
 
     /// Creates the object and all objects below it.
-    void ReadObject(JsonValue object, const ChildKey& child, std::uint32_t parent, std::uint32_t index) {
+    void ReadObject(JsonValue object, const ChildKey& child, EntryIndex parent, std::uint32_t index) {
         const ObjectFields fields(object, child.kind);
         const JsonValue type = fields[DocumentKey::Type];
         if (!type && child.defaultType == nullptr)
@@ -39,7 +39,7 @@ private:
         const JsonValue name = fields[DocumentKey::Name];
         const MemoryFeature created =
             CreateObject(child, parent, lateType.c_str(), name ? ReadText(name) : ZFXUnicodeString());
-        const auto entry = static_cast<std::uint32_t>(m_loaded.entries.size());
+        const auto entry = static_cast<EntryIndex>(m_loaded.entries.size());
         m_loaded.entries.push_back({created, Offset(object), parent, index, child.key, static_cast<bool>(name)});
         ApplyFields(entry, fields);
         if (child.kind == MemoryKind::Case) {
@@ -49,7 +49,7 @@ private:
         ReadChildren(entry, child.kind, fields);
     }
 
-    MemoryFeature CreateObject(const ChildKey& child, std::uint32_t parent, const char* type,
+    MemoryFeature CreateObject(const ChildKey& child, EntryIndex parent, const char* type,
                                const ZFXUnicodeString& name) {
         MemoryFeature above = m_loaded.entries[parent].feature;
         if (child.key == DocumentKey::MeshManager)
@@ -64,7 +64,7 @@ private:
         return created;
     }
 
-    void ReadChildren(std::uint32_t entry, MemoryKind kind, const ObjectFields& fields) {
+    void ReadChildren(EntryIndex entry, MemoryKind kind, const ObjectFields& fields) {
         for (const ChildKey& child : kChildKeys) {
             const JsonValue value = fields[child.key];
             if (!value || IsNullHistory(child.key, value))
@@ -81,14 +81,13 @@ private:
     }
 
     /// Creates the object of a list element. On a side of a connection, the element may instead be the id of an object.
-    void ReadElement(JsonValue element, const ChildKey& child, std::uint32_t entry, std::uint32_t index,
-                     MemoryKind kind) {
+    void ReadElement(JsonValue element, const ChildKey& child, EntryIndex entry, std::uint32_t index, MemoryKind kind) {
         const std::optional<LinkKind> side = SideOf(child.key, kind);
         if (side && element.Kind() == JsonKind::String) {
             m_links.Add(*side, entry, element);
             return;
         }
-        const auto created = static_cast<std::uint32_t>(m_loaded.entries.size());
+        const auto created = static_cast<EntryIndex>(m_loaded.entries.size());
         ReadObject(element, child, entry, index);
         if (side)
             m_links.Add(*side, entry, created);
@@ -106,7 +105,7 @@ private:
     }
 
     /// Applies the keys that do not lead to objects below this one. Keeps the references until all objects exist.
-    void ApplyFields(std::uint32_t entry, const ObjectFields& fields) {
+    void ApplyFields(EntryIndex entry, const ObjectFields& fields) {
         fields.ApplyTo(m_loaded.entries[entry].feature);
         if (const JsonValue id = fields[DocumentKey::Id])
             RegisterId(id, entry);
@@ -121,7 +120,7 @@ private:
         AddLinks(LinkKind::Member, entry, fields[DocumentKey::Holds]);
     }
 
-    void RegisterId(JsonValue value, std::uint32_t entry) {
+    void RegisterId(JsonValue value, EntryIndex entry) {
         const std::string id = ReadNonEmptyText(value);
         if (id.front() == '/')
             value.ThrowError("an id must not begin with \"/\", which marks a JSON pointer");
@@ -131,14 +130,14 @@ private:
                              m_loaded.text.LineAndColumn(m_loaded.entries[known->second].offset));
     }
 
-    void AddLinks(LinkKind kind, std::uint32_t entry, JsonValue list) {
+    void AddLinks(LinkKind kind, EntryIndex entry, JsonValue list) {
         if (!list)
             return;
         ExpectKind(list, JsonKind::Array);
         list.ForEachElement([&](std::size_t, JsonValue reference) { AddLink(kind, entry, reference); });
     }
 
-    void AddLink(LinkKind kind, std::uint32_t entry, JsonValue reference) {
+    void AddLink(LinkKind kind, EntryIndex entry, JsonValue reference) {
         ExpectKind(reference, JsonKind::String);
         m_links.Add(kind, entry, reference);
     }

@@ -12,7 +12,7 @@ namespace {
 
 constexpr std::size_t kMaxCandidates = 10;
 
-using Entries = std::vector<std::uint32_t>;
+using Entries = std::vector<EntryIndex>;
 
 std::string PathSegment(const DocumentEntry& entry) {
     const std::string name = entry.feature.StoredAlias().ConvertToChar();
@@ -38,8 +38,8 @@ std::string LastSegments(const std::string& reference, const std::string& path) 
 Entries ClosestEntries(const LoadedDocument& loaded, std::string reference) {
     reference.erase(reference.find_last_not_of('/') + 1);
     const double limit = 1 + static_cast<double>(reference.size()) / 3;
-    std::vector<std::pair<double, std::uint32_t>> near;
-    for (const std::uint32_t entry : NamedEntries(loaded))
+    std::vector<std::pair<double, EntryIndex>> near;
+    for (const EntryIndex entry : NamedEntries(loaded))
         near.emplace_back(EditDistance(reference, LastSegments(reference, PathOf(loaded, entry)), limit), entry);
     for (const auto& [id, entry] : loaded.ids)
         near.emplace_back(EditDistance(reference, id, limit), entry);
@@ -55,7 +55,7 @@ Entries ClosestEntries(const LoadedDocument& loaded, std::string reference) {
 Entries EntriesNear(const LoadedDocument& loaded, const std::string& pointer) {
     Entries neighbours;
     std::size_t longest = 0;
-    for (const std::uint32_t entry : NamedEntries(loaded)) {
+    for (const EntryIndex entry : NamedEntries(loaded)) {
         const std::string at = PointerOf(loaded, entry) + "/";
         const auto differ = std::mismatch(at.begin(), at.end(), pointer.begin(), pointer.end());
         const auto common = at.rfind('/', static_cast<std::size_t>(differ.first - at.begin()));
@@ -78,11 +78,11 @@ std::string CandidateLines(const LoadedDocument& loaded, const Entries& entries)
     return lines;
 }
 
-std::optional<std::uint32_t> FindByPointer(const LoadedDocument& loaded, const std::string& pointer) {
+std::optional<EntryIndex> FindByPointer(const LoadedDocument& loaded, const std::string& pointer) {
     const JsonValue value = loaded.text.Find(pointer);
     if (!value)
         return std::nullopt;
-    for (std::uint32_t entry = 0; entry < loaded.entries.size(); ++entry)
+    for (EntryIndex entry = 0; entry < loaded.entries.size(); ++entry)
         if (loaded.entries[entry].offset == value.Begin())
             return entry;
     return std::nullopt;
@@ -91,7 +91,7 @@ std::optional<std::uint32_t> FindByPointer(const LoadedDocument& loaded, const s
 Entries FindByPath(const LoadedDocument& loaded, const std::string& reference) {
     Entries exact;
     Entries ends;
-    for (const std::uint32_t entry : NamedEntries(loaded)) {
+    for (const EntryIndex entry : NamedEntries(loaded)) {
         const std::string path = PathOf(loaded, entry);
         if (path == reference)
             exact.push_back(entry);
@@ -103,7 +103,7 @@ Entries FindByPath(const LoadedDocument& loaded, const std::string& reference) {
 
 } // namespace
 
-std::string PathOf(const LoadedDocument& loaded, std::uint32_t entry) {
+std::string PathOf(const LoadedDocument& loaded, EntryIndex entry) {
     assert(entry < loaded.entries.size());
     std::string path;
     for (; entry != DocumentEntry::kNone; entry = loaded.entries[entry].parent) {
@@ -116,7 +116,7 @@ std::string PathOf(const LoadedDocument& loaded, std::uint32_t entry) {
     return path;
 }
 
-std::string PointerOf(const LoadedDocument& loaded, std::uint32_t entry) {
+std::string PointerOf(const LoadedDocument& loaded, EntryIndex entry) {
     assert(entry < loaded.entries.size());
     std::string pointer;
     for (; loaded.entries[entry].parent != DocumentEntry::kNone; entry = loaded.entries[entry].parent) {
@@ -129,13 +129,13 @@ std::string PointerOf(const LoadedDocument& loaded, std::uint32_t entry) {
     return pointer;
 }
 
-std::string DisplayPath(const LoadedDocument& loaded, std::uint32_t entry) {
+std::string DisplayPath(const LoadedDocument& loaded, EntryIndex entry) {
     assert(entry < loaded.entries.size());
     const std::string path = loaded.entries[entry].isNamed ? PathOf(loaded, entry) : "";
     return path.empty() || path.starts_with('/') ? PointerOf(loaded, entry) : path;
 }
 
-std::uint32_t FindEntry(const LoadedDocument& loaded, const std::string& reference) {
+EntryIndex FindEntry(const LoadedDocument& loaded, const std::string& reference) {
     if (const auto known = loaded.ids.find(reference); known != loaded.ids.end())
         return known->second;
     if (reference.starts_with('/')) {

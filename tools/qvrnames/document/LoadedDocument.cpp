@@ -4,15 +4,15 @@
 
 #include <map>
 
-std::vector<std::uint32_t> NamedEntries(const LoadedDocument& loaded) {
-    std::vector<std::uint32_t> named;
-    for (std::uint32_t entry = 0; entry < loaded.entries.size(); ++entry)
+std::vector<EntryIndex> NamedEntries(const LoadedDocument& loaded) {
+    std::vector<EntryIndex> named;
+    for (EntryIndex entry = 0; entry < loaded.entries.size(); ++entry)
         if (loaded.entries[entry].isNamed)
             named.push_back(entry);
     return named;
 }
 
-std::uint32_t CaseOf(const LoadedDocument& loaded, std::uint32_t entry) {
+EntryIndex CaseOf(const LoadedDocument& loaded, EntryIndex entry) {
     while (entry != 0 && loaded.entries[entry].key != DocumentKey::Cases)
         entry = loaded.entries[entry].parent;
     return entry;
@@ -20,12 +20,12 @@ std::uint32_t CaseOf(const LoadedDocument& loaded, std::uint32_t entry) {
 
 EntriesByObject IndexByObject(const LoadedDocument& loaded) {
     EntriesByObject entries;
-    for (std::uint32_t entry = 0; entry < loaded.entries.size(); ++entry)
+    for (EntryIndex entry = 0; entry < loaded.entries.size(); ++entry)
         entries.emplace(loaded.entries[entry].feature.Object(), entry);
     return entries;
 }
 
-std::size_t OffsetOf(const LoadedDocument& loaded, std::uint32_t entry, DocumentKey key) {
+std::size_t OffsetOf(const LoadedDocument& loaded, EntryIndex entry, DocumentKey key) {
     std::size_t offset = loaded.entries[entry].offset;
     loaded.text.ValueAt(offset).ForEachMember([&](JsonValue found, JsonValue value) {
         if (found.Text() == SpellingOf(key))
