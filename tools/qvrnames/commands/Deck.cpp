@@ -118,12 +118,15 @@ struct SectionType {
     const char* title;
     const char* key;
     bool isPerCase;
-    bool (*matches)(const ZFXISpecObject_var& feature); ///< null: every object that matches no other section
+    bool (*matches)(const ZFXISpecObject_var& feature); ///< null for kFeatureSection
     std::vector<Names> (*namesOf)(const Features& features);
     std::vector<DeckColumn> columns;
 };
 
 constexpr DeckColumn kDisplay{"DISPLAY NAME", "displayName", false};
+
+/// The section of the objects that match no other section.
+constexpr std::size_t kFeatureSection = 0;
 
 /// In the order of the output. An object belongs to the first section that matches it.
 const std::vector<SectionType>& SectionTypes() {
@@ -167,21 +170,17 @@ const std::vector<SectionType>& SectionTypes() {
 /// and by their late types.
 std::size_t SectionOf(const ZFXISpecObject_var& feature) {
     const std::vector<SectionType>& types = SectionTypes();
-    std::size_t rest = 0;
-    for (std::size_t i = 0; i < types.size(); ++i) {
-        if (types[i].matches == nullptr)
-            rest = i;
-        else if (types[i].matches(feature))
+    for (std::size_t i = 0; i < types.size(); ++i)
+        if (types[i].matches != nullptr && types[i].matches(feature))
             return i;
-    }
-    return rest;
+    return kFeatureSection;
 }
 
-/// Returns true if the object is written into the deck: it has a name, or it belongs to a section other than the
-/// features. A step or a member of a set is written without a name too, because it gets a generic name.
-bool IsInDeck(const DocumentEntry& entry, const ZFXISpecObject_var& feature) {
-    return feature != nullptr && (entry.isNamed || SectionTypes()[SectionOf(feature)].matches != nullptr ||
-                                  Offers<QVRIStep_var>(feature) || Offers<ZFXISamAnalysisEntity_var>(feature));
+/// Returns true if the object is written into the section: it has a name, or the section is not that of the features. A
+/// step or a member of a set is written without a name too, because it gets a generic name.
+bool IsInDeck(const DocumentEntry& entry, const ZFXISpecObject_var& feature, const SectionType& section) {
+    return entry.isNamed || section.matches != nullptr || Offers<QVRIStep_var>(feature) ||
+           Offers<ZFXISamAnalysisEntity_var>(feature);
 }
 
 } // namespace
@@ -193,9 +192,11 @@ std::vector<DeckSection> BuildDeck(const LoadedDocument& loaded) {
     std::vector<Features> featuresOf(deck.size());
     for (EntryIndex entry = 0; entry < loaded.entries.size(); ++entry) {
         const ZFXISpecObject_var feature = loaded.entries[entry].feature;
-        if (!IsInDeck(loaded.entries[entry], feature))
+        if (feature == nullptr)
             continue;
         const std::size_t section = SectionOf(feature);
+        if (!IsInDeck(loaded.entries[entry], feature, SectionTypes()[section]))
+            continue;
         deck[section].rows.push_back({entry, {}});
         featuresOf[section].Append(feature);
     }
