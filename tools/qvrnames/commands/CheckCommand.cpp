@@ -30,15 +30,13 @@ std::vector<std::string> LinesOf(const std::string& file) {
 
 std::vector<std::string> NamesOf(const CheckRequest& request) {
     std::vector<std::string> names;
-    for (const std::string& argument : request.names) {
-        const std::vector<std::string> found =
-            argument == kStandardStream ? LinesOf(argument) : std::vector<std::string>{argument};
-        names.insert(names.end(), found.begin(), found.end());
-    }
-    if (!request.from.empty()) {
-        const std::vector<std::string> found = LinesOf(request.from);
-        names.insert(names.end(), found.begin(), found.end());
-    }
+    const auto append = [&](const std::vector<std::string>& more) {
+        names.insert(names.end(), more.begin(), more.end());
+    };
+    for (const std::string& argument : request.names)
+        append(argument == kStandardStream ? LinesOf(argument) : std::vector{argument});
+    if (!request.from.empty())
+        append(LinesOf(request.from));
     if (request.names.empty() && request.from.empty())
         throw BadInput("there is no name to check (see --help)");
     return names;
