@@ -40,11 +40,6 @@ std::vector<std::string> FilesOf(const std::vector<std::string>& arguments) {
     return files;
 }
 
-/// Returns "LINE:COLUMN".
-std::string PositionOf(const ReportedFinding& finding) {
-    return std::to_string(finding.object.position.line) + ":" + std::to_string(finding.object.position.column);
-}
-
 /// Returns the name that breaks the rule, and the column of a name in the deck.
 std::string NameCell(const ReportedFinding& finding) {
     if (finding.rule == kUnknownType)

@@ -133,6 +133,10 @@ DocumentReport AuditFile(const std::string& file, bool withDeck) {
     return report;
 }
 
+std::string PositionOf(const ReportedFinding& finding) {
+    return std::to_string(finding.object.position.line) + ":" + std::to_string(finding.object.position.column);
+}
+
 std::vector<const ReportedFinding*> FindingsOf(const DocumentReport& report, bool isStrict) {
     std::vector<const ReportedFinding*> findings;
     for (const auto* list : {&report.refusals, &report.deckFaults, &report.warnings})

@@ -39,5 +39,8 @@ struct DocumentReport {
 /// Audits a document. If it is unusable, the report contains only the file and the error.
 [[nodiscard]] DocumentReport AuditFile(const std::string& file, bool withDeck);
 
+/// Returns the position of the name in the file: "LINE:COLUMN".
+[[nodiscard]] std::string PositionOf(const ReportedFinding& finding);
+
 /// Returns the findings that make the audit of a document fail: refusals, deck faults and, if `isStrict`, warnings.
 [[nodiscard]] std::vector<const ReportedFinding*> FindingsOf(const DocumentReport& report, bool isStrict);

@@ -183,43 +183,39 @@ std::string Attribute(const char* name, const std::string& value) {
     return " " + std::string(name) + "=\"" + Xml(value) + "\"";
 }
 
-/// Returns the findings that make an audit fail, those of an object next to each other.
-std::vector<const ReportedFinding*> FindingsByObject(const DocumentReport& report, bool isStrict) {
-    std::vector<const ReportedFinding*> findings = FindingsOf(report, isStrict);
-    std::stable_sort(findings.begin(), findings.end(), [](const ReportedFinding* a, const ReportedFinding* b) {
-        return a->object.pointer < b->object.pointer;
-    });
-    return findings;
+using FindingList = std::vector<const ReportedFinding*>;
+
+/// Prints the beginning of a test case, up to its attributes.
+void BeginCase(const std::string& name, const DocumentReport& report, std::ostream& out) {
+    out << "    <testcase" << Attribute("name", name) << Attribute("classname", report.file);
 }
 
-/// Prints one test case for each feature with findings, or one for a document without findings.
+/// Prints the test case of an object with findings.
+void PrintFailedCase(const FindingList& findings, const DocumentReport& report, std::ostream& out) {
+    BeginCase(findings.front()->object.path, report, out);
+    out << "><failure" << Attribute("type", findings.front()->rule) << ">";
+    for (const ReportedFinding* finding : findings)
+        out << Xml(report.file) << ":" << PositionOf(*finding) << ": " << Xml(finding->rule + ": " + finding->message)
+            << (finding->other ? Xml(" The other feature is " + finding->other->path + ".") : "") << '\n';
+    out << "</failure></testcase>\n";
+}
+
+/// Prints one test case for each object with findings, or one for a document without findings.
 void PrintSuite(const DocumentReport& report, const AuditRequest& request, std::ostream& out) {
+    std::map<std::string, FindingList> byPointer;
+    for (const ReportedFinding* finding : FindingsOf(report, request.isStrict))
+        byPointer[finding->object.pointer].push_back(finding);
     const bool isUnusable = !report.error.empty();
-    std::size_t failed = 0;
-    std::string cases;
-    const ReportedFinding* former = nullptr;
-    for (const ReportedFinding* finding : FindingsByObject(report, request.isStrict)) {
-        const ObjectReference& object = finding->object;
-        if (former == nullptr || former->object.pointer != object.pointer) {
-            cases += former == nullptr ? "" : "</failure></testcase>\n";
-            cases += "    <testcase" + Attribute("name", object.path) + Attribute("classname", report.file) +
-                     "><failure" + Attribute("type", finding->rule) + ">";
-            ++failed;
-        }
-        cases += Xml(report.file) + ":" + std::to_string(object.position.line) + ":" +
-                 std::to_string(object.position.column) + ": " + Xml(finding->rule + ": " + finding->message) +
-                 (finding->other ? Xml(" The other feature is " + finding->other->path + ".") : "") + "\n";
-        former = finding;
-    }
-    if (former != nullptr)
-        cases += "</failure></testcase>\n";
-    else
-        cases = "    <testcase" + Attribute("name", report.file) + Attribute("classname", report.file) +
-                (isUnusable ? "><error" + Attribute("message", report.error) + "/></testcase>\n" : "/>\n");
     out << "  <testsuite" << Attribute("name", report.file)
-        << Attribute("tests", std::to_string(std::max<std::size_t>(failed, 1)))
-        << Attribute("failures", std::to_string(failed)) << Attribute("errors", isUnusable ? "1" : "0") << ">\n"
-        << cases;
+        << Attribute("tests", std::to_string(std::max<std::size_t>(byPointer.size(), 1)))
+        << Attribute("failures", std::to_string(byPointer.size())) << Attribute("errors", isUnusable ? "1" : "0")
+        << ">\n";
+    for (const auto& [pointer, findings] : byPointer)
+        PrintFailedCase(findings, report, out);
+    if (byPointer.empty()) {
+        BeginCase(report.file, report, out);
+        out << (isUnusable ? "><error" + Attribute("message", report.error) + "/></testcase>\n" : "/>\n");
+    }
     if (!request.isStrict && !report.warnings.empty()) {
         out << "    <system-err>";
         for (const ReportedFinding& finding : report.warnings)
