@@ -74,6 +74,13 @@ TEST(FilesOnPosix, ReportsMissingPermissions) {
     EXPECT_EQ(folder.Files(), 2U);
 }
 
+TEST(FilesOnPosix, PrintsControlCharactersInAPathAsEscapes) {
+    const TestFolder folder;
+    const std::string table = folder.Write("names.csv", "name,kind\n");
+    EXPECT_EQ(RunWith({"import", table, "--output", folder.Path("a\nb.json")}).out,
+              folder.Path("a\\u000Ab.json") + ": 0 rows imported\n");
+}
+
 TEST(FilesOnPosix, ReportsAReadError) {
     EXPECT_EQ(RunWith({"audit", "/proc/self/mem"}).err,
               "qvrnames: /proc/self/mem: cannot be read: Input/output error\n");

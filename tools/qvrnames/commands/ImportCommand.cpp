@@ -7,6 +7,7 @@
 #include "document/EditDistance.h"
 #include "files/FileErrors.h"
 #include "files/WholeFile.h"
+#include "terminal/DisplayWidth.h"
 
 #include "LateTypes.h"
 #include "text/Utf8Path.h"
@@ -203,6 +204,6 @@ int ImportTable(const ImportRequest& request, Console console) {
     if (console.isJson)
         PrintJson(console.out, {{"output", request.output}, {"rows", rows.size() - 1}});
     else
-        console.out << request.output << ": " << Counted(rows.size() - 1, "row") << " imported\n";
+        console.out << Printable(request.output) << ": " << Counted(rows.size() - 1, "row") << " imported\n";
     return kSuccess;
 }
