@@ -80,25 +80,12 @@ public:
 
     std::map<EntryIndex, NameFix> Run() {
         NameFindings findings = CheckStoredNames(m_loaded);
-        for (const QVRNameFinding& finding : findings) {
-            const EntryIndex entry = EntryOf(finding);
-            Fix& fix = m_fixes.try_emplace(entry, Fix{{VerdictOf(finding, m_entryOf), NameOf(entry)}}).first->second;
-            const bool isText = BreaksTextRule(finding);
-            fix.isTextBroken |= isText;
-            if (!isText && !IsClash(finding))
-                fix.obstacle = kOtherCause;
-        }
-        QVRGenI18NUtils::Instance()->ResetAllLists();
+        AddFixes(findings);
+        QVRGenI18NUtils::Instance()->ResetAllLists(); // generic names depend on earlier requests for them
         while (CleanTexts(findings) || NumberClashes(findings) || LeaveRest(findings))
             findings = CheckStoredNames(m_loaded);
         QVRGenI18NUtils::Instance()->ResetAllLists();
-        std::map<EntryIndex, NameFix> fixes;
-        for (auto& [entry, fix] : m_fixes) {
-            fix.newName = NameOf(entry);
-            SetName(entry, fix.oldName);
-            fixes.emplace(entry, std::move(fix));
-        }
-        return fixes;
+        return TakeFixes();
     }
 
 private:
@@ -113,6 +100,30 @@ private:
         MemoryFeature feature = m_loaded.entries[entry].feature;
         feature.Alias(name.c_str());
     }
+
+    /// Adds a fix for each refused name. Leaves names that break a rule other than those about texts and clashes.
+    void AddFixes(const NameFindings& findings) {
+        for (const QVRNameFinding& finding : findings) {
+            const EntryIndex entry = EntryOf(finding);
+            Fix& fix = m_fixes.try_emplace(entry, Fix{{VerdictOf(finding, m_entryOf), NameOf(entry)}}).first->second;
+            const bool isText = BreaksTextRule(finding);
+            fix.isTextBroken |= isText;
+            if (!isText && !IsClash(finding))
+                fix.obstacle = kOtherCause;
+        }
+    }
+
+    /// Moves the fixes and the new names to the result. Restores the former names.
+    std::map<EntryIndex, NameFix> TakeFixes() {
+        std::map<EntryIndex, NameFix> fixes;
+        for (auto& [entry, fix] : m_fixes) {
+            fix.newName = NameOf(entry);
+            SetName(entry, fix.oldName);
+            fixes.emplace(entry, std::move(fix));
+        }
+        return fixes;
+    }
+
     /// Returns true if the name was refused and is not left.
     bool CanChange(EntryIndex entry) const {
         const auto fix = m_fixes.find(entry);
