@@ -13,7 +13,8 @@
 #include <string>
 #include <vector>
 
-// The commands, which CommandLine.cpp calls. Each returns an ExitCode and throws BadInput for unusable input.
+// The commands, which CommandLine.cpp calls. Each is defined in the source of its name, such as CheckCommand.cpp,
+// returns an ExitCode, and throws BadInput for unusable input.
 
 struct Console {
     std::ostream& out;
@@ -79,12 +80,13 @@ struct ImportRequest {
 /// Makes a document file from a table of names.
 int ImportTable(const ImportRequest& request, Console console);
 
-// Helpers of the commands.
+// Helpers of the commands, defined in Commands.cpp.
 
 /// Reads the document in a file, or on standard input if `file` is "-". Messages of BadInput begin with the file name.
 [[nodiscard]] std::unique_ptr<LoadedDocument> OpenDocument(const std::string& file);
 /// Returns the object to which a FEATURE argument leads; it may have no name. Throws BadInput if there is none, if
 /// there are several, or if it is the analysis model, which cannot have a name.
+/// @param file  the document, for messages
 [[nodiscard]] EntryIndex FindFeature(const LoadedDocument& loaded, const std::string& file,
                                      const std::string& reference);
 /// Writes a changed document to a file, or to standard output if `target` is "-". Throws BadInput on failure.

@@ -8,7 +8,7 @@
 
 namespace {
 
-/// Returns the path of `other`, or its JSON pointer if `entry` has the same path.
+/// Returns the path of `other`, or its JSON pointer if the path is also that of `entry`.
 std::string OtherPath(const LoadedDocument& loaded, EntryIndex other, EntryIndex entry) {
     const std::string path = DisplayPath(loaded, other);
     return path == DisplayPath(loaded, entry) ? PointerOf(loaded, other) : path;

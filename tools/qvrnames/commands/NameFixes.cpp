@@ -173,7 +173,7 @@ private:
 
     /// Returns by entry the first of the names that clash with each other, or the entry itself if its name is unique.
     std::vector<EntryIndex> FirstOfClashes(const NameFindings& findings) const {
-        std::vector<EntryIndex> earlier(m_loaded.entries.size()); // of the same group; the first refers to itself
+        std::vector<EntryIndex> earlier(m_loaded.entries.size()); // in the group; the first refers to itself
         std::iota(earlier.begin(), earlier.end(), EntryIndex{0});
         const auto first = [&](EntryIndex entry) { // shortens the path to the first one
             while (earlier[entry] != entry)
