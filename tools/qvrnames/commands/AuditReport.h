@@ -16,6 +16,7 @@ struct ObjectReference {
     TextPosition position; ///< of its name in the file
 };
 
+/// A Finding, or an unknown late type, as a report shows it.
 struct ReportedFinding {
     ObjectReference object;
     std::string rule; ///< see Rule::id

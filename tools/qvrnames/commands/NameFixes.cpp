@@ -29,9 +29,11 @@ constexpr const char* kNoName = "No legal and unique name was found.";
 
 constexpr const char* kLeadingDigit = "LeadingDigitERR_01";
 constexpr const char* kAboveLatin1 = "DoubleByteCharErr_01";
+/// The rules about the text of a name.
 constexpr const char* kTextRules[] = {"NameLengthERR_01", "NameLengthERR_02", kLeadingDigit, "IllegalCharERR_01",
                                       kAboveLatin1};
 
+/// A fix and its state during the rounds.
 struct Fix : NameFix {
     bool isTextBroken = false; ///< the former name breaks a rule about its text
     bool isNumbered = false;   ///< a number was appended to the name
