@@ -39,7 +39,9 @@ std::vector<std::string> MarkedArguments(int argc, const char* const* argv) {
     return arguments;
 }
 
-std::string WithoutMark(std::string argument) { return argument.starts_with(kMark) ? argument.substr(1) : argument; }
+std::string WithoutMark(const std::string& argument) {
+    return argument.starts_with(kMark) ? argument.substr(1) : argument;
+}
 
 /// The commands and options of the program.
 class CommandLine {
