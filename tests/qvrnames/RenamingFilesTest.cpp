@@ -17,11 +17,17 @@ TEST(RenamingFiles, ChangesTheBytesOfOneName) {
         {R"({"cases": [{"name": "A"}]})", "A", "\"\\\t温", R"({"cases": [{"name": "\"\\\t温"}]})"},
         {R"({"cases": [{"steps": [{"type": "QVRStaticLPStepLT", "name": "A"}]}]})", "A", " _B c_ ",
          R"({"cases": [{"steps": [{"type": "QVRStaticLPStepLT", "name": "B c"}]}]})"},
+        {R"({"sets": [{"type": "S", "features": [{"type": "S", "name": "a"}, {"type": "QVRSpringLT"}]}]})",
+         "/sets/0/features/1", "__ a __",
+         R"({"sets": [{"type": "S", "features": [{"type": "S", "name": "a"}, {)"
+         R"("name": " a ", "type": "QVRSpringLT"}]}]})"},
     };
     const TestFolder folder;
     for (const auto& [text, feature, name, expected] : rows) {
         const std::string file = folder.Write("document.json", text);
-        const RunResult result = RunWith({"rename", file, feature, name, "--force"});
+        RunResult result{};
+        const std::string stray = CapturedOutput([&] { result = RunWith({"rename", file, feature, name, "--force"}); });
+        EXPECT_EQ(stray, "") << "the library printed a refusal";
         EXPECT_EQ(result.code, 0) << result.err;
         EXPECT_EQ(ReadFile(file), expected);
     }

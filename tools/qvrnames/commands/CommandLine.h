@@ -5,7 +5,6 @@
 #include <iosfwd>
 
 /// Runs the program and returns its exit code (ExitCode). Prints results on `out`, and errors and progress on `err`.
-/// The naming module itself prints refusals on standard output; they are captured and printed on `out` too.
 /// @param screen  the terminals, if any, of `out` and `err`
 [[nodiscard]] int Run(int argc, const char* const* argv, std::ostream& out, std::ostream& err,
                       const Screen& screen = {});

@@ -39,13 +39,15 @@ Outcome ApplyName(const LoadedDocument& loaded, EntryIndex entry, const RenameRe
         return outcome;
     }
     outcome.oldName = outcome.newName = alias->GetAlias().ConvertToChar();
+    const bool isGuarded = LateTypes::IsGuarded(feature->GetLateType());
     QVRNameFinding finding;
     if (Failed(QVRBaseFeatureAlias::CheckAlias(feature, name, &finding))) {
         outcome.verdict = VerdictOf(finding, IndexByObject(loaded));
-        outcome.isRefused = !request.force || LateTypes::IsGuarded(feature->GetLateType());
+        outcome.isRefused = !request.force || isGuarded;
     }
     if (!outcome.isRefused) {
-        alias->SetAlias(QVRBaseFeatureAlias::Trimmed(name));
+        // A guarded alias trims the name itself. Trimming it twice would remove more: "__ a __", " a ", "a".
+        alias->SetAlias(isGuarded ? name : QVRBaseFeatureAlias::Trimmed(name));
         outcome.newName = alias->GetAlias().ConvertToChar();
     }
     return outcome;
@@ -64,7 +66,7 @@ void Print(const LoadedDocument& loaded, const std::string& feature, const Renam
         return;
     }
     out << Quoted(outcome.oldName) << " -> " << Quoted(outcome.newName);
-    out << (outcome.newName != request.name ? " (without spaces and underscores at its ends)\n" : "\n");
+    out << (outcome.newName != request.name ? " (spaces, then underscores, removed at its ends)\n" : "\n");
     if (outcome.verdict.isRefused)
         out << "  stored because of --force; an audit refuses it (" << rule
             << "): " << ReasonOf(loaded, outcome.verdict) << '\n';
