@@ -3,6 +3,7 @@
 #include "commands/BaseNames.h"
 #include "commands/Rules.h"
 
+#include "QVRBaseFeatureAlias.h"
 #include "QVRNameUtil.h"
 #include "errors/ZFXError.h"
 
@@ -31,6 +32,18 @@ Verdict VerdictOf(HRESULT code, const char* operation, const char* requirement) 
     if (ZFXError* error = ZFXError::ZFXGetLastError(code, nullptr))
         return {true, error->GetMsgId(), error->GetNLSMessage().ConvertToChar()};
     return FailedWithoutError(code, operation, requirement);
+}
+
+Verdict CheckNewName(const LoadedDocument& loaded, EntryIndex entry, const ZFXUnicodeString& name) {
+    MemoryFeature feature = loaded.entries[entry].feature;
+    const ZFXUnicodeString former = feature.StoredAlias();
+    ZFXListValZFXISpecObject_var features;
+    features.Append(feature);
+    ZFXListVal<QVRNameFinding> findings;
+    feature.Alias(QVRBaseFeatureAlias::Trimmed(name));
+    std::ignore = QVRNameUtil::CheckNames(features, findings); // always S_OK
+    feature.Alias(former);
+    return findings.Size() == 0 ? Verdict{} : VerdictOf(findings[1], IndexByObject(loaded));
 }
 
 ZFXListVal<QVRNameFinding> CheckStoredNames(const LoadedDocument& loaded) {

@@ -36,6 +36,9 @@ struct Finding {
 /// Checks the characters of a file name.
 [[nodiscard]] Verdict CheckFileName(const ZFXUnicodeString& name);
 
+/// Makes the checks of an audit for a new name of an entry, without the spaces and underscores that are removed when it
+/// is stored. Returns the first broken rule. The entry has its former name afterwards.
+[[nodiscard]] Verdict CheckNewName(const LoadedDocument& loaded, EntryIndex entry, const ZFXUnicodeString& name);
 /// Checks the stored names of the named entries. Returns the findings in document order.
 [[nodiscard]] ZFXListVal<QVRNameFinding> CheckStoredNames(const LoadedDocument& loaded);
 /// Returns the verdict for a finding of the naming module.

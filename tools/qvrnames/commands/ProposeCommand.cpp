@@ -5,7 +5,6 @@
 #include "terminal/DisplayWidth.h"
 #include "terminal/Table.h"
 
-#include "QVRBaseFeatureAlias.h"
 #include "QVRNameUtil.h"
 #include "analysis/WorkbenchUtilities.h"
 #include "analysis/ZFXIMSHMeshPart.h"
@@ -62,10 +61,10 @@ struct Proposal {
     Verdict verdict = {};                 ///< why there is no name, or which rule the name breaks
 };
 
-Proposal Propose(const LoadedDocument& loaded, const ZFXISpecObject_var& feature, const ZFXUnicodeString& base) {
+Proposal Propose(const LoadedDocument& loaded, EntryIndex entry, const ZFXUnicodeString& base) {
     Proposal proposal{base.ConvertToChar()};
     ZFXUnicodeString name;
-    const HRESULT code = SetNextName(feature, base, name);
+    const HRESULT code = SetNextName(loaded.entries[entry].feature, base, name);
     if (Failed(code)) {
         proposal.verdict = VerdictOf(code, "GetUniqueNames",
                                      "There must be an analysis case, a set must contain the feature, and the names in "
@@ -73,9 +72,7 @@ Proposal Propose(const LoadedDocument& loaded, const ZFXISpecObject_var& feature
         return proposal;
     }
     proposal.name = name.ConvertToChar();
-    QVRNameFinding finding;
-    if (Failed(QVRBaseFeatureAlias::CheckAlias(feature, name, &finding)))
-        proposal.verdict = VerdictOf(finding, IndexByObject(loaded));
+    proposal.verdict = CheckNewName(loaded, entry, name);
     return proposal;
 }
 
@@ -112,8 +109,7 @@ int ProposeName(const ProposeRequest& request, Console console) {
         throw BadInput("FEATURE is required (see --help)");
     const auto loaded = OpenDocument(request.document);
     const EntryIndex entry = FindFeature(*loaded, request.document, request.feature);
-    const ZFXISpecObject_var feature = loaded->entries[entry].feature;
-    const Proposal proposal = Propose(*loaded, feature, BaseOf(request, feature));
+    const Proposal proposal = Propose(*loaded, entry, BaseOf(request, loaded->entries[entry].feature));
     if (console.isJson) {
         nlohmann::ordered_json json{{"feature", DisplayPath(*loaded, entry)},
                                     {"type", loaded->entries[entry].feature.LateType().ConvertToChar()},

@@ -40,11 +40,8 @@ Outcome ApplyName(const LoadedDocument& loaded, EntryIndex entry, const RenameRe
     }
     outcome.oldName = outcome.newName = alias->GetAlias().ConvertToChar();
     const bool isGuarded = LateTypes::IsGuarded(feature->GetLateType());
-    QVRNameFinding finding;
-    if (Failed(QVRBaseFeatureAlias::CheckAlias(feature, name, &finding))) {
-        outcome.verdict = VerdictOf(finding, IndexByObject(loaded));
-        outcome.isRefused = !request.force || isGuarded;
-    }
+    outcome.verdict = CheckNewName(loaded, entry, name);
+    outcome.isRefused = outcome.verdict.isRefused && (!request.force || isGuarded);
     if (!outcome.isRefused) {
         // A guarded alias trims the name itself. Trimming it twice would remove more: "__ a __", " a ", "a".
         alias->SetAlias(isGuarded ? name : QVRBaseFeatureAlias::Trimmed(name));
