@@ -2,6 +2,8 @@
 
 #include <csignal>
 
+#include <fcntl.h>
+#include <sys/file.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -79,6 +81,35 @@ TEST(FilesOnPosix, PrintsControlCharactersInAPathAsEscapes) {
     const std::string table = folder.Write("names.csv", "name,kind\n");
     EXPECT_EQ(RunWith({"import", table, "--output", folder.Path("a\nb.json")}).out,
               folder.Path("a\\u000Ab.json") + ": 0 rows imported\n");
+}
+
+/// Collects what is printed. Releases the lock of a file after the first line.
+class UnlockingBuffer : public std::stringbuf {
+public:
+    explicit UnlockingBuffer(const std::string& file) : m_file(open(file.c_str(), O_RDONLY)) { flock(m_file, LOCK_EX); }
+    ~UnlockingBuffer() override { close(m_file); }
+
+private:
+    int sync() override { return flock(m_file, LOCK_UN); }
+
+    const int m_file;
+};
+
+TEST(FilesOnPosix, ReportsThatItWaitsForALock) {
+    const TestFolder folder;
+    const std::string file = folder.Write("document.json", R"({"cases": [{"name": "A."}]})");
+    const char* const rows[][5] = {{"qvrnames", "fix", file.c_str(), "--write", "--json"},
+                                   {"qvrnames", "rename", file.c_str(), "A-", "B"}};
+    for (const auto& arguments : rows) {
+        UnlockingBuffer printed(file);
+        std::ostringstream out;
+        std::ostream err(&printed);
+        alarm(60); // ends a program that waits without a message
+        EXPECT_EQ(::Run(5, arguments, out, err), 0);
+        alarm(0);
+        EXPECT_EQ(printed.str(), "qvrnames: " + file + ": locked by another process; waiting for it\n");
+    }
+    EXPECT_EQ(ReadFile(file), R"({"cases": [{"name": "B"}]})");
 }
 
 TEST(FilesOnPosix, ReportsAReadError) {

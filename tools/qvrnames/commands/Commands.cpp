@@ -19,6 +19,12 @@ std::unique_ptr<LoadedDocument> OpenDocument(const std::string& file) {
     }
 }
 
+std::shared_ptr<void> LockDocument(const std::string& file, Console console) {
+    return LockFile(file, [&] {
+        console.err << "qvrnames: " << Printable(file) << ": locked by another process; waiting for it" << std::endl;
+    });
+}
+
 EntryIndex FindFeature(const LoadedDocument& loaded, const std::string& file, const std::string& reference) {
     try {
         const EntryIndex entry = FindEntry(loaded, reference);

@@ -84,6 +84,9 @@ int ImportTable(const ImportRequest& request, Console console);
 
 /// Reads the document in a file, or on standard input if `file` is "-". Messages of BadInput begin with the file name.
 [[nodiscard]] std::unique_ptr<LoadedDocument> OpenDocument(const std::string& file);
+/// Locks the file of a document until the returned object is destroyed. Prints a line on `err` if it has to wait for
+/// another process.
+[[nodiscard]] std::shared_ptr<void> LockDocument(const std::string& file, Console console);
 /// Returns the object to which a FEATURE argument leads; it may have no name. Throws BadInput if there is none, if
 /// there are several, or if it is the analysis model, which cannot have a name.
 /// @param file  the document, for messages

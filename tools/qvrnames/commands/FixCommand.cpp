@@ -80,7 +80,7 @@ void PrintAsJson(const LoadedDocument& loaded, const std::vector<Line>& lines, b
 int FixNames(const FixRequest& request, Console console) {
     const bool isPiped = request.document == kStandardStream;
     // From reading to writing, so that no change by another process is lost.
-    const std::shared_ptr<void> lock = request.write && !isPiped ? LockFile(request.document) : nullptr;
+    const std::shared_ptr<void> lock = request.write && !isPiped ? LockDocument(request.document, console) : nullptr;
     const auto loaded = OpenDocument(request.document);
     const std::vector<Line> lines = FindLines(*loaded);
     std::vector<EntryName> names;

@@ -91,7 +91,7 @@ int RenameFeature(const RenameRequest& request, Console console) {
     const std::string& target = request.output.empty() ? request.document : request.output;
     const bool isInPlace = request.document != kStandardStream && RealPath(target) == RealPath(request.document);
     // From reading to writing, so that no change by another process is lost.
-    const std::shared_ptr<void> lock = isInPlace ? LockFile(request.document) : nullptr;
+    const std::shared_ptr<void> lock = isInPlace ? LockDocument(request.document, console) : nullptr;
     const auto loaded = OpenDocument(request.document);
     const EntryIndex entry = FindFeature(*loaded, request.document, request.feature);
     const std::string feature = DisplayPath(*loaded, entry);

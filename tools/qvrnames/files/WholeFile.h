@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <functional>
 #include <memory>
 #include <string>
 
@@ -20,7 +21,8 @@ inline constexpr std::size_t kMaxDocumentBytes = std::size_t{256} << 20;
 /// Locks a file until the returned object is destroyed or the process ends. Other calls of LockFile for this file, in
 /// any process, wait until then. The lock does not prevent reading or replacing the content. If `path` is a symbolic
 /// link, its target is locked. Throws BadInput if the file does not exist or cannot be locked.
-[[nodiscard]] std::shared_ptr<void> LockFile(const std::string& path);
+/// @param waits  called once, before the first wait; not called if the lock is free
+[[nodiscard]] std::shared_ptr<void> LockFile(const std::string& path, const std::function<void()>& waits);
 
 /// Replaces the content of a file, or creates the file. The bytes are written to a temporary file in the same folder,
 /// flushed to the disk and moved over the file in one step, so that the file always has either the former or the new

@@ -122,14 +122,19 @@ std::string ReadWholeFile(const std::string& path) {
     });
 }
 
-std::shared_ptr<void> LockFile(const std::string& path) {
-    for (;;) {
+std::shared_ptr<void> LockFile(const std::string& path, const std::function<void()>& waits) {
+    for (bool mustWait = false;;) {
         auto file = std::make_shared<OpenFile>(open(path.c_str(), O_RDONLY | O_CLOEXEC));
         if (*file < 0)
             ThrowFileError(path, "read", errno);
-        while (flock(*file, LOCK_EX) < 0)
-            if (errno != EINTR)
+        while (flock(*file, mustWait ? LOCK_EX : LOCK_EX | LOCK_NB) < 0) {
+            if (errno == EWOULDBLOCK) {
+                mustWait = true;
+                waits();
+            } else if (errno != EINTR) {
                 ThrowFileError(path, "locked", errno);
+            }
+        }
         // The former owner of the lock replaced the file: the lock is on a file that no longer has this path.
         struct stat locked {};
         struct stat current {};

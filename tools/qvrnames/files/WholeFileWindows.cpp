@@ -139,16 +139,22 @@ std::string ReadWholeFile(const std::string& path) {
     });
 }
 
-std::shared_ptr<void> LockFile(const std::string& path) {
+std::shared_ptr<void> LockFile(const std::string& path, const std::function<void()>& waits) {
     const std::filesystem::path name = Utf8::ToPath(path);
-    for (;;) {
+    for (bool mustWait = false;;) {
         auto file = std::make_shared<FileHandle>(OpenExisting(name, GENERIC_READ));
         if (!file->IsOpen())
             ThrowFileError(path, "read");
         OVERLAPPED lastByte{}; // not a byte of a document, because other programs may not read a locked byte
         lastByte.Offset = lastByte.OffsetHigh = 0x7FFFFFFF;
-        if (LockFileEx(*file, LOCKFILE_EXCLUSIVE_LOCK, 0, 1, 0, &lastByte) == 0)
-            ThrowFileError(path, "locked");
+        const DWORD mode = mustWait ? LOCKFILE_EXCLUSIVE_LOCK : LOCKFILE_EXCLUSIVE_LOCK | LOCKFILE_FAIL_IMMEDIATELY;
+        if (LockFileEx(*file, mode, 0, 1, 0, &lastByte) == 0) {
+            if (mustWait || GetLastError() != ERROR_LOCK_VIOLATION)
+                ThrowFileError(path, "locked");
+            mustWait = true;
+            waits();
+            continue;
+        }
         // The former owner of the lock may have replaced the file; then the locked file no longer has this path.
         const FileHandle current(OpenExisting(name, GENERIC_READ));
         if (current.IsOpen() && IsSameFile(*file, current))
