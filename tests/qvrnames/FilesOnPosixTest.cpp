@@ -1,6 +1,7 @@
 #include "TestSupport.h"
 
 #include <csignal>
+#include <tuple>
 
 #include <fcntl.h>
 #include <sys/file.h>
@@ -52,6 +53,25 @@ TEST(FilesOnPosix, LeavesTheFileIfItCannotBeWritten) {
     EXPECT_EQ(result.err, "qvrnames: " + file + ": cannot be written: File too large\n");
     EXPECT_EQ(ReadFile(file), text);
     EXPECT_EQ(folder.Files(), 1U);
+}
+
+volatile std::sig_atomic_t signalWhileWriting = 0;
+
+TEST(FilesOnPosix, LeavesNoTemporaryFileIfASignalEndsTheProgram) {
+    const TestFolder folder;
+    const std::string file = folder.Write("document.json", ReadFile(Example("rename-a-step.json")));
+    for (const int signal : {SIGHUP, SIGINT, SIGTERM}) {
+        const auto rename = [&] {
+            signalWhileWriting = signal;
+            std::signal(signal, SIG_DFL);
+            std::signal(SIGXFSZ, [](int) { std::raise(signalWhileWriting); });
+            const rlimit tiny{100, 100};
+            setrlimit(RLIMIT_FSIZE, &tiny);
+            std::ignore = RunWith({"rename", file, "Perturbation", "Last"});
+        };
+        EXPECT_EXIT(rename(), ::testing::KilledBySignal(signal), "");
+        EXPECT_EQ(folder.Files(), 1U) << signal;
+    }
 }
 
 TEST(FilesOnPosix, ReportsMissingPermissions) {

@@ -28,6 +28,8 @@ inline constexpr std::size_t kMaxDocumentBytes = std::size_t{256} << 20;
 /// flushed to the disk and moved over the file in one step, so that the file always has either the former or the new
 /// content, even after a crash. Throws BadInput if any step fails, or if the file is write-protected; the file then has
 /// its former content.
+/// - On POSIX systems, SIGHUP, SIGINT and SIGTERM are delivered after the temporary file has been moved or removed. Any
+///   other end of the process can leave it behind.
 /// - An existing file keeps its permissions. A new file gets those of the file `model`, or the default permissions if
 ///   `model` is kStandardStream. On Windows, a new file gets those of its folder.
 /// - If `path` is a symbolic link, its target is replaced.

@@ -4,6 +4,7 @@
 
 #include <cassert>
 #include <cerrno>
+#include <csignal>
 #include <cstdio>
 #include <filesystem>
 #include <string_view>
@@ -37,7 +38,26 @@ private:
     int m_file;
 };
 
-/// A temporary file next to the file that it will replace. The destructor removes it unless ReplaceTarget succeeded.
+/// Delays the signals that end a program until the object is destroyed.
+class DelayedSignals {
+public:
+    DelayedSignals() {
+        sigset_t signals;
+        std::ignore = sigemptyset(&signals);
+        for (const int signal : {SIGHUP, SIGINT, SIGTERM})
+            std::ignore = sigaddset(&signals, signal);
+        std::ignore = pthread_sigmask(SIG_BLOCK, &signals, &m_former);
+    }
+    DelayedSignals(const DelayedSignals&) = delete;
+    DelayedSignals& operator=(const DelayedSignals&) = delete;
+    ~DelayedSignals() { std::ignore = pthread_sigmask(SIG_SETMASK, &m_former, nullptr); }
+
+private:
+    sigset_t m_former{};
+};
+
+/// A temporary file next to the file that it will replace. The destructor removes it unless ReplaceTarget succeeded. A
+/// signal ends the program only after that.
 class TemporaryFile {
 public:
     explicit TemporaryFile(const std::string& target)
@@ -83,6 +103,7 @@ private:
             ThrowFileError(m_target, "written", errno);
     }
 
+    const DelayedSignals m_signals; // the first member, so that it is destroyed last
     std::string m_target;
     std::string m_path;
     OpenFile m_file;
