@@ -83,16 +83,22 @@ TEST(FilesOnPosix, ReportsMissingPermissions) {
     EXPECT_EQ(RunWith({"rename", file, "A", "B"}).err,
               "qvrnames: " + file + ": cannot be written: Permission denied\n");
     EXPECT_EQ(ReadFile(file), R"({"cases": [{"name": "A"}]})");
+    ASSERT_EQ(chmod(file.c_str(), 0666), 0);
     ASSERT_EQ(chmod(secret.c_str(), 0), 0);
     ASSERT_EQ(chmod(folder.Path(".").c_str(), 0555), 0);
     const uid_t user = geteuid();
     ASSERT_EQ(seteuid(user == 0 ? 65534 : user), 0); // root may open every file
     const RunResult read = RunWith({"audit", secret});
-    const RunResult written = RunWith({"rename", file, "A", "B", "--output", output});
+    const RunResult created = RunWith({"rename", file, "A", "B", "--output", output});
+    const RunResult replaced = RunWith({"rename", file, "A", "B"});
     ASSERT_EQ(seteuid(user), 0);
     ASSERT_EQ(chmod(folder.Path(".").c_str(), 0755), 0);
     EXPECT_EQ(read.err, "qvrnames: " + secret + ": cannot be read: Permission denied\n");
-    EXPECT_EQ(written.err, "qvrnames: " + output + ": cannot be written: Permission denied\n");
+    const std::string why = ": cannot be written: its folder " + std::filesystem::path(file).parent_path().string() +
+                            " does not permit that a file is created or replaced (Permission denied); change the "
+                            "permissions of the folder, or write to another one\n";
+    EXPECT_EQ(created.err, "qvrnames: " + output + why);
+    EXPECT_EQ(replaced.err, "qvrnames: " + file + why);
     EXPECT_EQ(folder.Files(), 2U);
 }
 

@@ -20,6 +20,14 @@ inline std::string DisplayFileName(const std::string& path) {
     ThrowBadInput(path, "cannot be " + action + ": " + reason);
 }
 
+/// Throws BadInput for a file that its folder does not permit to be written.
+[[noreturn]] inline void ThrowFolderError(const std::string& path, const std::string& folder,
+                                          const std::string& reason) {
+    ThrowFileError(path, "written",
+                   "its folder " + folder + " does not permit that a file is created or replaced (" + reason +
+                       "); change the permissions of the folder, or write to another one");
+}
+
 /// Throws BadInput for a file of more than kMaxDocumentBytes.
 [[noreturn]] inline void ThrowTooLarge(const std::string& path) {
     ThrowBadInput(path, "larger than " + std::to_string(kMaxDocumentBytes >> 20) + " MB, the maximum size of a file");

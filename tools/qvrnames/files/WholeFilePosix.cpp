@@ -65,7 +65,7 @@ public:
           m_path((std::filesystem::path(target).parent_path() / ".qvrnames-XXXXXX").string()),
           m_file(mkstemp(m_path.data())) {
         if (m_file < 0)
-            ThrowFileError(m_target, "written", errno);
+            ThrowFolderError(errno);
     }
     TemporaryFile(const TemporaryFile&) = delete;
     TemporaryFile& operator=(const TemporaryFile&) = delete;
@@ -90,7 +90,8 @@ public:
         Check(fsync(m_file));
     }
     void ReplaceTarget() {
-        Check(std::rename(m_path.c_str(), m_target.c_str()));
+        if (std::rename(m_path.c_str(), m_target.c_str()) < 0)
+            ThrowFolderError(errno);
         m_isInPlace = true;
         const OpenFile folder(open(std::filesystem::path(m_path).parent_path().c_str(), O_RDONLY | O_CLOEXEC));
         // Brings the new folder entry to the disk. If this fails, a crash may restore the former file, which is whole.
@@ -101,6 +102,13 @@ private:
     void Check(ssize_t result) const {
         if (result < 0)
             ThrowFileError(m_target, "written", errno);
+    }
+    /// Reports an error of a request that changes the entries of the folder.
+    [[noreturn]] void ThrowFolderError(int error) const {
+        if (error != EACCES && error != EPERM)
+            ThrowFileError(m_target, "written", error);
+        ::ThrowFolderError(m_target, std::filesystem::path(m_target).parent_path().string(),
+                           std::generic_category().message(error));
     }
 
     const DelayedSignals m_signals; // the first member, so that it is destroyed last

@@ -78,6 +78,9 @@ public:
           m_path(target.parent_path() / (L".qvrnames-" + std::to_wstring(GetCurrentProcessId()))),
           m_file(
               CreateFileW(m_path.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, FILE_ATTRIBUTE_NORMAL, nullptr)) {
+        if (!m_file.IsOpen() && GetLastError() == ERROR_ACCESS_DENIED)
+            ThrowFolderError(m_displayPath, Utf8::FromPath(target.parent_path()),
+                             std::generic_category().message(EACCES));
         Check(m_file.IsOpen());
     }
     TemporaryFile(const TemporaryFile&) = delete;
