@@ -132,7 +132,7 @@ private:
         CLI::App* app = Add("check", "Check whether texts are legal as names of features or files.",
                             {"check Step-1 \"Static Step.2\""}, [this] { return CheckNames(m_check, m_console); });
         app->add_option("NAME", m_check.names, "The names to check; - for names on stdin, one per line");
-        app->add_option("--from", m_check.from, "Also check the names in this file, one per line");
+        TakesFile(app->add_option("--from", m_check.from, "Also check the names in this file, one per line"));
         app->add_flag("--file-name", m_check.areFileNames, "Check them as file names");
     }
     void AddAudit() {
@@ -150,10 +150,9 @@ private:
         app->add_option("--format", m_audit.format, "Format of the report: text (default), json, sarif or junit")
             ->check(CLI::IsMember({"text", "json", "sarif", "junit"}))
             ->type_name("FORMAT");
-        app->add_option("--baseline", m_audit.baseline, "Ignore the findings in this file")->type_name("FILE");
-        app->add_option("--write-baseline", m_audit.newBaseline,
-                        "Write all findings and warnings to this file; they do not change the exit code")
-            ->type_name("FILE")
+        TakesFile(app->add_option("--baseline", m_audit.baseline, "Ignore the findings in this file"));
+        TakesFile(app->add_option("--write-baseline", m_audit.newBaseline,
+                                  "Write all findings and warnings to this file; they do not change the exit code"))
             ->excludes("--baseline");
     }
     void AddDeck() {
@@ -180,9 +179,9 @@ private:
         app->add_option("NAME", m_rename.name, "The new name")->required();
         app->add_flag("--force", m_rename.force,
                       "Store the name even if it breaks a rule. For features of guarded types, it is still refused");
-        app->add_option("--output", m_rename.output,
-                        "Write the changed document to this file and leave DOCUMENT unchanged.\n"
-                        "- is stdout, the default if DOCUMENT is stdin; then messages go to stderr");
+        TakesFile(app->add_option("--output", m_rename.output,
+                                  "Write the changed document to this file and leave DOCUMENT unchanged.\n"
+                                  "- is stdout, the default if DOCUMENT is stdin; then messages go to stderr"));
     }
     void AddFix() {
         CLI::App* app = Add("fix", "Find a legal and unique name for every refused name in a document.",
@@ -208,7 +207,12 @@ private:
                         "A file with comma-separated values, or - for stdin. Columns: case, step, set, type,\n"
                         "name, and kind: feature (default), step, job, material, property or meshPart")
             ->required();
-        app->add_option("--output", m_import.output, "Write the document to this file (default: stdout)");
+        TakesFile(app->add_option("--output", m_import.output, "Write the document to this file (default: stdout)"));
+    }
+    /// Makes an option refuse an empty file name, such as that of an unset variable of a script.
+    static CLI::Option* TakesFile(CLI::Option* option) {
+        return option->type_name("FILE")->check(
+            [](const std::string& file) { return file.empty() ? "the name of the file is empty" : ""; });
     }
     static void AddDocument(CLI::App* app, std::string& document) {
         app->add_option("DOCUMENT", document, "The document file, or - for stdin")->required();
