@@ -94,7 +94,15 @@ TEST(Commands, IgnoreTheFindingsOfABaseline) {
         folder.Write("baseline.json", text);
         EXPECT_EQ(RunWith(audit).err, "qvrnames: " + baseline + ": not a baseline; --write-baseline writes one\n")
             << text;
+        const RunResult write = RunWith({"audit", document, "--write-baseline", baseline});
+        EXPECT_EQ(write.code, 2) << text;
+        EXPECT_EQ(write.err,
+                  "qvrnames: " + baseline + ": not replaced, because it is not a baseline; specify a new file\n");
+        EXPECT_EQ(ReadFile(baseline), text) << "a file was lost that is not a baseline";
     }
+    const std::string fresh = folder.Path("new.json");
+    EXPECT_EQ(RunWith({"audit", document, baseline, "--write-baseline", fresh}).code, 2) << "unusable";
+    EXPECT_FALSE(std::filesystem::exists(Utf8::ToPath(fresh)));
 }
 
 TEST(Commands, PrintAbsolutePathsAsUris) {

@@ -133,6 +133,8 @@ int AuditDocuments(AuditRequest request, Console console) {
     std::optional<Baseline> baseline;
     if (!request.baseline.empty())
         baseline.emplace(request.baseline);
+    if (!request.newBaseline.empty())
+        Baseline::CheckReplaceable(request.newBaseline);
     const std::vector<std::string> files = FilesOf(request.documents);
     std::vector<DocumentReport> reports;
     ExitCode code = kSuccess;
@@ -158,7 +160,10 @@ int AuditDocuments(AuditRequest request, Console console) {
     if (baseline)
         for (const std::string& entry : baseline->Outdated(reports))
             console.err << "qvrnames: " << Printable(request.baseline + ": no longer found: " + entry) << '\n';
-    if (!request.newBaseline.empty())
+    if (!request.newBaseline.empty()) {
+        if (code == kBadInput)
+            throw BadInput(request.newBaseline + ": not written, because a document is unusable");
         Baseline::Write(request.newBaseline, reports);
+    }
     return code;
 }

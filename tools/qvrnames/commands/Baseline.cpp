@@ -4,8 +4,12 @@
 #include "files/FileErrors.h"
 #include "files/WholeFile.h"
 
+#include "text/Utf8Path.h"
+
 #include <algorithm>
+#include <filesystem>
 #include <set>
+#include <tuple>
 
 namespace {
 
@@ -30,16 +34,29 @@ bool IsEntry(const Json& entry) {
     return true;
 }
 
-} // namespace
-
-Baseline::Baseline(const std::string& file) {
+/// Returns the entries of a baseline. Throws BadInput with the message if the file is not a baseline.
+Json EntriesIn(const std::string& file, const char* message) {
     const Json baseline = Json::parse(ReadWholeFile(file), nullptr, false);
     const bool hasFindings = baseline.is_object() && baseline.value("version", Json()) == kVersion &&
                              baseline.value("findings", Json()).is_array();
     if (!hasFindings || !std::all_of(baseline["findings"].begin(), baseline["findings"].end(), IsEntry))
-        ThrowBadInput(file, "not a baseline; --write-baseline writes one");
-    for (const Json& entry : baseline["findings"])
+        ThrowBadInput(file, message);
+    return baseline["findings"];
+}
+
+} // namespace
+
+Baseline::Baseline(const std::string& file) {
+    for (const Json& entry : EntriesIn(file, "not a baseline; --write-baseline writes one"))
         m_isFound.emplace(entry, false);
+}
+
+void Baseline::CheckReplaceable(const std::string& file) {
+    if (file == kStandardStream)
+        throw BadInput("--write-baseline: a baseline is written to a file, not to standard output");
+    std::error_code error;
+    if (std::filesystem::is_regular_file(Utf8::ToPath(file), error))
+        std::ignore = EntriesIn(file, "not replaced, because it is not a baseline; specify a new file");
 }
 
 void Baseline::Write(const std::string& file, const std::vector<DocumentReport>& reports) {

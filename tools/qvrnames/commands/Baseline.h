@@ -14,6 +14,8 @@ class Baseline {
 public:
     /// Reads the file. Throws BadInput if it is not a baseline.
     explicit Baseline(const std::string& file);
+    /// Throws BadInput if Write would replace a file that is not a baseline, such as a document.
+    static void CheckReplaceable(const std::string& file);
     /// Writes all findings of the reports, warnings included. Throws BadInput if the file cannot be written.
     static void Write(const std::string& file, const std::vector<DocumentReport>& reports);
 
