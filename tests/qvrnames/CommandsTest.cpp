@@ -77,17 +77,18 @@ TEST(Commands, EstimateTheRemainingTime) {
 TEST(Commands, IgnoreTheFindingsOfABaseline) {
     const TestFolder folder;
     const std::string baseline = folder.Path("baseline.json");
-    const std::string document = folder.Write("document.json", R"({"cases": [{"name": "1"}, {"name": "2"}]})");
+    const std::string document =
+        folder.Write("document.json", R"({"cases": [{"name": "1"}, {"name": "1"}, {"name": "2"}]})");
     const std::vector<std::string> audit{"audit", document, "--baseline", baseline};
     EXPECT_EQ(RunWith(audit).code, 2) << "the file does not exist";
     EXPECT_EQ(RunWith({"audit", document, "--write-baseline", baseline}).code, 0);
     const RunResult known = RunWith(audit);
-    EXPECT_EQ(known.out, "2 features checked, 0 refusals\n");
+    EXPECT_EQ(known.out, "3 features checked, 0 refusals\n");
     EXPECT_EQ(known.code, 0);
-    folder.Write("document.json", R"({"cases": [{"comment": "moved", "name": "1"}, {"name": "3"}]})");
+    folder.Write("document.json", R"({"cases": [{"comment": "moved", "name": "1"}, {"name": "1"}, {"name": "1"}]})");
     const RunResult changed = RunWith(audit);
     EXPECT_EQ(changed.code, 1);
-    EXPECT_NE(changed.out.find("2 features checked, 1 refusal\n"), std::string::npos) << changed.out;
+    EXPECT_NE(changed.out.find("3 features checked, 1 refusal\n"), std::string::npos) << changed.out;
     EXPECT_EQ(changed.err, "qvrnames: " + baseline + ": no longer found: " + document + ": 2: LeadingDigitERR_01\n");
     for (const char* text :
          {"", "[]", R"({"version": 2, "findings": []})", R"({"version": 1, "findings": [{"file": 1}]})"}) {

@@ -48,7 +48,7 @@ Json EntriesIn(const std::string& file, const char* message) {
 
 Baseline::Baseline(const std::string& file) {
     for (const Json& entry : EntriesIn(file, "not a baseline; --write-baseline writes one"))
-        m_isFound.emplace(entry, false);
+        ++m_unused[entry];
 }
 
 void Baseline::CheckReplaceable(const std::string& file) {
@@ -71,10 +71,10 @@ void Baseline::Write(const std::string& file, const std::vector<DocumentReport>&
 void Baseline::RemoveKnown(DocumentReport& report) {
     for (auto* findings : {&report.refusals, &report.deckFaults, &report.warnings})
         std::erase_if(*findings, [&](const ReportedFinding& finding) {
-            const auto entry = m_isFound.find(EntryOf(report, finding));
-            if (entry == m_isFound.end())
+            const auto entry = m_unused.find(EntryOf(report, finding));
+            if (entry == m_unused.end() || entry->second == 0)
                 return false;
-            entry->second = true;
+            --entry->second;
             return true;
         });
 }
@@ -85,8 +85,8 @@ std::vector<std::string> Baseline::Outdated(const std::vector<DocumentReport>& r
         if (report.error.empty())
             audited.insert(report.file);
     std::vector<std::string> outdated;
-    for (const auto& [entry, isFound] : m_isFound)
-        if (const auto file = entry["file"].get<std::string>(); !isFound && audited.contains(file))
+    for (const auto& [entry, count] : m_unused)
+        if (const auto file = entry["file"].get<std::string>(); count > 0 && audited.contains(file))
             outdated.push_back(file + ": " + entry["feature"].get<std::string>() + ": " +
                                entry["rule"].get<std::string>());
     return outdated;

@@ -4,6 +4,7 @@
 
 #include <nlohmann/json.hpp>
 
+#include <cstddef>
 #include <map>
 #include <string>
 #include <vector>
@@ -19,11 +20,11 @@ public:
     /// Writes all findings of the reports, warnings included. Throws BadInput if the file cannot be written.
     static void Write(const std::string& file, const std::vector<DocumentReport>& reports);
 
-    /// Removes the known findings from a report.
+    /// Removes the known findings from a report. Each entry of the file removes one finding.
     void RemoveKnown(DocumentReport& report);
     /// Returns a description of each entry that belongs to an audited document but was not found in it.
     [[nodiscard]] std::vector<std::string> Outdated(const std::vector<DocumentReport>& reports) const;
 
 private:
-    std::map<nlohmann::json, bool> m_isFound; // by entry of the file
+    std::map<nlohmann::json, std::size_t> m_unused; // by entry: the findings that may still be removed
 };
