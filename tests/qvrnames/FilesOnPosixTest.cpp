@@ -79,6 +79,8 @@ TEST(FilesOnPosix, ReportsMissingPermissions) {
     const std::string file = folder.Write("document.json", R"({"cases": [{"name": "A"}]})");
     const std::string secret = folder.Write("secret.json", "{}");
     const std::string output = folder.Path("output.json");
+    const std::string locked = folder.Path("locked");
+    ASSERT_EQ(mkdir(locked.c_str(), 0), 0);
     ASSERT_EQ(chmod(file.c_str(), 0444), 0);
     EXPECT_EQ(RunWith({"rename", file, "A", "B"}).err,
               "qvrnames: " + file + ": cannot be written: Permission denied\n");
@@ -88,18 +90,21 @@ TEST(FilesOnPosix, ReportsMissingPermissions) {
     ASSERT_EQ(chmod(folder.Path(".").c_str(), 0555), 0);
     const uid_t user = geteuid();
     ASSERT_EQ(seteuid(user == 0 ? 65534 : user), 0); // root may open every file
-    const RunResult read = RunWith({"audit", secret});
+    const RunResult read = RunWith({"audit", folder.Path("")});
     const RunResult created = RunWith({"rename", file, "A", "B", "--output", output});
     const RunResult replaced = RunWith({"rename", file, "A", "B"});
     ASSERT_EQ(seteuid(user), 0);
     ASSERT_EQ(chmod(folder.Path(".").c_str(), 0755), 0);
-    EXPECT_EQ(read.err, "qvrnames: " + secret + ": cannot be read: Permission denied\n");
+    ASSERT_EQ(chmod(locked.c_str(), 0755), 0);
+    EXPECT_EQ(read.err, "qvrnames: " + locked + ": cannot be read: Permission denied\nqvrnames: " + secret +
+                            ": cannot be read: Permission denied\n");
+    EXPECT_EQ(read.out, "3 documents, 1 feature checked, 0 refusals\n");
     const std::string why = ": cannot be written: its folder " + std::filesystem::path(file).parent_path().string() +
                             " does not permit that a file is created or replaced (Permission denied); change the "
                             "permissions of the folder, or write to another one\n";
     EXPECT_EQ(created.err, "qvrnames: " + output + why);
     EXPECT_EQ(replaced.err, "qvrnames: " + file + why);
-    EXPECT_EQ(folder.Files(), 2U);
+    EXPECT_EQ(folder.Files(), 3U);
 }
 
 TEST(FilesOnPosix, PrintsControlCharactersInAPathAsEscapes) {

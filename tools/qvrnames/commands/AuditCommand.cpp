@@ -8,37 +8,12 @@
 #include "terminal/Progress.h"
 #include "terminal/Table.h"
 
-#include "text/Utf8Path.h"
-
 #include <algorithm>
-#include <filesystem>
 #include <map>
 #include <optional>
 #include <ostream>
 
 namespace {
-
-/// Returns the files to audit: the arguments, with each folder replaced by the files "*.json" in and below it, sorted.
-std::vector<std::string> FilesOf(const std::vector<std::string>& arguments) {
-    std::vector<std::string> files;
-    for (const std::string& argument : arguments) {
-        const std::filesystem::path path = Utf8::ToPath(argument);
-        std::error_code error;
-        if (argument == kStandardStream || !std::filesystem::is_directory(path, error)) {
-            files.push_back(argument);
-            continue;
-        }
-        std::vector<std::string> found;
-        for (const auto& entry : std::filesystem::recursive_directory_iterator(path))
-            if (entry.is_regular_file() && entry.path().extension() == ".json")
-                found.push_back(Utf8::FromPath(entry.path().generic_u16string())); // with "/" on every system
-        if (found.empty())
-            ThrowBadInput(argument, "the folder contains no *.json file");
-        std::sort(found.begin(), found.end());
-        files.insert(files.end(), found.begin(), found.end());
-    }
-    return files;
-}
 
 /// Returns the name that breaks the rule, and the column of a name in the deck.
 std::string NameCell(const ReportedFinding& finding) {
@@ -135,11 +110,11 @@ int AuditDocuments(AuditRequest request, Console console) {
         baseline.emplace(request.baseline);
     if (!request.newBaseline.empty())
         Baseline::CheckReplaceable(request.newBaseline);
-    const std::vector<std::string> files = FilesOf(request.documents);
+    const std::vector<DocumentFile> files = FindDocuments(request.documents);
     std::vector<DocumentReport> reports;
     ExitCode code = kSuccess;
     Progress progress(console.err, console.screen.canShowProgress, files.size());
-    for (const std::string& file : files) {
+    for (const DocumentFile& file : files) {
         progress.Show(reports.size());
         reports.push_back(AuditFile(file, request.withDeck));
         progress.Clear();

@@ -6,6 +6,7 @@
 #include "document/EditDistance.h"
 #include "document/FeaturePaths.h"
 #include "document/KnownTypes.h"
+#include "files/FileErrors.h"
 
 #include <algorithm>
 #include <map>
@@ -121,14 +122,19 @@ void FillReport(const LoadedDocument& loaded, bool withDeck, DocumentReport& rep
             {references(unknown.first, DocumentKey::Type), kUnknownType, unknown.type, "", MessageFor(unknown)});
 }
 
+/// Returns the text with U+FFFD for each byte that is not UTF-8.
+std::string WellFormed(const std::string& text) { return ZFXUnicodeString(text.c_str()).ConvertToChar(); }
+
 } // namespace
 
-DocumentReport AuditFile(const std::string& file, bool withDeck) {
-    DocumentReport report{file};
+DocumentReport AuditFile(const DocumentFile& file, bool withDeck) {
+    DocumentReport report{WellFormed(file.path)};
     try {
-        FillReport(*OpenDocument(file), withDeck, report);
+        if (!file.error.empty())
+            ThrowBadInput(file.path, file.error);
+        FillReport(*OpenDocument(file.path), withDeck, report);
     } catch (const BadInput& error) {
-        report.error = error.what();
+        report.error = WellFormed(error.what());
     }
     return report;
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "commands/DocumentFiles.h"
 #include "document/JsonText.h"
 
 #include <cstddef>
@@ -29,7 +30,7 @@ struct ReportedFinding {
 
 /// The result for one document.
 struct DocumentReport {
-    std::string file;                             ///< as in the command line, or found in a folder
+    std::string file;                             ///< its path, with U+FFFD for each byte that is not UTF-8
     std::string error = {};                       ///< why the document is unusable; empty if it was audited
     std::size_t checked = 0;                      ///< number of features
     std::vector<ReportedFinding> refusals = {};   ///< names of features that break a rule
@@ -38,7 +39,7 @@ struct DocumentReport {
 };
 
 /// Audits a document. If it is unusable, the report contains only the file and the error.
-[[nodiscard]] DocumentReport AuditFile(const std::string& file, bool withDeck);
+[[nodiscard]] DocumentReport AuditFile(const DocumentFile& file, bool withDeck);
 
 /// Returns the position of the name in the file: "LINE:COLUMN".
 [[nodiscard]] std::string PositionOf(const ReportedFinding& finding);
