@@ -105,6 +105,9 @@ int AuditDocuments(AuditRequest request, Console console) {
     if (console.isJson && request.format != "json")
         throw BadInput("--json and --format " + request.format + " exclude each other; omit one of them");
     const bool isText = request.format == "text";
+    if (request.isSummary && !isText)
+        throw BadInput("--summary and " + (console.isJson ? "--json" : "--format " + request.format) +
+                       " exclude each other; omit one of them");
     std::optional<Baseline> baseline;
     if (!request.baseline.empty())
         baseline.emplace(request.baseline);
