@@ -36,13 +36,14 @@ for document in "names <&>%'#.json" "$host"/examples/*.json; do
 done
 mkdir -p bad/empty
 ln -s loop.json bad/loop.json
-cp "$host/examples/rename-a-step.json" $'bad/\xff.json' # a path is bytes
+cp "$host/examples/rename-a-step.json" $'bad/\xfe.json'
+cp "$host/examples/rename-a-step.json" $'bad/\xff.json'
 for options in "" --deck "--deck --strict"; do
     for format in json sarif junit; do
         code=0
         # shellcheck disable=SC2086  # the options are words
         "$program" audit "$PWD/names <&>%'#.json" "names <&>%'#.json" "$host/examples" "$tests/transcripts" missing.json \
-            bad bad/empty $'bad/\xff.json' \
+            $'bad/\xff.json' bad bad/empty \
             $options --format "$format" >"report.$format" 2>/dev/null || code=$?
         same "exit code of audit $options" 2 "$code"
     done

@@ -113,7 +113,7 @@ int AuditDocuments(AuditRequest request, Console console) {
         baseline.emplace(request.baseline);
     if (!request.newBaseline.empty())
         Baseline::CheckReplaceable(request.newBaseline);
-    const std::vector<DocumentFile> files = FindDocuments(request.documents);
+    const std::vector<DocumentFile> files = FindDocuments(request.documents, {request.baseline, request.newBaseline});
     std::vector<DocumentReport> reports;
     ExitCode code = kSuccess;
     Progress progress(console.err, console.screen.canShowProgress, files.size());

@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <filesystem>
+#include <set>
 #include <system_error>
 
 namespace {
@@ -42,24 +43,43 @@ void AppendFilesIn(const std::filesystem::path& folder, std::vector<DocumentFile
         files.push_back({GenericPath(folder), "cannot be read: " + error.message()});
 }
 
+/// Returns the absolute path without links, or the path itself if it is standard input or cannot be resolved.
+std::filesystem::path RealPath(const std::string& path) {
+    std::error_code error;
+    const std::filesystem::path real = std::filesystem::weakly_canonical(Utf8::ToPath(path), error);
+    return error || path == kStandardStream ? Utf8::ToPath(path) : std::filesystem::absolute(real, error);
+}
+
+/// Returns the files of a folder, sorted.
+std::vector<DocumentFile> FilesIn(const std::string& folder, const std::set<std::filesystem::path>& skipped) {
+    std::vector<DocumentFile> files;
+    AppendFilesIn(Utf8::ToPath(folder), files);
+    std::erase_if(files, [&](const DocumentFile& file) { return skipped.contains(RealPath(file.path)); });
+    if (files.empty())
+        files.push_back({folder, "the folder contains no document (*.json)"});
+    std::sort(files.begin(), files.end(), [](const DocumentFile& a, const DocumentFile& b) { return a.path < b.path; });
+    return files;
+}
+
 } // namespace
 
-std::vector<DocumentFile> FindDocuments(const std::vector<std::string>& arguments) {
+std::vector<DocumentFile> FindDocuments(const std::vector<std::string>& arguments,
+                                        const std::vector<std::string>& skipped) {
+    std::set<std::filesystem::path> skippedPaths;
+    for (const std::string& path : skipped)
+        if (!path.empty())
+            skippedPaths.insert(RealPath(path));
     std::vector<DocumentFile> files;
     for (const std::string& argument : arguments) {
-        const std::filesystem::path path = Utf8::ToPath(argument);
         std::error_code ignored;
-        if (argument == kStandardStream || !std::filesystem::is_directory(path, ignored)) {
+        if (argument == kStandardStream || !std::filesystem::is_directory(Utf8::ToPath(argument), ignored)) {
             files.push_back({argument, ""});
             continue;
         }
-        std::vector<DocumentFile> found;
-        AppendFilesIn(path, found);
-        if (found.empty())
-            found.push_back({argument, "the folder contains no *.json file"});
-        std::sort(found.begin(), found.end(),
-                  [](const DocumentFile& a, const DocumentFile& b) { return a.path < b.path; });
+        const std::vector<DocumentFile> found = FilesIn(argument, skippedPaths);
         files.insert(files.end(), found.begin(), found.end());
     }
+    std::set<std::filesystem::path> former;
+    std::erase_if(files, [&](const DocumentFile& file) { return !former.insert(RealPath(file.path)).second; });
     return files;
 }
