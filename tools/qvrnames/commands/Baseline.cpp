@@ -44,6 +44,12 @@ Json EntriesIn(const std::string& file, const char* message) {
     return baseline["findings"];
 }
 
+bool IsMissing(const std::string& file) {
+    std::error_code ignored;
+    return file != kStandardStream &&
+           std::filesystem::status(Utf8::ToPath(file), ignored).type() == std::filesystem::file_type::not_found;
+}
+
 } // namespace
 
 Baseline::Baseline(const std::string& file) {
@@ -86,7 +92,8 @@ std::vector<std::string> Baseline::Outdated(const std::vector<DocumentReport>& r
             audited.insert(report.file);
     std::vector<std::string> outdated;
     for (const auto& [entry, count] : m_unused)
-        if (const auto file = entry["file"].get<std::string>(); count > 0 && audited.contains(file))
+        if (const auto file = entry["file"].get<std::string>();
+            count > 0 && (audited.contains(file) || IsMissing(file)))
             outdated.push_back(file + ": " + entry["feature"].get<std::string>() + ": " +
                                entry["rule"].get<std::string>());
     return outdated;

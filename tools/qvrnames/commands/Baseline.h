@@ -22,7 +22,7 @@ public:
 
     /// Removes the known findings from a report. Each entry of the file removes one finding.
     void RemoveKnown(DocumentReport& report);
-    /// Returns a description of each entry that belongs to an audited document but was not found in it.
+    /// Returns a description of each entry that was not found in its document, if this was audited or does not exist.
     [[nodiscard]] std::vector<std::string> Outdated(const std::vector<DocumentReport>& reports) const;
 
 private:
