@@ -11,6 +11,7 @@
 #include <algorithm>
 #include <map>
 #include <set>
+#include <tuple>
 #include <unordered_map>
 #include <unordered_set>
 #include <utility>
@@ -116,10 +117,16 @@ void FillReport(const LoadedDocument& loaded, bool withDeck, DocumentReport& rep
     report.checked = NamedEntries(loaded).size();
     report.refusals = Reported(loaded, refusals, references);
     for (ReportedFinding& finding : Reported(loaded, deck, references))
-        (finding.rule == kDeckCharacter ? report.warnings : report.deckFaults).push_back(std::move(finding));
+        (IsWarning(finding) ? report.warnings : report.deckFaults).push_back(std::move(finding));
     for (const UnknownType& unknown : unknownTypes)
         report.warnings.push_back(
             {references(unknown.first, DocumentKey::Type), kUnknownType, unknown.type, "", MessageFor(unknown)});
+}
+
+bool IsBefore(const ReportedFinding& a, const ReportedFinding& b) {
+    const TextPosition& first = a.object.position;
+    const TextPosition& second = b.object.position;
+    return std::tie(first.line, first.column) < std::tie(second.line, second.column);
 }
 
 /// Returns the text with U+FFFD for each byte that is not UTF-8.
@@ -133,6 +140,8 @@ DocumentReport AuditFile(const DocumentFile& file, bool withDeck) {
         if (!file.error.empty())
             ThrowBadInput(file.path, file.error);
         FillReport(*OpenDocument(file.path), withDeck, report);
+        for (auto* findings : {&report.refusals, &report.deckFaults, &report.warnings})
+            std::stable_sort(findings->begin(), findings->end(), IsBefore);
     } catch (const BadInput& error) {
         report.error = WellFormed(error.what());
     }
@@ -149,5 +158,11 @@ std::vector<const ReportedFinding*> FindingsOf(const DocumentReport& report, boo
         if (list != &report.warnings || isStrict)
             for (const ReportedFinding& finding : *list)
                 findings.push_back(&finding);
+    std::stable_sort(findings.begin(), findings.end(),
+                     [](const ReportedFinding* a, const ReportedFinding* b) { return IsBefore(*a, *b); });
     return findings;
+}
+
+bool IsWarning(const ReportedFinding& finding) {
+    return finding.rule == kUnknownType || finding.rule == kDeckCharacter;
 }

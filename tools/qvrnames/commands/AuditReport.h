@@ -28,7 +28,7 @@ struct ReportedFinding {
     std::optional<ObjectReference> other = {};
 };
 
-/// The result for one document.
+/// The result for one document. Each list is in the order of the positions in the file.
 struct DocumentReport {
     std::string file;                             ///< its path, with U+FFFD for each byte that is not UTF-8
     std::string error = {};                       ///< why the document is unusable; empty if it was audited
@@ -45,4 +45,8 @@ struct DocumentReport {
 [[nodiscard]] std::string PositionOf(const ReportedFinding& finding);
 
 /// Returns the findings that make the audit of a document fail: refusals, deck faults and, if `isStrict`, warnings.
+/// They are in the order of their positions in the file.
 [[nodiscard]] std::vector<const ReportedFinding*> FindingsOf(const DocumentReport& report, bool isStrict);
+
+/// Returns true for the rules that are warnings.
+[[nodiscard]] bool IsWarning(const ReportedFinding& finding);

@@ -17,6 +17,7 @@
 #include <filesystem>
 #include <map>
 #include <ostream>
+#include <unordered_map>
 
 namespace {
 
@@ -132,15 +133,14 @@ void PrintAsSarif(const Reports& reports, const AuditRequest& request, std::ostr
                 {{"level", "error"},
                  {"message", {{"text", report.error}}},
                  {"locations", Json::array({{{"physicalLocation", {{"artifactLocation", {{"uri", uri}}}}}}})}});
-        for (const auto* findings : {&report.refusals, &report.deckFaults, &report.warnings})
-            for (const ReportedFinding& finding : *findings) {
-                const bool isWarning = findings == &report.warnings && !request.isStrict;
-                results.push_back(ResultOf(uri, finding, isWarning ? "warning" : "error"));
-                const auto [index, isNew] = ruleIndexes.try_emplace(finding.rule, rules.size());
-                if (isNew)
-                    rules.push_back(RuleOf(finding.rule));
-                results.back()["ruleIndex"] = index->second;
-            }
+        for (const ReportedFinding* finding : FindingsOf(report, true)) {
+            const bool isWarning = IsWarning(*finding) && !request.isStrict;
+            results.push_back(ResultOf(uri, *finding, isWarning ? "warning" : "error"));
+            const auto [index, isNew] = ruleIndexes.try_emplace(finding->rule, rules.size());
+            if (isNew)
+                rules.push_back(RuleOf(finding->rule));
+            results.back()["ruleIndex"] = index->second;
+        }
     }
     const Json driver{{"name", "qvrnames"}, {"version", QVR_NAME_UTILITY_VERSION}, {"rules", std::move(rules)}};
     const bool isSuccessful = failures.empty();
@@ -185,6 +185,19 @@ std::string Attribute(const char* name, const std::string& value) {
 
 using FindingList = std::vector<const ReportedFinding*>;
 
+/// Returns the findings that make an audit fail, grouped by object, in the order of the first finding of each.
+std::vector<FindingList> FindingsByObject(const DocumentReport& report, bool isStrict) {
+    std::vector<FindingList> groups;
+    std::unordered_map<std::string, std::size_t> indexes;
+    for (const ReportedFinding* finding : FindingsOf(report, isStrict)) {
+        const auto [index, isNew] = indexes.try_emplace(finding->object.pointer, groups.size());
+        if (isNew)
+            groups.emplace_back();
+        groups[index->second].push_back(finding);
+    }
+    return groups;
+}
+
 /// Prints the beginning of a test case, up to its attributes.
 void BeginCase(const std::string& name, const DocumentReport& report, std::ostream& out) {
     out << "    <testcase" << Attribute("name", name) << Attribute("classname", report.file);
@@ -202,17 +215,14 @@ void PrintFailedCase(const FindingList& findings, const DocumentReport& report, 
 
 /// Prints one test case for each object with findings, or one for a document without findings.
 void PrintSuite(const DocumentReport& report, const AuditRequest& request, std::ostream& out) {
-    std::map<std::string, FindingList> byPointer;
-    for (const ReportedFinding* finding : FindingsOf(report, request.isStrict))
-        byPointer[finding->object.pointer].push_back(finding);
+    const std::vector<FindingList> groups = FindingsByObject(report, request.isStrict);
     const bool isUnusable = !report.error.empty();
     out << "  <testsuite" << Attribute("name", report.file)
-        << Attribute("tests", std::to_string(std::max<std::size_t>(byPointer.size(), 1)))
-        << Attribute("failures", std::to_string(byPointer.size())) << Attribute("errors", isUnusable ? "1" : "0")
-        << ">\n";
-    for (const auto& [pointer, findings] : byPointer)
+        << Attribute("tests", std::to_string(std::max<std::size_t>(groups.size(), 1)))
+        << Attribute("failures", std::to_string(groups.size())) << Attribute("errors", isUnusable ? "1" : "0") << ">\n";
+    for (const FindingList& findings : groups)
         PrintFailedCase(findings, report, out);
-    if (byPointer.empty()) {
+    if (groups.empty()) {
         BeginCase(report.file, report, out);
         out << (isUnusable ? "><error" + Attribute("message", report.error) + "/></testcase>\n" : "/>\n");
     }
