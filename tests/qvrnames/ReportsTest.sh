@@ -51,8 +51,9 @@ for options in "" --deck "--deck --strict"; do
     check "sarif $options" conforms "$sarif" report.sarif
     check "junit $options" conforms "$tests/junit.xsd" report.junit
     # Test cases are the features with findings, and one for each document without findings.
-    same "counts of junit $options" false "$(xmllint --xpath 'boolean(//testsuite[@tests != count(testcase) or
-        @failures != count(testcase/failure) or @errors != count(testcase/error)])' report.junit)"
+    same "counts and names of junit $options" false "$(xmllint --xpath 'boolean(//testsuite[@tests != count(testcase) or
+        @failures != count(testcase/failure) or @errors != count(testcase/error) or
+        testcase[@name = preceding-sibling::testcase/@name]])' report.junit)"
     findings=$(grep -c '"rule": ' report.json)
     same "findings in sarif $options" "$findings" "$(grep -c '"ruleId": ' report.sarif)"
 done

@@ -86,8 +86,7 @@ void PrintNotices(const DocumentReport& report, const AuditRequest& request, Con
     if (!request.isStrict)
         for (const ReportedFinding& finding : report.warnings)
             console.err << "qvrnames: " << Printable(DisplayFileName(report.file)) << ":" << PositionOf(finding)
-                        << ": warning: " << (finding.name.empty() ? "" : "\"" + Printable(finding.name) + "\": ")
-                        << Printable(finding.message) << '\n';
+                        << ": warning: " << Printable(TextOf(finding)) << '\n';
 }
 
 ExitCode ExitCodeOf(const DocumentReport& report, const AuditRequest& request) {

@@ -166,3 +166,12 @@ std::vector<const ReportedFinding*> FindingsOf(const DocumentReport& report, boo
 bool IsWarning(const ReportedFinding& finding) {
     return finding.rule == kUnknownType || finding.rule == kDeckCharacter;
 }
+
+std::string SubjectOf(const ReportedFinding& finding) {
+    return "\"" + (finding.rule == kUnknownType ? finding.lateType : finding.name) + "\"" +
+           (finding.deckColumn.empty() ? "" : " (deck, " + finding.deckColumn + ")");
+}
+
+std::string TextOf(const ReportedFinding& finding) {
+    return finding.rule == kUnknownType ? finding.message : SubjectOf(finding) + ": " + finding.message;
+}

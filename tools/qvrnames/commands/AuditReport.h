@@ -48,5 +48,10 @@ struct DocumentReport {
 /// They are in the order of their positions in the file.
 [[nodiscard]] std::vector<const ReportedFinding*> FindingsOf(const DocumentReport& report, bool isStrict);
 
-/// Returns true for the rules that are warnings.
+/// Returns true for a finding that is a warning unless the audit is strict.
 [[nodiscard]] bool IsWarning(const ReportedFinding& finding);
+
+/// Returns the name in quotes and, for a name in the deck, its column; for an unknown late type, the type in quotes.
+[[nodiscard]] std::string SubjectOf(const ReportedFinding& finding);
+/// Returns the message with the subject in front of it, unless the message contains the subject.
+[[nodiscard]] std::string TextOf(const ReportedFinding& finding);

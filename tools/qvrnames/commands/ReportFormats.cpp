@@ -18,6 +18,7 @@
 #include <map>
 #include <ostream>
 #include <unordered_map>
+#include <unordered_set>
 
 namespace {
 
@@ -100,12 +101,9 @@ Json LocationOf(const std::string& uri, const ObjectReference& object) {
 }
 
 Json ResultOf(const std::string& uri, const ReportedFinding& finding, const char* level) {
-    const std::string subject = finding.deckColumn.empty() ? "" : " (deck, " + finding.deckColumn + ")";
-    const std::string text =
-        finding.rule == kUnknownType ? finding.message : "\"" + finding.name + "\"" + subject + ": " + finding.message;
     Json result{{"ruleId", finding.rule},
                 {"level", level},
-                {"message", {{"text", text}}},
+                {"message", {{"text", TextOf(finding)}}},
                 {"locations", Json::array({LocationOf(uri, finding.object)})}};
     if (finding.other) {
         result["relatedLocations"] = Json::array({LocationOf(uri, *finding.other)});
@@ -198,30 +196,44 @@ std::vector<FindingList> FindingsByObject(const DocumentReport& report, bool isS
     return groups;
 }
 
+/// Returns a line with the position, the rule or "warning", and the text of a finding.
+std::string LineOf(const DocumentReport& report, const ReportedFinding& finding, const std::string& label) {
+    return Xml(report.file + ":" + PositionOf(finding) + ": " + label + ": " + TextOf(finding) +
+               (finding.other ? " The other feature is " + finding.other->path + "." : "")) +
+           "\n";
+}
+
 /// Prints the beginning of a test case, up to its attributes.
 void BeginCase(const std::string& name, const DocumentReport& report, std::ostream& out) {
     out << "    <testcase" << Attribute("name", name) << Attribute("classname", report.file);
 }
 
 /// Prints the test case of an object with findings.
-void PrintFailedCase(const FindingList& findings, const DocumentReport& report, std::ostream& out) {
-    BeginCase(findings.front()->object.path, report, out);
-    out << "><failure" << Attribute("type", findings.front()->rule) << ">";
+void PrintFailedCase(const std::string& name, const FindingList& findings, const DocumentReport& report,
+                     std::ostream& out) {
+    const ReportedFinding& first = *findings.front();
+    BeginCase(name, report, out);
+    out << "><failure" << Attribute("type", first.rule) << Attribute("message", first.rule + ": " + SubjectOf(first))
+        << ">";
     for (const ReportedFinding* finding : findings)
-        out << Xml(report.file) << ":" << PositionOf(*finding) << ": " << Xml(finding->rule + ": " + finding->message)
-            << (finding->other ? Xml(" The other feature is " + finding->other->path + ".") : "") << '\n';
+        out << LineOf(report, *finding, finding->rule);
     out << "</failure></testcase>\n";
 }
 
-/// Prints one test case for each object with findings, or one for a document without findings.
+/// Prints one test case for each object with findings, or one for a document without findings. If the name of a test
+/// case occurs again, the JSON pointer is added, because servers identify a test case by its name.
 void PrintSuite(const DocumentReport& report, const AuditRequest& request, std::ostream& out) {
     const std::vector<FindingList> groups = FindingsByObject(report, request.isStrict);
     const bool isUnusable = !report.error.empty();
     out << "  <testsuite" << Attribute("name", report.file)
         << Attribute("tests", std::to_string(std::max<std::size_t>(groups.size(), 1)))
         << Attribute("failures", std::to_string(groups.size())) << Attribute("errors", isUnusable ? "1" : "0") << ">\n";
-    for (const FindingList& findings : groups)
-        PrintFailedCase(findings, report, out);
+    std::unordered_set<std::string> names;
+    for (const FindingList& findings : groups) {
+        const ObjectReference& object = findings.front()->object;
+        const bool isNew = names.insert(object.path).second;
+        PrintFailedCase(isNew ? object.path : object.path + " (" + object.pointer + ")", findings, report, out);
+    }
     if (groups.empty()) {
         BeginCase(report.file, report, out);
         out << (isUnusable ? "><error" + Attribute("message", report.error) + "/></testcase>\n" : "/>\n");
@@ -229,7 +241,7 @@ void PrintSuite(const DocumentReport& report, const AuditRequest& request, std::
     if (!request.isStrict && !report.warnings.empty()) {
         out << "    <system-err>";
         for (const ReportedFinding& finding : report.warnings)
-            out << Xml("warning: " + finding.message) << '\n';
+            out << LineOf(report, finding, "warning");
         out << "</system-err>\n";
     }
     out << "  </testsuite>\n";
