@@ -98,7 +98,7 @@ TEST(FilesOnPosix, ReportsMissingPermissions) {
     ASSERT_EQ(chmod(locked.c_str(), 0755), 0);
     EXPECT_EQ(read.err, "qvrnames: " + locked + ": cannot be read: Permission denied\nqvrnames: " + secret +
                             ": cannot be read: Permission denied\n");
-    EXPECT_EQ(read.out, "3 documents, 1 feature checked, 0 refusals\n");
+    EXPECT_EQ(read.out, "3 documents (2 unusable), 1 feature checked, 0 refusals\n");
     const std::string why = ": cannot be written: its folder " + std::filesystem::path(file).parent_path().string() +
                             " does not permit that a file is created or replaced (Permission denied); change the "
                             "permissions of the folder, or write to another one\n";

@@ -59,18 +59,21 @@ void PrintRules(const std::vector<DocumentReport>& reports, const AuditRequest& 
 
 /// Prints the sums over all documents.
 void PrintTotals(const std::vector<DocumentReport>& reports, const AuditRequest& request, Console console) {
+    std::size_t unusable = 0;
     std::size_t checked = 0;
     std::size_t refusals = 0;
     std::size_t deckFaults = 0;
     std::size_t warnings = 0;
     for (const DocumentReport& report : reports) {
+        unusable += report.error.empty() ? 0 : 1;
         checked += report.checked;
         refusals += report.refusals.size();
         deckFaults += report.deckFaults.size();
         warnings += report.warnings.size();
     }
     if (reports.size() > 1)
-        console.out << Counted(reports.size(), "document") << ", ";
+        console.out << Counted(reports.size(), "document")
+                    << (unusable == 0 ? "" : " (" + std::to_string(unusable) + " unusable)") << ", ";
     console.out << Counted(checked, "feature") << " checked, " << Counted(refusals, "refusal");
     if (request.withDeck)
         console.out << ", " << Counted(deckFaults, "finding") << " in the deck";
