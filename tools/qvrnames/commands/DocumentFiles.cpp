@@ -14,12 +14,11 @@ namespace {
 
 using std::filesystem::file_type;
 
-/// Returns the path with "/" on every system. On POSIX systems, it may be no UTF-8.
+/// Returns the path with "/" on every system. On POSIX systems, it may contain any bytes.
 std::string GenericPath(const std::filesystem::path& path) { return Utf8::FromPath(path.generic_u8string()); }
 
-/// Returns true for a file, and for an entry whose type is unknown, such as a broken link. Reading that one fails with
-/// the reason.
-bool IsReadable(const std::filesystem::directory_entry& entry) {
+/// Returns true for a file, and for an entry of unknown type, such as a broken link, which is reported when it is read.
+bool IsFileOrUnknown(const std::filesystem::directory_entry& entry) {
     std::error_code ignored;
     const file_type type = entry.status(ignored).type();
     return type == file_type::regular || type == file_type::not_found || type == file_type::none;
@@ -34,7 +33,7 @@ void AppendFilesIn(const std::filesystem::path& folder, std::vector<DocumentFile
         const std::filesystem::path& path = entry->path();
         if (entry->symlink_status(ignored).type() == file_type::directory)
             AppendFilesIn(path, files);
-        else if (path.extension() == ".json" && IsReadable(*entry))
+        else if (path.extension() == ".json" && IsFileOrUnknown(*entry))
             files.push_back({GenericPath(path), IsUtf8(GenericPath(path.filename()))
                                                     ? ""
                                                     : "the name of the file is not UTF-8; rename the file"});
