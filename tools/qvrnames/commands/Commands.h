@@ -21,6 +21,9 @@ struct Console {
     std::ostream& err;
     Screen screen = {};  ///< the terminals, if any, of `out` and `err`
     bool isJson = false; ///< print the result as one JSON value
+
+    /// Returns a console that prints the result on `err`, without colours.
+    Console OnStandardError() const { return {err, err, {}, isJson}; }
 };
 
 struct CheckRequest {

@@ -1,5 +1,6 @@
 #include "commands/DocumentFiles.h"
 
+#include "files/RealPath.h"
 #include "files/Utf8Text.h"
 #include "files/WholeFile.h"
 
@@ -40,13 +41,6 @@ void AppendFilesIn(const std::filesystem::path& folder, std::vector<DocumentFile
     }
     if (error)
         files.push_back({GenericPath(folder), "cannot be read: " + error.message()});
-}
-
-/// Returns the absolute path without links, or the path itself if it is standard input or cannot be resolved.
-std::filesystem::path RealPath(const std::string& path) {
-    std::error_code error;
-    const std::filesystem::path real = std::filesystem::weakly_canonical(Utf8::ToPath(path), error);
-    return error || path == kStandardStream ? Utf8::ToPath(path) : std::filesystem::absolute(real, error);
 }
 
 /// Returns the files of a folder, sorted.

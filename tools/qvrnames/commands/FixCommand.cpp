@@ -14,7 +14,7 @@ namespace {
 
 /// A name that changes or is left.
 struct Line {
-    std::uint32_t entry;
+    EntryIndex entry;
     NameFix fix;
     TextPosition position = {};
 };
@@ -92,7 +92,7 @@ int FixNames(const FixRequest& request, Console console) {
     if (request.write && (isPiped || !names.empty()))
         WriteDocument(TextWithNames(*loaded, names), request.document, request.document, console);
     // Standard output contains either the document or the messages.
-    const Console messages = isPiped && request.write ? Console{console.err, console.err, {}, console.isJson} : console;
+    const Console messages = isPiped && request.write ? console.OnStandardError() : console;
     if (console.isJson) {
         PrintAsJson(*loaded, lines, request.write, messages);
     } else {

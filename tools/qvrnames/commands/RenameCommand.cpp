@@ -2,19 +2,17 @@
 #include "commands/NameChecks.h"
 #include "commands/Rules.h"
 #include "document/FeaturePaths.h"
+#include "files/RealPath.h"
 #include "files/WholeFile.h"
 #include "terminal/DisplayWidth.h"
 
 #include "LateTypes.h"
 #include "QVRBaseFeatureAlias.h"
-#include "text/Utf8Path.h"
 
 #include <nlohmann/json.hpp>
 
-#include <filesystem>
 #include <memory>
 #include <ostream>
-#include <system_error>
 
 namespace {
 
@@ -78,17 +76,11 @@ void PrintAsJson(const LoadedDocument& loaded, const std::string& feature, const
     PrintJson(console.out, json);
 }
 
-/// Returns the path without symbolic links. The files are not compared, because another process can replace a file
-/// between two look-ups.
-std::filesystem::path RealPath(const std::string& path) {
-    std::error_code error;
-    return std::filesystem::weakly_canonical(Utf8::ToPath(path), error);
-}
-
 } // namespace
 
 int RenameFeature(const RenameRequest& request, Console console) {
     const std::string& target = request.output.empty() ? request.document : request.output;
+    // The files are not compared, because another process can replace a file between two look-ups.
     const bool isInPlace = request.document != kStandardStream && RealPath(target) == RealPath(request.document);
     // From reading to writing, so that no change by another process is lost.
     const std::shared_ptr<void> lock = isInPlace ? LockDocument(request.document, console) : nullptr;
@@ -102,8 +94,7 @@ int RenameFeature(const RenameRequest& request, Console console) {
     if (mustWrite)
         WriteDocument(TextWithNames(*loaded, {{entry, outcome.newName}}), target, request.document, console);
     // Standard output contains either the document or the messages.
-    const Console messages =
-        target == kStandardStream ? Console{console.err, console.err, {}, console.isJson} : console;
+    const Console messages = target == kStandardStream ? console.OnStandardError() : console;
     (console.isJson ? PrintAsJson : Print)(*loaded, feature, request, outcome, messages);
     return outcome.isRefused ? kRefused : kSuccess;
 }
