@@ -43,6 +43,9 @@ std::string WithoutMark(const std::string& argument) {
     return argument.starts_with(kMark) ? argument.substr(1) : argument;
 }
 
+/// Refuses an empty file name, such as that of an unset variable of a script.
+std::string RefuseEmptyName(const std::string& file) { return file.empty() ? "the name of the file is empty" : ""; }
+
 /// The commands and options of the program.
 class CommandLine {
 public:
@@ -141,6 +144,7 @@ private:
                             [this] { return AuditDocuments(m_audit, m_console); });
         app->add_option("DOCUMENT", m_audit.documents,
                         "Document files, folders with *.json files in or below them, or - for stdin")
+            ->check(RefuseEmptyName)
             ->required()
             ->expected(1, -1);
         app->add_flag("--deck", m_audit.withDeck,
@@ -206,16 +210,13 @@ private:
         app->add_option("TABLE", m_import.table,
                         "A file with comma-separated values, or - for stdin. Columns: case, step, set, type,\n"
                         "name, and kind: feature (default), step, job, material, property or meshPart")
+            ->check(RefuseEmptyName)
             ->required();
         TakesFile(app->add_option("--output", m_import.output, "Write the document to this file (default: stdout)"));
     }
-    /// Makes an option refuse an empty file name, such as that of an unset variable of a script.
-    static CLI::Option* TakesFile(CLI::Option* option) {
-        return option->type_name("FILE")->check(
-            [](const std::string& file) { return file.empty() ? "the name of the file is empty" : ""; });
-    }
+    static CLI::Option* TakesFile(CLI::Option* option) { return option->type_name("FILE")->check(RefuseEmptyName); }
     static void AddDocument(CLI::App* app, std::string& document) {
-        app->add_option("DOCUMENT", document, "The document file, or - for stdin")->required();
+        app->add_option("DOCUMENT", document, "The document file, or - for stdin")->required()->check(RefuseEmptyName);
     }
 
     CLI::App m_app{"Checks, proposes and changes the names of features in an analysis document.", "qvrnames"};
