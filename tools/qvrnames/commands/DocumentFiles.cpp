@@ -1,7 +1,6 @@
 #include "commands/DocumentFiles.h"
 
 #include "files/RealPath.h"
-#include "files/Utf8Text.h"
 #include "files/WholeFile.h"
 
 #include "text/Utf8Path.h"
@@ -35,9 +34,7 @@ void AppendFilesIn(const std::filesystem::path& folder, std::vector<DocumentFile
         if (entry->symlink_status(ignored).type() == file_type::directory)
             AppendFilesIn(path, files);
         else if (path.extension() == ".json" && IsFileOrUnknown(*entry))
-            files.push_back({GenericPath(path), IsUtf8(GenericPath(path.filename()))
-                                                    ? ""
-                                                    : "the name of the file is not UTF-8; rename the file"});
+            files.push_back({GenericPath(path), ""});
     }
     if (error)
         files.push_back({GenericPath(folder), "cannot be read: " + error.message()});

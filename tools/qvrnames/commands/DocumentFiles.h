@@ -11,8 +11,7 @@ struct DocumentFile {
 
 /// Returns the files to audit: the arguments, with each folder replaced by the files "*.json" in and below it, sorted.
 /// A file with several paths is in the result once, at its first place.
-/// The result contains these with an error: a folder that cannot be read or contains no such file, and a file in a
-/// folder whose name is not UTF-8.
+/// A folder that cannot be read, or that contains no such file, is in the result with an error.
 /// @param skipped  paths of files that are not documents; they are left out of folders. Empty paths are ignored
 [[nodiscard]] std::vector<DocumentFile> FindDocuments(const std::vector<std::string>& arguments,
                                                       const std::vector<std::string>& skipped);
