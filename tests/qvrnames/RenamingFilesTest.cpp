@@ -25,8 +25,9 @@ TEST(RenamingFiles, ChangesTheBytesOfOneName) {
     const TestFolder folder;
     for (const auto& [text, feature, name, expected] : rows) {
         const std::string file = folder.Write("document.json", text);
+        const std::vector<std::string> arguments{"rename", file, feature, name, "--force"};
         RunResult result{};
-        const std::string stray = CapturedOutput([&] { result = RunWith({"rename", file, feature, name, "--force"}); });
+        const std::string stray = CapturedOutput([&] { result = RunWith(arguments); });
         EXPECT_EQ(stray, "") << "the library printed a refusal";
         EXPECT_EQ(result.code, 0) << result.err;
         EXPECT_EQ(ReadFile(file), expected);

@@ -10,10 +10,12 @@
 #include "QVRGenZFXUnicodeStringUtils.h"
 #include "QVRNameUtil.h"
 #include "analysis/ZFXIAlias.h"
+#include "object-model/ZFXImplements.h"
 
 #include <algorithm>
-#include <numeric>
 #include <tuple>
+#include <unordered_map>
+#include <utility>
 
 namespace {
 
@@ -35,9 +37,8 @@ constexpr const char* kTextRules[] = {"NameLengthERR_01", "NameLengthERR_02", kL
 
 /// A fix and its state during the rounds.
 struct Fix : NameFix {
-    bool isTextBroken = false; ///< the former name breaks a rule about its text
-    bool isNumbered = false;   ///< a number was appended to the name
-    int changes = 0;           ///< the number of changes so far
+    bool isNumbered = false; ///< a number was appended to the name
+    int changes = 0;         ///< the number of changes so far
 };
 
 bool BreaksTextRule(const QVRNameFinding& finding) {
@@ -74,6 +75,23 @@ ZFXUnicodeString NumberingBase(const ZFXUnicodeString& name) {
     return stem.SubString(0, stem.GetLengthInChar() - excess) + "-";
 }
 
+/// Hashes and compares texts without regard to letter case.
+struct IgnoringCase {
+    std::size_t operator()(const ZFXUnicodeString& text) const { return text.HashIgnoringCase(); }
+    bool operator()(const ZFXUnicodeString& a, const ZFXUnicodeString& b) const { return a.Compare(b) != 0; }
+};
+
+/// An element of a scope that consists of its name only.
+class NameInScope final : public ZFXImplements<ZFXObject, ZFXIAlias> {
+public:
+    explicit NameInScope(ZFXUnicodeString name) : ZFXImplements(nullptr), m_name(std::move(name)) {}
+    void SetAlias(const ZFXUnicodeString& alias) override { m_name = alias; }
+    ZFXUnicodeString GetAlias() override { return m_name; }
+
+private:
+    ZFXUnicodeString m_name;
+};
+
 /// Finds the new names of a document.
 class NameFixer {
 public:
@@ -91,10 +109,17 @@ public:
     }
 
 private:
-    struct NumberRequest {
-        EntryIndex entry;
-        ZFXUnicodeString base;
+    using Rank = std::tuple<int, std::size_t, EntryIndex>; ///< with the offset in the file
+    using Bases = std::map<EntryIndex, ZFXUnicodeString>;  ///< by entry, of the names that get a number
+    /// Names that are numbered together.
+    struct NumberGroup {
+        std::vector<EntryIndex> entries;
+        ZFXListValZFXBaseUnknown_var inUse; ///< only names with the base of the group, so that the time is linear
     };
+    /// The groups by base, then by case or kWholeDocument.
+    using NumberGroups =
+        std::unordered_map<ZFXUnicodeString, std::map<EntryIndex, NumberGroup>, IgnoringCase, IgnoringCase>;
+    static constexpr EntryIndex kWholeDocument = DocumentEntry::kNone;
 
     EntryIndex EntryOf(const QVRNameFinding& finding) const { return m_entryOf.at(ZFXIdentityOf(finding.feature)); }
     std::string NameOf(EntryIndex entry) const { return m_loaded.entries[entry].feature.StoredAlias().ConvertToChar(); }
@@ -108,9 +133,7 @@ private:
         for (const QVRNameFinding& finding : findings) {
             const EntryIndex entry = EntryOf(finding);
             Fix& fix = m_fixes.try_emplace(entry, Fix{{VerdictOf(finding, m_entryOf), NameOf(entry)}}).first->second;
-            const bool isText = BreaksTextRule(finding);
-            fix.isTextBroken |= isText;
-            if (!isText && !IsClash(finding))
+            if (!BreaksTextRule(finding) && !IsClash(finding))
                 fix.obstacle = kOtherCause;
         }
     }
@@ -148,7 +171,7 @@ private:
     /// Removes the faults in the texts of the names. Returns false if there are none.
     bool CleanTexts(const NameFindings& findings) {
         bool hasFaults = false;
-        std::vector<NumberRequest> requests;
+        Bases bases;
         for (const QVRNameFinding& finding : findings) {
             const EntryIndex entry = EntryOf(finding);
             if (!CanChange(entry) || !BreaksTextRule(finding))
@@ -159,54 +182,51 @@ private:
             if (cleaned.IsNull() == 0)
                 Change(entry, cleaned);
             else if (base.IsNull() == 0)
-                requests.push_back({entry, base});
+                bases.emplace(entry, base);
             else
                 Leave(entry, kNoText);
         }
-        AppendNumbers(requests);
+        AppendNumbers(bases);
         return hasFaults;
     }
 
-    /// Returns the rank of a name: the lowest of several that clash is kept. Names that must not change come first,
-    /// then those whose former text is legal, then the others, each in document order.
-    std::pair<int, EntryIndex> RankOf(EntryIndex entry) const {
-        return {!CanChange(entry) ? 0 : m_fixes.at(entry).isTextBroken ? 2 : 1, entry};
+    /// Returns the rank of a name. Of two names that clash, the one with the lower rank remains. Names that must not
+    /// change come first, then those that have not changed, so that no new name displaces them, then the others, each
+    /// in the order of the file. A name whose text was illegal has changed before the clashes are examined.
+    Rank RankOf(EntryIndex entry) const {
+        return {!CanChange(entry) ? 0 : m_fixes.at(entry).changes == 0 ? 1 : 2, m_loaded.entries[entry].offset, entry};
     }
 
-    /// Returns by entry the first of the names that clash with each other, or the entry itself if its name is unique.
-    std::vector<EntryIndex> FirstOfClashes(const NameFindings& findings) const {
-        std::vector<EntryIndex> earlier(m_loaded.entries.size()); // in the group; the first refers to itself
-        std::iota(earlier.begin(), earlier.end(), EntryIndex{0});
-        const auto first = [&](EntryIndex entry) { // shortens the path to the first one
-            while (earlier[entry] != entry)
-                entry = earlier[entry] = earlier[earlier[entry]];
-            return entry;
-        };
+    /// Returns the names that must change because they clash with a name that remains, each with that name.
+    std::map<EntryIndex, EntryIndex> DecideClashes(const NameFindings& findings) const {
+        std::vector<std::pair<Rank, Rank>> clashes; // the higher rank first
         for (const QVRNameFinding& finding : findings) {
             const auto other = m_entryOf.find(ZFXIdentityOf(finding.other));
             if (!IsClash(finding) || other == m_entryOf.end())
                 continue;
-            const auto [low, high] = std::minmax({RankOf(first(EntryOf(finding))), RankOf(first(other->second))});
-            earlier[high.second] = low.second;
+            const auto [low, high] = std::minmax({RankOf(EntryOf(finding)), RankOf(other->second)});
+            clashes.emplace_back(high, low);
         }
-        for (EntryIndex& entry : earlier)
-            entry = first(entry);
-        return earlier;
+        std::ranges::sort(clashes); // every name is decided after the names of lower ranks
+        std::map<EntryIndex, EntryIndex> remaining;
+        for (const auto& [high, low] : clashes)
+            if (const auto entry = std::get<EntryIndex>(high); CanChange(entry))
+                if (const auto kept = std::get<EntryIndex>(low); !remaining.contains(kept))
+                    remaining.emplace(entry, kept);
+        return remaining;
     }
 
-    /// Appends numbers to the names that clash, except the first of each group. Returns false if no name can change.
+    /// Gives the names that must change because of a clash the base of the name that remains. Returns false if there
+    /// are none.
     bool NumberClashes(const NameFindings& findings) {
-        const std::vector<EntryIndex> first = FirstOfClashes(findings);
-        std::vector<NumberRequest> requests;
-        for (const EntryIndex entry : m_named) {
-            if (first[entry] == entry || !CanChange(entry))
-                continue;
-            const MemoryFeature kept = m_loaded.entries[first[entry]].feature;
+        Bases bases;
+        for (const auto& [entry, remaining] : DecideClashes(findings)) {
+            const MemoryFeature kept = m_loaded.entries[remaining].feature;
             const ZFXUnicodeString name = kept.StoredAlias();
-            requests.push_back({entry, name.IsNull() != 0 ? BaseNameOf(kept) : NumberingBase(name)});
+            bases.emplace(entry, name.IsNull() != 0 ? BaseNameOf(kept) : NumberingBase(name));
         }
-        AppendNumbers(requests);
-        return !requests.empty();
+        AppendNumbers(bases);
+        return !bases.empty();
     }
 
     /// Leaves the names for which nothing can be changed. Returns false if there are none.
@@ -221,36 +241,45 @@ private:
     }
 
     /// Sets each name to its base and the next number in the case. If the former number clashes with a name outside the
-    /// case, as with jobs, sets it to the next number in the document.
-    void AppendNumbers(const std::vector<NumberRequest>& requests) {
-        struct Group {
-            std::vector<EntryIndex> entries;
-            ZFXListValZFXBaseUnknown_var features; ///< only those with this base, so that the time is linear
-        };
-        if (requests.empty())
-            return;
-        constexpr EntryIndex kWholeDocument = DocumentEntry::kNone;
-        std::map<std::pair<EntryIndex, std::string>, Group> groups; // by case or kWholeDocument, and base
-        for (const auto& [entry, base] : requests) {
+    /// case, as with jobs, sets it to the next number in the document. Bases that differ only in letter case are
+    /// numbered together. The numbers increase in the order of the file.
+    void AppendNumbers(const Bases& bases) {
+        NumberGroups groups;
+        for (const auto& [entry, base] : bases) {
             Fix& fix = m_fixes.at(entry);
-            const EntryIndex scope = fix.isNumbered ? kWholeDocument : CaseOf(m_loaded, entry);
-            groups[{scope, base.ConvertToChar()}].entries.push_back(entry);
+            groups[base][fix.isNumbered ? kWholeDocument : CaseOf(m_loaded, entry)].entries.push_back(entry);
             fix.isNumbered = true;
         }
+        if (!groups.empty())
+            AddNamesInUse(groups);
+        for (auto& [base, groupsOfBase] : groups)
+            for (auto& [scope, group] : groupsOfBase) {
+                std::ranges::sort(group.entries, {}, [&](EntryIndex entry) { return m_loaded.entries[entry].offset; });
+                ZFXUnicodeString spelling = base;
+                ZFXListValZFXUnicodeString names;
+                std::ignore = QVRNameUtil::GetNextUniqueNames(
+                    spelling, group.inUse, static_cast<int>(group.entries.size()), names); // S_OK: there is an entry
+                auto name = names.begin();
+                for (const EntryIndex entry : group.entries)
+                    Change(entry, bases.at(entry) + (name++)->SubString(base.GetLengthInChar(), -1));
+            }
+    }
+
+    /// Adds every name to the groups with its base.
+    void AddNamesInUse(NumberGroups& groups) const {
         for (const EntryIndex entry : m_named) {
-            const MemoryFeature feature = m_loaded.entries[entry].feature;
-            const std::string base = NumberingBase(feature.StoredAlias()).ConvertToChar();
+            const ZFXUnicodeString name = m_loaded.entries[entry].feature.StoredAlias();
+            const auto found = groups.find(NumberingBase(name));
+            if (found == groups.end())
+                continue;
+            auto& [base, groupsOfBase] = *found;
+            // The library compares bases exactly, so the name gets the spelling of the key.
+            const ZFXUnicodeString spelled = base + name.SubString(base.GetLengthInChar(), -1);
+            if (spelled.Compare(name) == 0)
+                continue; // the base is not in the name, because it was shortened or the name has no number
             for (const EntryIndex scope : {CaseOf(m_loaded, entry), kWholeDocument})
-                if (const auto group = groups.find({scope, base}); group != groups.end())
-                    group->second.features.Append(feature);
-        }
-        for (const auto& [key, group] : groups) {
-            ZFXUnicodeString base(key.second.c_str());
-            ZFXListValZFXUnicodeString names;
-            std::ignore = QVRNameUtil::GetNextUniqueNames(base, group.features, static_cast<int>(group.entries.size()),
-                                                          names); // S_OK, because there is an entry
-            for (std::size_t i = 0; i < group.entries.size(); ++i)
-                Change(group.entries[i], names[static_cast<int>(i) + 1]);
+                if (const auto group = groupsOfBase.find(scope); group != groupsOfBase.end())
+                    group->second.inUse.Append(ZFXIAlias_var::Attach(new NameInScope(spelled)));
         }
     }
 

@@ -16,8 +16,18 @@ struct NameFix {
 
 /// Returns the fixes by entry, for every name that an audit refuses. The document is unchanged.
 ///
-/// With the new names, an audit refuses only the names that are left. Names that it accepts now have no fix. Of several
-/// names that clash, the first in document order remains, unless its text breaks a rule. A name is left if
+/// With the new names, an audit refuses only the names that are left. Names that it accepts now have no fix.
+///
+/// Of two names that clash, the first of these remains:
+/// - a name that is accepted or left,
+/// - a name whose former text is legal,
+/// - the first in the file.
+///
+/// The other name gets the base of the name that remains, in its spelling, and the next number in the case, as
+/// QVRNameUtil::GetNextUniqueNames counts. Bases that differ only in letter case are counted together. If the result
+/// clashes too, it gets the next number in the document.
+///
+/// A name is left if
 /// - it breaks a rule that is not about its text or a clash, such as "StepParentERR_01";
 /// - no character of it is legal, and its type has no base name;
 /// - no legal and unique name is found, for example because its late type breaks the rules too.
