@@ -108,9 +108,10 @@ TEST(Commands, IgnoreTheFindingsOfABaseline) {
 
 TEST(Commands, PrintAbsolutePathsAsUris) {
     const TestFolder folder;
-    const std::string document = folder.Write("ä b.json", R"({"cases": [{"name": "1"}]})");
+    const std::string document = folder.Write("a b.json", R"({"cases": [{"name": "1"}]})");
     const std::string sarif = RunWith({"audit", document, "--format", "sarif"}).out;
-    EXPECT_TRUE(std::regex_search(sarif, std::regex("\"uri\": \"file:///[^ ]*/%C3%A4%20b\\.json\""))) << sarif;
+    EXPECT_TRUE(std::regex_search(sarif, std::regex("\"uri\": \"file:///[^ ]*Tr%C3%A4ger[^ ]*/a%20b\\.json\"")))
+        << sarif;
 }
 
 TEST(Commands, ReturnTwoForUnusableFiles) {
