@@ -11,6 +11,7 @@
 #include <string_view>
 #include <system_error>
 #include <tuple>
+#include <utility>
 
 #include <windows.h>
 
@@ -62,6 +63,17 @@ bool IsSameFile(HANDLE a, HANDLE b) {
     return GetFileInformationByHandle(a, &ofA) != 0 && GetFileInformationByHandle(b, &ofB) != 0 &&
            ofA.dwVolumeSerialNumber == ofB.dwVolumeSerialNumber && ofA.nFileIndexHigh == ofB.nFileIndexHigh &&
            ofA.nFileIndexLow == ofB.nFileIndexLow;
+}
+
+/// Opens a file to lock it. ReplaceFileW takes the name away for a moment, so a missing file is looked up again for
+/// 100 ms.
+HANDLE OpenToLock(const std::filesystem::path& name) {
+    HANDLE file = OpenExisting(name, GENERIC_READ);
+    for (int i = 0; i < 10 && file == INVALID_HANDLE_VALUE && GetLastError() == ERROR_FILE_NOT_FOUND; ++i) {
+        Sleep(10);
+        file = OpenExisting(name, GENERIC_READ);
+    }
+    return file;
 }
 
 bool HasAttribute(DWORD attributes, DWORD attribute) {
@@ -144,19 +156,20 @@ std::string ReadWholeFile(const std::string& path) {
 
 std::shared_ptr<void> LockFile(const std::string& path, const std::function<void()>& waits) {
     const std::filesystem::path name = Utf8::ToPath(path);
-    for (bool mustWait = false;;) {
-        auto file = std::make_shared<FileHandle>(OpenExisting(name, GENERIC_READ));
+    for (bool hasWaited = false;;) {
+        auto file = std::make_shared<FileHandle>(OpenToLock(name));
         if (!file->IsOpen())
             ThrowFileError(path, "read");
-        OVERLAPPED lastByte{}; // not a byte of a document, because other programs may not read a locked byte
-        lastByte.Offset = lastByte.OffsetHigh = 0x7FFFFFFF;
-        const DWORD mode = mustWait ? LOCKFILE_EXCLUSIVE_LOCK : LOCKFILE_EXCLUSIVE_LOCK | LOCKFILE_FAIL_IMMEDIATELY;
-        if (LockFileEx(*file, mode, 0, 1, 0, &lastByte) == 0) {
-            if (mustWait || GetLastError() != ERROR_LOCK_VIOLATION)
+        const auto lock = [&](DWORD mode) {
+            OVERLAPPED lastByte{}; // not a byte of a document, because other programs may not read a locked byte
+            lastByte.Offset = lastByte.OffsetHigh = 0x7FFFFFFF;
+            return LockFileEx(*file, LOCKFILE_EXCLUSIVE_LOCK | mode, 0, 1, 0, &lastByte) != 0;
+        };
+        if (!lock(LOCKFILE_FAIL_IMMEDIATELY)) {
+            if (GetLastError() == ERROR_LOCK_VIOLATION && !std::exchange(hasWaited, true))
+                waits();
+            if (!lock(0))
                 ThrowFileError(path, "locked");
-            mustWait = true;
-            waits();
-            continue;
         }
         // The former owner of the lock may have replaced the file; then the locked file no longer has this path.
         const FileHandle current(OpenExisting(name, GENERIC_READ));
